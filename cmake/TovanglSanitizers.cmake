@@ -1,0 +1,9 @@
+# TOVANGL_SANITIZE: a sanitizer list as the compiler takes it, e.g. "address,undefined" or "thread".
+# It covers every target of the build, tests and programs included.
+set(TOVANGL_SANITIZE "" CACHE STRING "Sanitizers to build with, as in -fsanitize=LIST")
+
+if(TOVANGL_SANITIZE)
+    add_compile_options(-fsanitize=${TOVANGL_SANITIZE} -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer -g)
+    add_link_options(-fsanitize=${TOVANGL_SANITIZE})
+endif()

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The colour record of the public interface.
+#ifndef TOVANGL_COLOR_H
+#define TOVANGL_COLOR_H
+
+namespace tovangl {
+
+/// An opaque colour. Each channel ranges from 0 to 255; a colour with a channel outside that range
+/// counts as not set, and the chart uses its default in its place.
+struct Color
+{
+    int red;
+    int green;
+    int blue;
+};
+
+} // namespace tovangl
+
+#endif

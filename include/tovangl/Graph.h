@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// What every chart of the public interface can do.
+#ifndef TOVANGL_GRAPH_H
+#define TOVANGL_GRAPH_H
+
+#include <tovangl/Export.h>
+#include <tovangl/Rectangle.h>
+
+#include <list>
+#include <string>
+
+namespace tovangl {
+
+class CGraph1dBase;
+
+/// The base of the charts: settings, export as PNG, and the caption rectangles.
+///
+/// Use VerticalBarGraph, HorizontalBarGraph or PieGraph; a plain Graph holds no chart, and its
+/// operations do nothing. A chart is used by one thread at a time; different charts may be used by
+/// different threads at once. Strings are UTF-8; broken sequences become replacement characters.
+///
+/// Only std::bad_alloc can leave a call. The chart can be used again afterwards.
+class TOVANGL_EXPORT Graph
+{
+public:
+    Graph();
+    virtual ~Graph();
+
+    Graph(const Graph&) = delete;
+    Graph& operator=(const Graph&) = delete;
+
+    /// Removes all items. Settings, and the bytes of the last export, are kept.
+    void clear();
+
+    /// Frees the bytes of the last export. Calling it again is harmless.
+    void freePixmap();
+
+    /// Leaves out items whose share of the total is smaller than this.
+    ///
+    /// The total is the sum of all magnitudes. Nothing is drawn for an item left out, and its value
+    /// is not gathered anywhere.
+    ///
+    /// @param percent  per cent of the total; a negative value acts as 0, NaN leaves out every item
+    void setThreshold(double percent);
+
+    /// The threshold in per cent; 0 where there is no chart.
+    double threshold() const;
+
+    /// Sets the font of all texts. The default is "Tahoma" at 11 pixels.
+    ///
+    /// @param family     family name; a family that is not installed is replaced by the system's
+    ///                   best match; only its first 256 characters are used
+    /// @param pixelSize  size in pixels before the print factor; below 1 the system's default size
+    ///                   is used, above 30,000 it is 30,000
+    void setFont(const std::string& family, int pixelSize);
+
+    /// Sets how numbers are written: digits, group separators and decimal point.
+    ///
+    /// The default is the process's locale (LC_ALL, LC_NUMERIC, LANG in the environment).
+    ///
+    /// @param language  its first two characters count, e.g. "de"
+    /// @param country   its first two characters count, e.g. "at"; a pair that the system does not
+    ///                  know gives the "C" locale
+    void setLocale(const std::string& language, const std::string& country);
+
+    /// Where the captions were drawn: one rectangle for each item, in the order of adding.
+    ///
+    /// The rectangles are those of the last rendering: all zero for a hidden caption and for an
+    /// item never drawn, and those of an earlier rendering for an item that the threshold left out.
+    ///
+    /// @return a list owned by this object and rewritten by the next call; never null
+    std::list<Rectangle>* getRectangle();
+
+    /// Renders the chart as a PNG image.
+    ///
+    /// The bytes stay owned by this object: do not free them. They live until the next export,
+    /// freePixmap() or the destructor. A picture that cannot be made gives a non-null pointer with
+    /// *size 0: a width or height below 1 or above 1,000,000, more than 2^31 - 1 bytes at four
+    /// bytes a pixel, no memory for the picture, or no offscreen platform plugin of Qt on the
+    /// machine.
+    ///
+    /// @param width, height  picture size in pixels
+    /// @param data           receives the first byte; not null
+    /// @param size           receives the number of bytes; not null
+    void createPixmap(int width, int height, unsigned char** data, int* size);
+
+    /// Renders the chart for print: factor times as many pixels each way, with fonts, margins and
+    /// lines factor times as large, no gradient background, and slices in paler colours.
+    ///
+    /// @param width, height  size in pixels before the factor is applied
+    /// @param factor         whole-number resolution; below 1 counts as 1
+    /// @param data, size     as for createPixmap()
+    void createPixmapForPrinter(int width, int height, int factor, unsigned char** data, int* size);
+
+protected:
+    CGraph1dBase* m_graph; // owned by the derived class; null in a plain Graph
+
+private:
+    template <typename Surface>
+    void paintDevice2Bytes(const Surface& surface, unsigned char** data, int* size);
+
+    unsigned char* m_pixmapData;        // owned
+    std::list<Rectangle>* m_rectangles; // owned
+};
+
+} // namespace tovangl
+
+#endif

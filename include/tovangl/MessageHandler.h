@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Silences the process's Qt messages.
+#ifndef TOVANGL_MESSAGEHANDLER_H
+#define TOVANGL_MESSAGEHANDLER_H
+
+#include <tovangl/Export.h>
+
+namespace tovangl {
+
+/// Installs a Qt message handler that discards every Qt debug, warning and critical message of the
+/// process. The handler that was installed before is not kept. Nothing leaves the call.
+TOVANGL_EXPORT void installEmptyMsgHandler();
+
+} // namespace tovangl
+
+#endif

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The pie chart.
+#ifndef TOVANGL_PIEGRAPH_H
+#define TOVANGL_PIEGRAPH_H
+
+#include <tovangl/Color.h>
+#include <tovangl/Export.h>
+#include <tovangl/Graph.h>
+
+#include <string>
+
+namespace tovangl {
+
+class CPieGraph;
+
+/// A pie with a caption, and on request the size in bytes, beside each slice.
+///
+/// Slices run clockwise from nine o'clock in the order of adding.
+class TOVANGL_EXPORT PieGraph : public Graph
+{
+public:
+    /// The bits of setProperty().
+    enum Property
+    {
+        BoldLabels = 0x08,      ///< labels in bold type
+        ShortenFromLeft = 0x40, ///< long captions lose their beginning, not their end
+        RemoveLabelOverlaps =
+            0x80, ///< colliding labels are moved apart, and hidden where they cannot all fit
+        ShowSizes = 0x100, ///< labels end in the value as a size in bytes, such as [1.5 KB]
+        DefaultProperties = RemoveLabelOverlaps | ShowSizes
+    };
+
+    /// @param background  paint a pale blue gradient behind the pie (never in print)
+    explicit PieGraph(bool background);
+    ~PieGraph() override;
+
+    /// Adds a slice in the next of six default colours.
+    ///
+    /// @param value  any number; only values above 0 are drawn, and the magnitudes of negative ones
+    ///               count toward the total that the threshold is taken from
+    /// @param text   caption, UTF-8
+    /// @return true
+    bool addItem(long value, const std::string& text);
+
+    /// Adds a slice in a colour of its own.
+    bool addItem(long value, const std::string& text, const Color& color);
+
+    /// Replaces all options.
+    ///
+    /// @param options  sum of Property bits; other bits are ignored
+    void setProperty(int options);
+
+    /// Sets the colours of the slices' outlines, of the label texts and of the lines that lead to
+    /// them. A colour with a channel outside 0 to 255 goes back to the default.
+    void setColors(const Color& outline, const Color& text, const Color& line);
+
+protected:
+    /// The chart behind this facade; for the library's own use.
+    CPieGraph* getGraph() const;
+};
+
+} // namespace tovangl
+
+#endif

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The vertical bar chart.
+#ifndef TOVANGL_VERTICALBARGRAPH_H
+#define TOVANGL_VERTICALBARGRAPH_H
+
+#include <tovangl/AxisProperty.h>
+#include <tovangl/Color.h>
+#include <tovangl/Export.h>
+#include <tovangl/Graph.h>
+
+#include <list>
+#include <string>
+
+namespace tovangl {
+
+class CBarGraph;
+
+/// Bars standing on a horizontal category axis, with the value scale and its grid lines at the
+/// left.
+class TOVANGL_EXPORT VerticalBarGraph : public Graph
+{
+public:
+    /// @param background  paint a gradient behind the bars, and a border around them
+    explicit VerticalBarGraph(bool background);
+    ~VerticalBarGraph() override;
+
+    /// Adds a bar in the next of six default colours, with a darker outline.
+    ///
+    /// @param value  length of the bar; a negative value gets its place and caption, but no bar
+    /// @param text   caption, UTF-8
+    /// @return true
+    bool addItem(long value, const std::string& text);
+
+    /// Adds a bar with a fill and an outline colour of its own.
+    bool addItem(long value, const std::string& text, const Color& color, const Color& outline);
+
+    /// Fixes where the axis lines stand, so that several charts line up.
+    ///
+    /// @param x  distance of the vertical axis line from the picture's left edge, in pixels before
+    ///           the print factor
+    /// @param y  distance of the horizontal axis line from the top edge, likewise; a negative or
+    ///           too large value leaves that line where the layout puts it
+    void setPosition(int x, int y);
+
+    /// Sets the width of every bar.
+    ///
+    /// @param width  pixels before the print factor; 0, the default, or less lets the bars share
+    ///               the axis
+    void setBarWidth(int width);
+
+    /// The width last set; 0 where bars share the axis.
+    int barWidth() const;
+
+    /// Sets what the category axis, below the bars, shows, and its title.
+    ///
+    /// @param properties  sum of AxisProperty bits; the default is ShowLine + ShowLabels +
+    ///                    HideOverlapped
+    /// @param title       UTF-8; drawn with ShowTitle only
+    void setHorizontalAxis(int properties, const std::string& title);
+
+    /// Sets what the value axis, at the left, shows, and its title.
+    ///
+    /// @param properties  sum of AxisProperty bits; the default is ShowLine + ShowLabels +
+    ///                    UnitPrefixes + HideOverlapped
+    /// @param title       UTF-8; drawn with ShowTitle only
+    void setVerticalAxis(int properties, const std::string& title);
+
+    /// Sets the colour of axes, labels and values. There is no way back to the default, black.
+    void setColor(const Color& color);
+
+    /// Where the bars were drawn in the last rendering: one rectangle for each bar that the
+    /// threshold did not leave out, in the order of adding; all zero for a bar without extent.
+    /// Empty before the first rendering.
+    ///
+    /// @return a list owned by this object and rewritten by the next call; never null
+    std::list<Rectangle>* getBarRectangle();
+
+protected:
+    /// The chart behind this facade; for the library's own use.
+    CBarGraph* getGraph() const;
+
+private:
+    std::list<Rectangle>* m_barRectangles; // owned
+};
+
+} // namespace tovangl
+
+#endif

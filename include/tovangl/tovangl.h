@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The whole public interface.
+#ifndef TOVANGL_TOVANGL_H
+#define TOVANGL_TOVANGL_H
+
+#include <tovangl/AxisProperty.h>
+#include <tovangl/Color.h>
+#include <tovangl/Export.h>
+#include <tovangl/Graph.h>
+#include <tovangl/HorizontalBarGraph.h>
+#include <tovangl/MessageHandler.h>
+#include <tovangl/PieGraph.h>
+#include <tovangl/Rectangle.h>
+#include <tovangl/VerticalBarGraph.h>
+
+#endif

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// From the host's types to the library's own, and back.
+#include "api/conversions.h"
+
+#include "core/pixel_arithmetic.h"
+
+#include <limits>
+#include <new>
+
+namespace tovangl {
+
+namespace {
+
+constexpr int kLargestChannel = 255;
+
+bool isChannel(int value)
+{
+    return value >= 0 && value <= kLargestChannel;
+}
+
+int inclusiveExtent(int first, int last)
+{
+    return clampToInt(std::int64_t{last} - first + 1);
+}
+
+} // namespace
+
+QString toQString(const std::string& text)
+{
+    if (text.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
+        throw std::bad_alloc();
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+QColor toQColor(const Color& color)
+{
+    const bool isSet = isChannel(color.red) && isChannel(color.green) && isChannel(color.blue);
+    return isSet ? QColor(color.red, color.green, color.blue) : QColor();
+}
+
+Rectangle toRectangle(const QRect& rect)
+{
+    return Rectangle{rect.left(), rect.top(), inclusiveExtent(rect.left(), rect.right()),
+                     inclusiveExtent(rect.top(), rect.bottom())};
+}
+
+void assignRectangles(std::list<Rectangle>& list, const std::list<QRect>& rects)
+{
+    std::list<Rectangle> converted;
+    for (const QRect& rect : rects)
+        converted.push_back(toRectangle(rect));
+    list.swap(converted);
+}
+
+} // namespace tovangl

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// From the host's types to the library's own, and back.
+#ifndef TOVANGL_API_CONVERSIONS_H
+#define TOVANGL_API_CONVERSIONS_H
+
+#include <tovangl/Color.h>
+#include <tovangl/Rectangle.h>
+
+#include <QColor>
+#include <QRect>
+#include <QString>
+
+#include <list>
+#include <string>
+
+namespace tovangl {
+
+/// Decodes the whole length of a UTF-8 string: a NUL inside is a character.
+[[nodiscard]] QString toQString(const std::string& text);
+
+/// An opaque colour; invalid, that is not set, where a channel is outside 0 to 255.
+[[nodiscard]] QColor toQColor(const Color& color);
+
+[[nodiscard]] Rectangle toRectangle(const QRect& rect);
+
+/// Replaces the list's content. Where memory runs out the list keeps the old one.
+void assignRectangles(std::list<Rectangle>& list, const std::list<QRect>& rects);
+
+} // namespace tovangl
+
+#endif

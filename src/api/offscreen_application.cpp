@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+// The application object that fonts and painting need in a host without a display.
+#include "api/offscreen_application.h"
+
+#include "core/qt_versions.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QPluginLoader>
+
+#include <clocale>
+#include <mutex>
+#include <string>
+
+namespace tovangl {
+
+namespace {
+
+std::mutex applicationMutex;
+
+// Discards Qt's messages for the length of a scope.
+class CMessageSilencer
+{
+public:
+    CMessageSilencer()
+        : m_previous(qt::installMessageHandler(qt::discardMessage))
+    {}
+    ~CMessageSilencer() { qt::installMessageHandler(m_previous); }
+    Q_DISABLE_COPY(CMessageSilencer)
+
+private:
+    qt::MessageHandler m_previous;
+};
+
+// Qt sets the C locale from the environment when an application object is made.
+class CLocaleKeeper
+{
+public:
+    CLocaleKeeper()
+        : m_locale(std::setlocale(LC_ALL, nullptr))
+    {}
+    ~CLocaleKeeper() { std::setlocale(LC_ALL, m_locale.c_str()); }
+    Q_DISABLE_COPY(CLocaleKeeper)
+
+private:
+    std::string m_locale;
+};
+
+QStringList platformFolders()
+{
+    QStringList folders;
+    const QByteArray own = qgetenv("QT_QPA_PLATFORM_PLUGIN_PATH");
+    if (!own.isEmpty())
+        folders << QString::fromLocal8Bit(own.constData());
+    const QStringList libraryPaths = QCoreApplication::libraryPaths();
+    for (const QString& path : libraryPaths)
+        folders << path + QLatin1String("/platforms");
+    return folders;
+}
+
+// Qt ends the process where the platform plugin cannot be loaded, so it is loaded here first.
+bool canLoadOffscreenPlugin()
+{
+    const QStringList folders = platformFolders();
+    for (const QString& folder : folders) {
+        const QDir dir(folder);
+        const QStringList files = dir.entryList(QStringList(QLatin1String("libqoffscreen*.so")));
+        for (const QString& file : files) {
+            QPluginLoader loader(dir.absoluteFilePath(file));
+            if (loader.load())
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool ensureApplication()
+{
+    const std::lock_guard<std::mutex> lock(applicationMutex);
+    if (qt::canPaint())
+        return true;
+    const CMessageSilencer silencer;
+    const CLocaleKeeper keeper;
+    if (qt::kNeedsPlatformPlugin && !canLoadOffscreenPlugin())
+        return false;
+    qt::makeApplication();
+    return qt::canPaint();
+}
+
+namespace {
+
+// Makes the object when the library is loaded, so that it belongs to no later thread by chance.
+[[maybe_unused]] const bool madeAtLoad = ensureApplication();
+
+} // namespace
+
+} // namespace tovangl

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// Text measured and drawn with ascent and descent each rounded up to whole pixels.
+#include "core/whole_pixel_text.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTextLayout>
+#include <QTextOption>
+
+#include <cmath>
+
+namespace tovangl {
+namespace qt {
+
+namespace {
+
+constexpr qreal kUnlimitedWidth = 0x01000000; // pixels
+// A text may hold variants of different lengths, separated by this character: the first one that
+// fits is shown.
+constexpr ushort kVariantSeparator = 0x9c;
+
+struct CLineMetrics
+{
+    qreal height;
+    qreal leading;
+};
+
+// The leading that is left of a whole-pixel line pitch once ascent and descent are whole too; it
+// can be negative.
+CLineMetrics wholePixelMetrics(const QFont& font)
+{
+    const QFontMetricsF metrics(font);
+    const qreal height = std::ceil(metrics.ascent()) + std::ceil(metrics.descent());
+    const qreal pitch =
+        std::floor(metrics.ascent() + metrics.descent() + metrics.leading() + qreal(0.5));
+    return {height, pitch - height};
+}
+
+// The painter's own treatment of control characters.
+QString printableText(QString text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        if (text.at(i) == QLatin1Char('\n'))
+            text[i] = QChar(QChar::LineSeparator);
+        else if (text.at(i) == QLatin1Char('\r') || text.at(i) == QLatin1Char('\t'))
+            text[i] = QLatin1Char(' ');
+    }
+    return text;
+}
+
+// Lays out lines from the top until the room is filled. Returns the extent.
+QSizeF layoutLines(QTextLayout& layout, qreal lineWidth, qreal room, qreal leading)
+{
+    qreal height = -leading;
+    qreal width = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(lineWidth);
+        height = std::ceil(height + leading);
+        const qreal ascent = std::ceil(line.ascent());
+        line.setPosition(QPointF(0, height + ascent - line.ascent()));
+        height += ascent + std::ceil(line.descent());
+        width = qMax(width, line.naturalTextWidth());
+        if (height >= room)
+            break;
+    }
+    layout.endLayout();
+    return QSizeF(width, height);
+}
+
+// The gap above or before a text in its room.
+qreal alignedOffset(qreal gap, bool atEnd, bool centred)
+{
+    return atEnd ? gap : centred ? gap / 2 : 0;
+}
+
+void drawLines(QPainter& painter, const QRectF& rect, const QTextLayout& layout, qreal top,
+               Qt::Alignment alignment)
+{
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        const qreal left = alignedOffset(rect.width() - line.horizontalAdvance(),
+                                         alignment & Qt::AlignRight, alignment & Qt::AlignHCenter);
+        line.draw(&painter, QPointF(rect.x() + left, rect.y() + top));
+    }
+}
+
+// Draws one variant; where there is another one to try, only if this one fits.
+bool drawVariant(QPainter& painter, const QRectF& rect, const QString& text,
+                 const QTextOption& option, bool isLast)
+{
+    if (text.isEmpty())
+        return isLast || rect.contains(QRectF(rect.topLeft(), QSizeF(0, 0)));
+
+    const Qt::Alignment alignment = option.alignment();
+    QTextOption lineOption = option;
+    lineOption.setAlignment(Qt::AlignLeft); // lines are aligned when they are drawn
+    QTextLayout layout(text, painter.font());
+    layout.setTextOption(lineOption);
+    layout.setCacheEnabled(true);
+
+    const bool wraps = option.wrapMode() != QTextOption::NoWrap;
+    const QSizeF size = layoutLines(layout, wraps ? qMax<qreal>(0, rect.width()) : kUnlimitedWidth,
+                                    rect.height(), wholePixelMetrics(painter.font()).leading);
+    const qreal left = alignedOffset(rect.width() - size.width(), alignment & Qt::AlignRight,
+                                     alignment & Qt::AlignHCenter);
+    const qreal top = alignedOffset(rect.height() - size.height(), alignment & Qt::AlignBottom,
+                                    alignment & Qt::AlignVCenter);
+    const bool fits = rect.contains(QRectF(rect.topLeft() + QPointF(left, top), size));
+    if (!fits && !isLast)
+        return false;
+
+    if (!fits) {
+        painter.save();
+        painter.setClipRect(rect, Qt::IntersectClip);
+    }
+    drawLines(painter, rect, layout, top, alignment);
+    if (!fits)
+        painter.restore();
+    return true;
+}
+
+} // namespace
+
+int wholePixelFontHeight(const QPainter& painter)
+{
+    return static_cast<int>(wholePixelMetrics(painter.font()).height);
+}
+
+QRectF measureWholePixelText(const QPainter& painter, const QRectF& rect, const QString& text)
+{
+    if (text.isEmpty())
+        return QRectF(rect.topLeft(), QSizeF(0, 0));
+
+    const CLineMetrics metrics = wholePixelMetrics(painter.font());
+    // No variant fits into no room, so the last one is measured.
+    const QString last = printableText(text.mid(text.lastIndexOf(QChar(kVariantSeparator)) + 1));
+    if (last.isEmpty())
+        return QRectF(rect.topLeft(), QSizeF(0, metrics.height));
+
+    QTextOption option(Qt::AlignLeft);
+    option.setTextDirection(painter.layoutDirection());
+    QTextLayout layout(last, painter.font());
+    layout.setTextOption(option);
+    return QRectF(rect.topLeft(),
+                  layoutLines(layout, kUnlimitedWidth, kUnlimitedWidth, metrics.leading));
+}
+
+void drawWholePixelText(QPainter& painter, const QRectF& rect, const QString& text,
+                        const QTextOption& option)
+{
+    const QString printable = printableText(text);
+    int begin = 0;
+    while (begin <= printable.size()) {
+        const int separator = static_cast<int>(printable.indexOf(QChar(kVariantSeparator), begin));
+        const int end = separator < 0 ? static_cast<int>(printable.size()) : separator;
+        if (drawVariant(painter, rect, printable.mid(begin, end - begin), option, separator < 0))
+            return;
+        begin = end + 1;
+    }
+}
+
+} // namespace qt
+} // namespace tovangl
