@@ -98,7 +98,7 @@ protected:
 
 private:
     template <typename Surface>
-    void paintDevice2Bytes(const Surface& surface, unsigned char** data, int* size);
+    void paintDevice2Bytes(Surface& surface, unsigned char** data, int* size);
 
     unsigned char* m_pixmapData;        // owned
     std::list<Rectangle>* m_rectangles; // owned

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What every chart of the public interface can do.
 #include "api/conversions.h"
+#include "api/image_narrowing.h"
 #include "api/offscreen_application.h"
 #include "core/CGraph1dBase.h"
 #include <tovangl/Graph.h>
@@ -74,8 +75,8 @@ void Graph::createPixmap(int width, int height, unsigned char** data, int* size)
 {
     if (!m_graph)
         return;
-    paintDevice2Bytes(ensureApplication() ? m_graph->getImage(width, height) : QImage(), data,
-                      size);
+    QImage image = ensureApplication() ? m_graph->getImage(width, height) : QImage();
+    paintDevice2Bytes(image, data, size);
 }
 
 void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned char** data,
@@ -83,20 +84,20 @@ void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned c
 {
     if (!m_graph)
         return;
-    paintDevice2Bytes(ensureApplication() ? m_graph->getImageForPrinter(width, height, factor)
-                                          : QImage(),
-                      data, size);
+    QImage image =
+        ensureApplication() ? m_graph->getImageForPrinter(width, height, factor) : QImage();
+    paintDevice2Bytes(image, data, size);
 }
 
 template <typename Surface>
-void Graph::paintDevice2Bytes(const Surface& surface, unsigned char** data, int* size)
+void Graph::paintDevice2Bytes(Surface& surface, unsigned char** data, int* size)
 {
     constexpr int kDefaultQuality = -1;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     // Deliberate: a picture that cannot be saved, the null picture above all, leaves no bytes.
-    surface.save(&buffer, "PNG", kDefaultQuality);
+    narrowImage(surface).save(&buffer, "PNG", kDefaultQuality);
 
     const int length = static_cast<int>(bytes.size());
     auto pixmapData = std::make_unique<unsigned char[]>(static_cast<std::size_t>(length));

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The different colours of a picture, numbered in the order in which they were met.
+#ifndef TOVANGL_API_CCOLORINDEX_H
+#define TOVANGL_API_CCOLORINDEX_H
+
+#include <QColor>
+#include <QVector>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace tovangl {
+
+/// A hash table with open addressing, four times as large as the palette that it may hold.
+class CColorIndex
+{
+public:
+    static constexpr int kMaxColors = 256;
+
+    /// Numbers a colour that is new. False, and nothing added, where it would be the 257th.
+    [[nodiscard]] bool add(QRgb color)
+    {
+        CSlot& slot = m_slots[findSlot(color)];
+        if (slot.number != kFree)
+            return true;
+        if (m_count == kMaxColors)
+            return false;
+        slot = {color, static_cast<std::int16_t>(m_count)};
+        m_colors[static_cast<std::size_t>(m_count)] = color;
+        ++m_count;
+        return true;
+    }
+
+    /// The number of a colour that was added.
+    [[nodiscard]] int indexOf(QRgb color) const { return m_slots[findSlot(color)].number; }
+
+    [[nodiscard]] int count() const { return m_count; }
+
+    /// The colours by number.
+    [[nodiscard]] QVector<QRgb> colors() const
+    {
+        QVector<QRgb> result;
+        result.reserve(m_count);
+        for (int i = 0; i < m_count; ++i)
+            result.append(m_colors[static_cast<std::size_t>(i)]);
+        return result;
+    }
+
+private:
+    static constexpr std::size_t kSlots = 1024;
+    static constexpr std::int16_t kFree = -1;
+
+    struct CSlot
+    {
+        QRgb color = 0;
+        std::int16_t number = kFree;
+    };
+
+    // Multiplicative hashing by the golden ratio (Knuth, The Art of Computer Programming, 6.4).
+    [[nodiscard]] static std::size_t hash(QRgb color) { return (color * 2654435769U) >> 22U; }
+
+    // The colour's slot, or the free one where it belongs.
+    [[nodiscard]] std::size_t findSlot(QRgb color) const
+    {
+        std::size_t slot = hash(color);
+        while (m_slots[slot].number != kFree && m_slots[slot].color != color)
+            slot = (slot + 1) % kSlots;
+        return slot;
+    }
+
+    std::array<CSlot, kSlots> m_slots;
+    std::array<QRgb, kMaxColors> m_colors{};
+    int m_count = 0;
+};
+
+} // namespace tovangl
+
+#endif
