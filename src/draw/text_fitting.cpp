@@ -124,13 +124,18 @@ double widthOrZero(double width)
     return std::max(width, 0.0);
 }
 
+double measureEllipsis(const TextMeasure& measure)
+{
+    return widthOrZero(measure(ellipsis()));
+}
+
 // A long text whose beginning alone is too wide need not be measured to its end.
-bool fitsWhole(const QString& text, double maxWidth, double slack, const TextMeasure& measure)
+bool fitsWhole(const QString& text, double maxWidth, const TextMeasure& measure)
 {
     if (text.isEmpty())
         return true;
     if (text.size() > kLongText && !text.contains(QChar(kVariantSeparator)) &&
-        measure(text.left(kLongText)) > maxWidth + slack)
+        measure(text.left(kLongText)) > maxWidth + slackOf(measureEllipsis(measure)))
         return false;
     return maxWidth >= widthOrZero(measure(text));
 }
@@ -159,20 +164,18 @@ CFittedText fitText(const QString& text, double maxWidth, bool fromLeft, bool st
     if (maxWidth < 0)
         return unfit;
 
-    const double ellipsisWidth = widthOrZero(measure(ellipsis()));
-    const double slack = slackOf(ellipsisWidth);
     QString copy = text;
-    if (fitsWhole(copy, maxWidth, slack, measure))
+    if (fitsWhole(copy, maxWidth, measure))
         return {true, copy};
     if (strip) {
         stripWhiteSpaces(copy, fromLeft, !fromLeft);
-        if (copy.size() != text.size() && fitsWhole(copy, maxWidth, slack, measure))
+        if (copy.size() != text.size() && fitsWhole(copy, maxWidth, measure))
             return {true, copy};
     }
     if (copy.size() < 2)
         return unfit;
 
-    const int kept = CCutFinder(copy, maxWidth, ellipsisWidth, fromLeft, measure).find();
+    const int kept = CCutFinder(copy, maxWidth, measureEllipsis(measure), fromLeft, measure).find();
     if (kept == kNothingFits)
         return unfit;
     const QString part = keptPart(copy, kept, fromLeft);
