@@ -99,10 +99,11 @@ QRect movedPixelRect(const R& rect, int dx, int dy)
     return Geometry::pixelRect({edges.left + dx, edges.top + dy, edges.width, edges.height});
 }
 
-template <typename R>
-R transposedRect(const R& rect)
+// Width and height exchanged.
+template <typename S>
+S transposedSize(const S& size)
 {
-    return R(rect.topLeft(), rect.size().transposed());
+    return S(size.height(), size.width());
 }
 
 } // namespace
@@ -203,7 +204,7 @@ void CTextLabel<P, R>::draw(QPainter& painter, const R& rect, const QTextOption&
         return;
     initBoundingRect(painter);
     if (m_rotated)
-        drawRotated(painter, transposedRect(rect), option);
+        drawRotated(painter, R(rect.topLeft(), transposedSize(rect.size())), option);
     else
         drawNormally(painter, rect, option);
 }
@@ -240,7 +241,7 @@ void CTextLabel<P, R>::drawRotated(QPainter& painter, const R& rect, const QText
     const CPainterSaver saver(painter);
     painter.translate(rect.topLeft());
     painter.rotate(kReadingUpward);
-    drawNormally(painter, R(P(0, 0), rect.size().transposed()), option);
+    drawNormally(painter, R(P(0, 0), transposedSize(rect.size())), option);
 }
 
 template <typename P, typename R>
