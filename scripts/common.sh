@@ -1,0 +1,49 @@
+# shellcheck shell=bash
+# What the scripts share. A script sources this first; it then stands in the root of the tree.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# cores: how many things to run at a time.
+cores() { nproc 2>/dev/null || echo 2; }
+
+# build_preset PRESET [CMAKE-OPTION...] [-- TARGET...]: configures and builds in build/PRESET.
+build_preset() {
+    local preset=$1 options=()
+    shift
+    while (($#)) && [[ $1 != -- ]]; do
+        options+=("$1")
+        shift
+    done
+    if (($#)); then shift; fi
+    if command -v ccache >/dev/null; then
+        options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    fi
+    cmake --preset "$preset" "${options[@]}"
+    cmake --build "build/$preset" --parallel "$(cores)" ${1:+--target "$@"}
+}
+
+# run_ctest PRESET [CTEST-OPTION...]: runs the tests of build/PRESET. The last line that it prints is
+# "N passed, N failed"; a test that was skipped counts as neither.
+run_ctest() {
+    local results=build/$1/ctest.xml status=0
+    ctest --test-dir "build/$1" --parallel "$(cores)" --timeout 300 --output-on-failure \
+        --no-tests=error --output-junit ctest.xml "${@:2}" || status=$?
+    count_results "$results"
+    return "$status"
+}
+
+# count_results FILE: the figures of a CTest result file.
+count_results() {
+    local head tests failed skipped
+    head=$(head -c 2000 "$1" | tr '\n\t' '  ')
+    tests=$(attribute tests "$head")
+    failed=$(attribute failures "$head")
+    skipped=$(($(attribute skipped "$head") + $(attribute disabled "$head")))
+    if ((skipped)); then echo "$skipped skipped"; fi
+    echo "$((tests - failed - skipped)) passed, $failed failed"
+}
+
+# attribute NAME TEXT: the first NAME="number" in TEXT, 0 where there is none.
+attribute() {
+    if [[ $2 =~ [[:space:]]$1=\"([0-9]+)\" ]]; then echo "${BASH_REMATCH[1]}"; else echo 0; fi
+}
