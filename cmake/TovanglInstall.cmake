@@ -1,0 +1,77 @@
+# What `cmake --install` puts in place. Everything refers to its own place, so that the installed
+# tree can be moved. Components: runtime, development, tools.
+include(CMakePackageConfigHelpers)
+
+set(tovangl_config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tovangl)
+set(tovangl_pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(TARGETS tovangl EXPORT tovanglTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/tovangl
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
+    FILES_MATCHING PATTERN "*.h")
+
+# find_package(tovangl): a static library asks for the Qt that it was built on.
+if(BUILD_SHARED_LIBS)
+    set(tovangl_dependencies "")
+else()
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/static_dependencies.cmake.in
+        ${CMAKE_CURRENT_BINARY_DIR}/static_dependencies.cmake @ONLY)
+    file(READ ${CMAKE_CURRENT_BINARY_DIR}/static_dependencies.cmake tovangl_dependencies)
+endif()
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/tovanglConfig.cmake.in
+    ${CMAKE_CURRENT_BINARY_DIR}/tovanglConfig.cmake
+    INSTALL_DESTINATION ${tovangl_config_dir}
+    NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/tovanglConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+install(EXPORT tovanglTargets NAMESPACE tovangl::
+    DESTINATION ${tovangl_config_dir} COMPONENT development)
+install(FILES
+    ${CMAKE_CURRENT_BINARY_DIR}/tovanglConfig.cmake
+    ${CMAKE_CURRENT_BINARY_DIR}/tovanglConfigVersion.cmake
+    DESTINATION ${tovangl_config_dir} COMPONENT development)
+
+# pkg-config
+set(tovangl_pc_private "")
+if(NOT BUILD_SHARED_LIBS)
+    set(tovangl_pc_private "Requires.private: ${tovangl_qt_pkgconfig}
+Libs.private: -Wl,-z,nodelete ${CMAKE_THREAD_LIBS_INIT}
+")
+endif()
+file(RELATIVE_PATH tovangl_pc_to_prefix
+    ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" tovangl_pc_to_prefix ${tovangl_pc_to_prefix})
+configure_file(${PROJECT_SOURCE_DIR}/cmake/tovangl.pc.in
+    ${CMAKE_CURRENT_BINARY_DIR}/tovangl.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tovangl.pc
+    DESTINATION ${tovangl_pkgconfig_dir} COMPONENT development)
+
+# Programs, with what belongs to each. They find the library beside them, wherever the prefix is
+# moved. In a system prefix the loader looks there by itself, and distributions forbid a run path.
+if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    file(RELATIVE_PATH tovangl_bin_to_lib
+        ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+    set(tovangl_run_path "$ORIGIN/${tovangl_bin_to_lib}")
+endif()
+
+function(tovangl_install_program name)
+    set(completions ${PROJECT_SOURCE_DIR}/apps/completions)
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "${tovangl_run_path}")
+    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(FILES ${PROJECT_SOURCE_DIR}/apps/man/${name}.1
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+    install(FILES ${completions}/${name}.bash RENAME ${name}
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools)
+    install(FILES ${completions}/_${name}
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions COMPONENT tools)
+    install(FILES ${completions}/${name}.fish
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
+endfunction()
+
+foreach(program tovangl-chart tovangl-du)
+    if(TARGET ${program})
+        tovangl_install_program(${program})
+    endif()
+endforeach()
