@@ -12,7 +12,8 @@ namespace tovangl {
 class CGlobal
 {
 public:
-    enum OneKiloBase
+    /// Any int can be stored, so the type is fixed.
+    enum OneKiloBase : int
     {
         Base1024 = 0,
         Base1000 = 1
