@@ -64,7 +64,6 @@ template <>
 struct CLabelGeometry<QRectF>
 {
     using Number = double;
-    static constexpr Number kInclusive = 0;
 
     static QRectF drawnRect(const QRectF& rect) { return rect; }
     static CEdges<Number> edges(const QRectF& rect)
