@@ -9,6 +9,8 @@
 #include <QPainterPathStroker>
 #include <QPen>
 
+#include <cmath>
+
 namespace tovangl {
 namespace cdraw {
 
@@ -17,6 +19,7 @@ namespace {
 constexpr double kHalfPixel = 0.5;    // puts one-pixel outlines on pixel centres
 constexpr double kQuarterTurn = 90;   // degrees
 constexpr int kBackgroundRadius = 11; // pixels at every scale
+constexpr int kLargestChannel = 255;
 
 // An arc needs a square to run in; without one it sets the corner point.
 void addCorner(QPainterPath& path, const QRectF& square, double startAngle, const QPointF& corner)
@@ -52,9 +55,15 @@ QPainterPath makeRoundRectPath(const QRect& window, int radius)
     return path;
 }
 
-int interpolateChannel(int from, int to, double t)
+// The way gone is truncated to a whole number before it is added.
+double interpolateChannel(int from, int to, double t)
 {
-    return from + static_cast<int>((to - from) * t);
+    return from + std::trunc((to - from) * t);
+}
+
+bool isChannel(double value)
+{
+    return value >= 0 && value <= kLargestChannel;
 }
 
 } // namespace
@@ -96,12 +105,12 @@ void drawDefaultGradientBackground(QPainter& painter)
 
 QColor linearInterpolation(const QColor& from, const QColor& to, double t)
 {
-    const int red = interpolateChannel(from.red(), to.red(), t);
-    const int green = interpolateChannel(from.green(), to.green(), t);
-    const int blue = interpolateChannel(from.blue(), to.blue(), t);
-    const auto isChannel = [](int value) { return value >= 0 && value <= 255; };
-    return isChannel(red) && isChannel(green) && isChannel(blue) ? QColor(red, green, blue)
-                                                                 : QColor();
+    const double red = interpolateChannel(from.red(), to.red(), t);
+    const double green = interpolateChannel(from.green(), to.green(), t);
+    const double blue = interpolateChannel(from.blue(), to.blue(), t);
+    if (!isChannel(red) || !isChannel(green) || !isChannel(blue))
+        return QColor();
+    return QColor(static_cast<int>(red), static_cast<int>(green), static_cast<int>(blue));
 }
 
 } // namespace cdraw
