@@ -5,6 +5,8 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
+#include <map>
 
 namespace tovangl {
 namespace cdraw {
@@ -14,10 +16,17 @@ namespace {
 constexpr int kNothingFits = 0;
 // Ellipses by which a longer text may be narrower than a shorter one: letters of some scripts join.
 constexpr double kCutSlack = 3.0;
+// How far above the place that halving found a narrower text is looked for, in UTF-16 units.
+constexpr int kReach = 256;
 // A text longer than this is first judged by its beginning, in UTF-16 units.
 constexpr int kLongText = 1024;
-// The painter shows one of several variants of a text that holds this character, so its width does
-// not follow its length. Up to kLongText such a text is cut unit by unit.
+// No more UTF-16 units than this are measured to find one cut. Only texts with thousands of
+// characters that take no width need more; they are cut shorter than they had to be.
+constexpr int kMeasuringBudget = 1 << 18;
+// More combining marks than this on one character are neither measured nor drawn.
+constexpr int kMostMarks = 256;
+// The painter shows one of several variants of a text that holds this character: in no room, the
+// one behind the last separator.
 constexpr ushort kVariantSeparator = 0x9c;
 
 QString ellipsis()
@@ -36,6 +45,25 @@ double slackOf(double ellipsisWidth)
     return kCutSlack * ellipsisWidth;
 }
 
+// The greatest length up to top for which a condition holds that holds up to some length and not
+// beyond it; it is known to hold for floor.
+template <typename Condition>
+int lastWhere(int floor, int top, Condition holds)
+{
+    int last = floor;
+    int step = 1;
+    while (step <= top - last && holds(last + step)) {
+        last += step;
+        step *= 2;
+    }
+    int beyond = step <= top - last ? last + step : top + 1;
+    while (beyond - last > 1) {
+        const int middle = last + (beyond - last) / 2;
+        (holds(middle) ? last : beyond) = middle;
+    }
+    return last;
+}
+
 // Finds how many units of a text can be kept in a room.
 class CCutFinder
 {
@@ -50,47 +78,56 @@ public:
     {}
 
     // The greatest length below the text's own that fits together with the ellipsis.
-    [[nodiscard]] int find() const
+    [[nodiscard]] int find()
     {
-        const int longest = static_cast<int>(m_text.size()) - 1;
-        const bool isPlain = !m_text.contains(QChar(kVariantSeparator)) || longest > kLongText;
-        return findDownFrom(isPlain ? findUpperBound(longest) : longest);
+        const int size = static_cast<int>(m_text.size());
+        const int longest = std::min(size - 1, kLongestMeasuredText);
+        if (!(m_ellipsisWidth <= m_maxWidth))
+            return kNothingFits;
+        if (!m_fromLeft)
+            return findBetween(lengthThroughSeparator(longest), longest);
+        // Whatever holds a separator is as wide as the last variant.
+        const int lastVariant = size - lengthThroughSeparator(size);
+        if (lastVariant < longest && fits(longest))
+            return longest;
+        return findBetween(kNothingFits, std::min(lastVariant, longest));
     }
 
 private:
-    [[nodiscard]] double widthOf(int length) const
+    // The length that ends in the last separator up to a length; 0 where there is none.
+    [[nodiscard]] int lengthThroughSeparator(int length) const
     {
-        return m_measure(keptPart(m_text, length, m_fromLeft)) + m_ellipsisWidth;
+        return static_cast<int>(m_text.lastIndexOf(QChar(kVariantSeparator), length - 1)) + 1;
     }
 
+    // A length that there is no budget left to measure counts as infinitely wide.
+    [[nodiscard]] double widthOf(int length)
+    {
+        const auto known = m_widths.find(length);
+        if (known != m_widths.end())
+            return known->second;
+        m_budget -= length;
+        const double width = m_budget < 0 ? std::numeric_limits<double>::infinity()
+                                          : m_measure(keptPart(m_text, length, m_fromLeft));
+        return m_widths[length] = width + m_ellipsisWidth;
+    }
+
+    [[nodiscard]] bool fits(int length) { return widthOf(length) <= m_maxWidth; }
+
     // Whether this length, or a greater one that is narrower, could fit.
-    [[nodiscard]] bool mayFit(int length) const
+    [[nodiscard]] bool mayFit(int length)
     {
         return widthOf(length) <= m_maxWidth + slackOf(m_ellipsisWidth);
     }
 
-    // A length above which nothing fits, close to the place of the cut.
-    [[nodiscard]] int findUpperBound(int longest) const
+    // Halving finds a length that fits where the next one does not. It need not be the last such
+    // length, so those above it are tried as far as they could fit.
+    [[nodiscard]] int findBetween(int floor, int top)
     {
-        int fitting = 0;
-        int probe = 1;
-        while (probe < longest && mayFit(probe)) {
-            fitting = probe;
-            probe *= 2;
-        }
-        int beyond = std::min(probe, longest);
-        if (beyond == longest && mayFit(longest))
-            return longest;
-        while (beyond - fitting > 1) {
-            const int middle = fitting + (beyond - fitting) / 2;
-            (mayFit(middle) ? fitting : beyond) = middle;
-        }
-        return fitting;
-    }
-
-    [[nodiscard]] int findDownFrom(int length) const
-    {
-        while (length > kNothingFits && !(widthOf(length) <= m_maxWidth))
+        const int found = lastWhere(floor, top, [this](int length) { return fits(length); });
+        int length = lastWhere(found, std::min(top, found + kReach),
+                               [this](int candidate) { return mayFit(candidate); });
+        while (length > found && !fits(length))
             --length;
         return length;
     }
@@ -100,6 +137,8 @@ private:
     double m_ellipsisWidth;
     bool m_fromLeft;
     const TextMeasure& m_measure;
+    std::map<int, double> m_widths; // with the ellipsis, by length
+    int m_budget = kMeasuringBudget;
 };
 
 int leadingSpaces(const QString& text)
@@ -140,11 +179,30 @@ bool fitsWhole(const QString& text, double maxWidth, const TextMeasure& measure)
     return maxWidth >= widthOrZero(measure(text));
 }
 
+// The time that shaping takes grows with the square of the marks on one character.
+QString withoutExcessMarks(QString text)
+{
+    int kept = 0;
+    int marks = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        marks = text.at(i).isMark() ? marks + 1 : 0;
+        if (marks > kMostMarks)
+            continue;
+        if (kept < i)
+            text[kept] = text.at(i);
+        ++kept;
+    }
+    text.truncate(kept);
+    return text;
+}
+
 } // namespace
 
 QString measuredPart(const QString& text)
 {
-    return text.size() > kLongestMeasuredText ? text.left(kLongestMeasuredText) : text;
+    if (text.size() <= kMostMarks)
+        return text;
+    return withoutExcessMarks(text.left(kLongestMeasuredText));
 }
 
 void stripWhiteSpaces(QString& text, bool fromLeft, bool fromRight)
@@ -158,12 +216,15 @@ void stripWhiteSpaces(QString& text, bool fromLeft, bool fromRight)
 }
 
 CFittedText fitText(const QString& text, double maxWidth, bool fromLeft, bool strip,
-                    const TextMeasure& measure)
+                    const TextMeasure& wholeMeasure)
 {
     const CFittedText unfit{false, text};
     if (maxWidth < 0)
         return unfit;
 
+    const TextMeasure measure = [&wholeMeasure](const QString& part) {
+        return wholeMeasure(measuredPart(part));
+    };
     QString copy = text;
     if (fitsWhole(copy, maxWidth, measure))
         return {true, copy};
@@ -186,7 +247,7 @@ bool shortenText(QString& text, double maxWidth, QPainter& painter, bool fromLef
 {
     const CFittedText fitted =
         fitText(text, maxWidth, fromLeft, strip, [&painter](const QString& candidate) {
-            return painter.boundingRect(QRectF(), 0, measuredPart(candidate)).width();
+            return painter.boundingRect(QRectF(), 0, candidate).width();
         });
     if (fitted.fits)
         text = fitted.text;

@@ -19,7 +19,8 @@ inline constexpr bool kFromRight = false;
 inline constexpr bool kStripSpaces = true;
 inline constexpr bool kKeepSpaces = false;
 
-/// Tells how wide a text is, in pixels.
+/// Tells how wide a text is, in pixels, at least 0. As the painter has it, only what follows the
+/// last character 0x9c counts.
 using TextMeasure = std::function<double(const QString&)>;
 
 /// A text and whether it fits.
@@ -33,7 +34,8 @@ struct CFittedText
 /// far wider than any picture, and the time that one takes stays bounded.
 inline constexpr int kLongestMeasuredText = 1 << 16;
 
-/// The part of a text that is measured and drawn: all of it up to kLongestMeasuredText.
+/// The part of a text that is measured and drawn: its first kLongestMeasuredText units, and of the
+/// combining marks on one character the first 256.
 [[nodiscard]] QString measuredPart(const QString& text);
 
 /// Removes white space at one or both ends.
@@ -44,9 +46,10 @@ void stripWhiteSpaces(QString& text, bool fromLeft, bool fromRight);
 /// The result is the longest one that fits, at least one character with the ellipsis. A text cut
 /// character by character may break anywhere, inside a word or a surrogate pair too.
 ///
-/// The place of the cut is found by halving, and then by going through the few lengths where the
-/// width could still lie on the other side of the room: a longer text is taken never to be narrower
-/// than a shorter one by more than kCutSlack ellipses. Shaping stays far below that.
+/// The place of the cut is found by halving, and then by trying the few greater lengths that could
+/// still fit: a longer text is taken never to be narrower than a shorter one by more than three
+/// ellipses. Shaping stays far below that. Of a text, no more than measuredPart() is measured, and
+/// no more than kLongestMeasuredText units are kept when it is cut.
 ///
 /// @param maxWidth  pixels; a negative width fits nothing
 /// @param fromLeft  cut the beginning instead of the end
