@@ -40,6 +40,8 @@ if(NOT BUILD_SHARED_LIBS)
 Libs.private: -Wl,-z,nodelete ${CMAKE_THREAD_LIBS_INIT}
 ")
 endif()
+file(RELATIVE_PATH tovangl_pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
+file(RELATIVE_PATH tovangl_pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 file(RELATIVE_PATH tovangl_pc_to_prefix
     ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" tovangl_pc_to_prefix ${tovangl_pc_to_prefix})
