@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+#include "support/CTestChart.h"
+#include "support/public_records.h"
+#include <tovangl/Graph.h>
+
+#include <QLocale>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <limits>
+#include <memory>
+#include <type_traits>
+
+namespace tovangl {
+namespace {
+
+using ::testing::ElementsAre;
+
+constexpr int kMost = std::numeric_limits<int>::max();
+
+// A facade over the test chart, which puts the item's caption at (1, 2), 3 by 4 pixels large.
+class CTestGraph : public Graph
+{
+public:
+    CTestGraph()
+        : m_chart([this](QPainter&) {
+            for (CBarGraphItem* item : m_chart.selectedItems())
+                item->setItemRect(QRect(1, 2, 3, 4));
+        })
+    {
+        m_graph = &m_chart;
+    }
+
+    CTestChart& chart() { return m_chart; }
+
+private:
+    CTestChart m_chart;
+};
+
+struct CPicture
+{
+    unsigned char* data = nullptr;
+    int size = -1;
+
+    [[nodiscard]] QImage decoded() const { return QImage::fromData(data, size, "PNG"); }
+};
+
+CPicture exported(Graph& graph, int width, int height)
+{
+    CPicture picture;
+    graph.createPixmap(width, height, &picture.data, &picture.size);
+    return picture;
+}
+
+CPicture printed(Graph& graph, int width, int height, int factor)
+{
+    CPicture picture;
+    graph.createPixmapForPrinter(width, height, factor, &picture.data, &picture.size);
+    return picture;
+}
+
+static_assert(!std::is_copy_constructible_v<Graph> && !std::is_copy_assignable_v<Graph>);
+static_assert(std::has_virtual_destructor_v<Graph>);
+
+TEST(GraphWithoutChart, ExportsNothing)
+{
+    Graph graph;
+    unsigned char byte = 7;
+    unsigned char* data = &byte;
+    int size = 42;
+    graph.createPixmap(10, 10, &data, &size);
+    graph.createPixmapForPrinter(10, 10, 2, &data, &size);
+    EXPECT_EQ(data, &byte);
+    EXPECT_EQ(size, 42);
+}
+
+TEST(GraphWithoutChart, HasThresholdZeroWhateverIsSet)
+{
+    Graph graph;
+    graph.setThreshold(5);
+    EXPECT_EQ(graph.threshold(), 0.0);
+}
+
+TEST(GraphWithoutChart, HasAnEmptyListOfRectangles)
+{
+    Graph graph;
+    ASSERT_NE(graph.getRectangle(), nullptr);
+    EXPECT_TRUE(graph.getRectangle()->empty());
+}
+
+TEST(GraphWithoutChart, IgnoresSettings)
+{
+    Graph graph;
+    graph.setFont("Tahoma", 11);
+    graph.setLocale("en", "us");
+    graph.clear();
+    graph.freePixmap();
+    EXPECT_TRUE(graph.getRectangle()->empty());
+}
+
+TEST(Graph, ExportsAPngOfTheSizeAskedFor)
+{
+    CTestGraph graph;
+    EXPECT_EQ(exported(graph, 400, 300).decoded().size(), QSize(400, 300));
+}
+
+TEST(Graph, ExportsAWhitePictureForAChartThatDrawsNothing)
+{
+    CTestGraph graph;
+    const QImage image = exported(graph, 40, 30).decoded();
+    EXPECT_EQ(image.pixel(0, 0), 0xffffffff);
+    EXPECT_EQ(image.pixel(39, 29), 0xffffffff);
+}
+
+TEST(Graph, PrintsAtAMultipleOfTheSize)
+{
+    CTestGraph graph;
+    EXPECT_EQ(printed(graph, 400, 300, 2).decoded().size(), QSize(800, 600));
+}
+
+TEST(Graph, PrintsAtOnceTheSizeForAFactorBelowOne)
+{
+    CTestGraph graph;
+    EXPECT_EQ(printed(graph, 40, 30, -3).decoded().size(), QSize(40, 30));
+}
+
+TEST(Graph, ExportsTheSamePixelsTwice)
+{
+    CTestGraph graph;
+    const QImage first = exported(graph, 40, 30).decoded();
+    EXPECT_EQ(exported(graph, 40, 30).decoded(), first);
+}
+
+TEST(Graph, FreesItsBytesOnRequestAndTwiceIsHarmless)
+{
+    CTestGraph graph;
+    (void)exported(graph, 40, 30);
+    graph.freePixmap();
+    graph.freePixmap();
+    EXPECT_EQ(exported(graph, 40, 30).decoded().size(), QSize(40, 30));
+}
+
+class SizeOfNoPicture : public ::testing::TestWithParam<QSize>
+{};
+
+TEST_P(SizeOfNoPicture, GivesABufferOfNoLength)
+{
+    CTestGraph graph;
+    const CPicture picture = exported(graph, GetParam().width(), GetParam().height());
+    EXPECT_NE(picture.data, nullptr);
+    EXPECT_EQ(picture.size, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Graph, SizeOfNoPicture,
+                         ::testing::Values(QSize(0, 300), QSize(300, 0), QSize(-1, -1),
+                                           QSize(1000001, 1), QSize(40000, 40000),
+                                           QSize(kMost, kMost)));
+
+TEST(Graph, AnEmptyPictureReplacesTheOneBefore)
+{
+    CTestGraph graph;
+    (void)exported(graph, 40, 30);
+    EXPECT_EQ(exported(graph, 0, 0).size, 0);
+}
+
+TEST(Graph, ListsOneZeroRectangleForEachItemBeforeAnyExport)
+{
+    CTestGraph graph;
+    graph.chart().add(1);
+    graph.chart().add(2);
+    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{0, 0, 0, 0}, Rectangle{0, 0, 0, 0}));
+}
+
+TEST(Graph, ListsTheCaptionsOfTheLastExport)
+{
+    CTestGraph graph;
+    graph.chart().add(1);
+    (void)exported(graph, 40, 30);
+    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{1, 2, 3, 4}));
+}
+
+TEST(Graph, ListsTheRectangleOfAnEarlierExportForAnItemBelowTheThreshold)
+{
+    CTestGraph graph;
+    graph.chart().add(90);
+    graph.chart().add(10);
+    (void)exported(graph, 40, 30);
+    graph.chart().item(1)->setItemRect(QRect(5, 6, 7, 8));
+    graph.setThreshold(50);
+    (void)exported(graph, 40, 30);
+    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{1, 2, 3, 4}, Rectangle{5, 6, 7, 8}));
+}
+
+TEST(Graph, ListsZerosForACaptionThatWasHidden)
+{
+    CTestGraph graph;
+    graph.chart().add(1);
+    graph.chart().item(0)->setItemRect(QRect(QPoint(0, 0), QPoint(-1, -1)));
+    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{0, 0, 0, 0}));
+}
+
+TEST(Graph, HandsOutTheSameListEachTime)
+{
+    CTestGraph graph;
+    graph.chart().add(1);
+    const auto* list = graph.getRectangle();
+    EXPECT_EQ(graph.getRectangle(), list);
+    EXPECT_EQ(list->size(), 1u);
+}
+
+TEST(Graph, ClearRemovesItemsAndKeepsSettings)
+{
+    CTestGraph graph;
+    graph.chart().add(1);
+    graph.setThreshold(3);
+    graph.setFont("DejaVu Sans", 20);
+    graph.clear();
+    EXPECT_TRUE(graph.getRectangle()->empty());
+    EXPECT_EQ(graph.threshold(), 3.0);
+    EXPECT_EQ(graph.chart().fontSize(), 20);
+}
+
+TEST(Graph, ANegativeThresholdActsAsZeroAtTheNextExport)
+{
+    CTestGraph graph;
+    graph.setThreshold(-4);
+    EXPECT_EQ(graph.threshold(), -4.0);
+    (void)exported(graph, 10, 10);
+    EXPECT_EQ(graph.threshold(), 0.0);
+}
+
+TEST(Graph, SetsTheFont)
+{
+    CTestGraph graph;
+    graph.setFont("DejaVu S\xc3\xa4ns", 20);
+    EXPECT_EQ(graph.chart().fontFamily(), QString::fromUtf8("DejaVu S\xc3\xa4ns"));
+    graph.setFont("Tahoma", 11);
+    EXPECT_EQ(graph.chart().fontFamily(), QString("Tahoma"));
+    EXPECT_EQ(graph.chart().fontSize(), 11);
+}
+
+TEST(Graph, SetsTheLocale)
+{
+    CTestGraph graph;
+    graph.setLocale("Deutsch", "at");
+    EXPECT_EQ(graph.chart().locale()->name(), QString("de_AT"));
+}
+
+} // namespace
+} // namespace tovangl
