@@ -89,8 +89,9 @@ void drawLines(QPainter& painter, const QRectF& rect, const QTextLayout& layout,
 bool drawVariant(QPainter& painter, const QRectF& rect, const QString& text,
                  const QTextOption& option, bool isLast)
 {
+    // Deliberate: the painter draws nothing from an empty variant on, whatever follows it.
     if (text.isEmpty())
-        return isLast || rect.contains(QRectF(rect.topLeft(), QSizeF(0, 0)));
+        return true;
 
     const Qt::Alignment alignment = option.alignment();
     QTextOption lineOption = option;
