@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a label knows: defaults, measuring, and where it was drawn.
 #include "core/CBarGraphItem.h"
+#include "core/qt_versions.h"
 #include "draw/CPainterSaver.h"
 #include "labels/CTextLabel.h"
 
@@ -110,7 +111,7 @@ TEST_F(TextLabel, IsMeasuredAtTheOrigin)
 {
     PixelLabel label(QString("text"), &kLocale);
     const QRect rect = label.getBoundingRect(m_painter);
-    EXPECT_EQ(rect, m_painter.boundingRect(QRect(), 0, QString("text")));
+    EXPECT_EQ(rect, qt::measureText(m_painter, QRect(), QString("text")));
     EXPECT_EQ(rect.topLeft(), QPoint(0, 0));
     EXPECT_EQ(label.getBoundingRect(), rect);
 }
@@ -119,7 +120,7 @@ TEST_F(TextLabel, InFractionsIsMeasuredInFractions)
 {
     PieLabel label(QString("text"), &kLocale);
     EXPECT_EQ(label.getBoundingRect(m_painter),
-              m_painter.boundingRect(QRectF(), 0, QString("text")));
+              qt::measureText(m_painter, QRectF(), QString("text")));
 }
 
 TEST_F(TextLabel, IsMeasuredWithoutItsAlignmentDeliberately)
