@@ -9,6 +9,7 @@ namespace tovangl {
 /// The bits that the axis setters of the bar charts take, as a sum.
 struct AxisProperty
 {
+    /// One of the bits.
     enum Flag
     {
         ShowLine = 1,         ///< the axis line, and the gap between it and the labels

@@ -10,9 +10,9 @@ namespace tovangl {
 /// counts as not set, and the chart uses its default in its place.
 struct Color
 {
-    int red;
-    int green;
-    int blue;
+    int red;   ///< 0 to 255
+    int green; ///< 0 to 255
+    int blue;  ///< 0 to 255
 };
 
 } // namespace tovangl

@@ -94,7 +94,7 @@ public:
     void createPixmapForPrinter(int width, int height, int factor, unsigned char** data, int* size);
 
 protected:
-    CGraph1dBase* m_graph; // owned by the derived class; null in a plain Graph
+    CGraph1dBase* m_graph; ///< owned by the derived class; null in a plain Graph
 
 private:
     template <typename Surface>
