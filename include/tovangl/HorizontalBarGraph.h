@@ -26,7 +26,7 @@ public:
 
     /// Adds a bar in the next of six default colours, with a darker outline.
     ///
-    /// @param value  length of the bar; a negative value gets its place and caption, but no bar
+    /// @param value  length of the bar; a negative one runs to the left of zero
     /// @param text   caption, UTF-8
     /// @return true
     bool addItem(long value, const std::string& text);
@@ -63,8 +63,9 @@ public:
     void setColor(const Color& color);
 
     /// Where the bars were drawn in the last rendering: one rectangle for each bar that the
-    /// threshold did not leave out, in the order of adding; all zero for a bar without extent.
-    /// Empty before the first rendering.
+    /// threshold did not leave out, in the order of adding. A bar of value 0 has width 0; all
+    /// four fields are 0 where the scale has no room. Empty before the first rendering, and after
+    /// one that did not fit.
     ///
     /// @return a list owned by this object and rewritten by the next call; never null
     std::list<Rectangle>* getBarRectangle();
