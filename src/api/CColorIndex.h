@@ -19,22 +19,25 @@ class CColorIndex
 public:
     static constexpr int kMaxColors = 256;
 
-    /// Numbers a colour that is new. False, and nothing added, where it would be the 257th.
-    [[nodiscard]] bool add(QRgb color)
+    static constexpr int kFull = -1;
+
+    /// The number of a colour, which is added where it is new. kFull, and nothing added, where it
+    /// would be the 257th.
+    [[nodiscard]] int add(QRgb color)
     {
         CSlot& slot = m_slots[findSlot(color)];
-        if (slot.number != kFree)
-            return true;
-        if (m_count == kMaxColors)
-            return false;
-        slot = {color, static_cast<std::int16_t>(m_count)};
-        m_colors[static_cast<std::size_t>(m_count)] = color;
-        ++m_count;
-        return true;
+        if (slot.number == kFree && m_count < kMaxColors) {
+            slot = {color, static_cast<std::int16_t>(m_count)};
+            m_colors[static_cast<std::size_t>(m_count)] = color;
+            ++m_count;
+        }
+        return slot.number;
     }
 
-    /// The number of a colour that was added.
-    [[nodiscard]] int indexOf(QRgb color) const { return m_slots[findSlot(color)].number; }
+    [[nodiscard]] QRgb colorAt(int number) const
+    {
+        return m_colors[static_cast<std::size_t>(number)];
+    }
 
     [[nodiscard]] int count() const { return m_count; }
 
@@ -50,7 +53,7 @@ public:
 
 private:
     static constexpr std::size_t kSlots = 1024;
-    static constexpr std::int16_t kFree = -1;
+    static constexpr std::int16_t kFree = kFull;
 
     struct CSlot
     {

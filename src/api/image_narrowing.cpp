@@ -6,6 +6,7 @@
 
 #include <QImage>
 
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -15,112 +16,139 @@ namespace {
 
 constexpr QRgb kAlphaMask = 0xff000000;
 
-// The rows of an ARGB32 picture.
-class CPixelRows
-{
-public:
-    explicit CPixelRows(QImage& image)
-        : m_bits(image.bits())
-        , m_stride(image.bytesPerLine())
-        , m_width(image.width())
-        , m_height(image.height())
-    {}
-
-    [[nodiscard]] const QRgb* row(int y) const
-    {
-        return reinterpret_cast<const QRgb*>(m_bits + m_stride * y);
-    }
-    [[nodiscard]] std::size_t rowBytes() const
-    {
-        return static_cast<std::size_t>(m_width) * sizeof(QRgb);
-    }
-    [[nodiscard]] int width() const { return m_width; }
-    [[nodiscard]] int height() const { return m_height; }
-
-private:
-    const uchar* m_bits;
-    std::ptrdiff_t m_stride; // bytes
-    int m_width;
-    int m_height;
-};
-
 // The end of the run of equal pixels that begins at x.
-int findRunEnd(const QRgb* row, int x, int width)
+int findRunEnd(const QRgb* row, int x, int end)
 {
-    constexpr int kStep = 4;
     const QRgb color = row[x];
-    ++x;
-    while (x + kStep <= width) {
-        const QRgb difference =
-            (row[x] ^ color) | (row[x + 1] ^ color) | (row[x + 2] ^ color) | (row[x + 3] ^ color);
-        if (difference != 0)
-            break;
-        x += kStep;
-    }
-    while (x < width && row[x] == color)
+    do
         ++x;
+    while (x < end && row[x] == color);
     return x;
 }
 
-bool addRowColors(CColorIndex& colors, const QRgb* row, int width)
+// The pixels in which two rows of a picture differ, from begin to before end.
+struct CChangedPixels
 {
-    for (int x = 0; x < width; x = findRunEnd(row, x, width)) {
-        if (!colors.add(row[x]))
-            return false;
-    }
-    return true;
+    int begin;
+    int end;
+};
+
+CChangedPixels findChangedPixels(const QRgb* row, const QRgb* other, int width)
+{
+    int begin = 0;
+    while (begin < width && row[begin] == other[begin])
+        ++begin;
+    int end = width;
+    while (end > begin && row[end - 1] == other[end - 1])
+        --end;
+    return {begin, end};
 }
 
-// Collects the colours of a picture; stops where they are too many for a palette.
-bool addColors(CColorIndex& colors, const CPixelRows& pixels)
+// Replaces the pixels of an ARGB32 picture by indexes into a palette, in place and row by row.
+//
+// An index row is at most as long as a pixel row, so the indexes never reach pixels that are still
+// to be read. Most rows of a chart repeat the row above, or most of it; only what has changed is
+// looked up.
+class CPaletteWriter
 {
-    for (int y = 0; y < pixels.height(); ++y) {
-        const bool isRepeated =
-            y > 0 && std::memcmp(pixels.row(y), pixels.row(y - 1), pixels.rowBytes()) == 0;
-        if (!isRepeated && !addRowColors(colors, pixels.row(y), pixels.width()))
-            return false;
-    }
-    return true;
-}
+public:
+    explicit CPaletteWriter(QImage& image)
+        : m_bits(image.bits())
+        , m_pixelStride(image.bytesPerLine())
+        , m_width(image.width())
+        , m_height(image.height())
+        , m_indexStride((image.width() + kRowAlignment - 1) / kRowAlignment * kRowAlignment)
+        , m_pixelsAbove(static_cast<std::size_t>(image.width()))
+        , m_indexes(static_cast<std::size_t>(image.width()))
+    {}
 
-void writeIndexes(const CColorIndex& colors, const QRgb* row, int width, uchar* indexes)
-{
-    for (int x = 0; x < width;) {
-        const int end = findRunEnd(row, x, width);
-        std::memset(indexes + x, colors.indexOf(row[x]), static_cast<std::size_t>(end - x));
-        x = end;
+    // False, and the pixels as they were, where there are too many colours for a palette.
+    [[nodiscard]] bool write()
+    {
+        for (int y = 0; y < m_height; ++y) {
+            if (!writeRow(y)) {
+                restoreRows(y);
+                return false;
+            }
+        }
+        return true;
     }
-}
 
-// An index row is at most as long as the pixel row that it replaces, so the indexes never reach
-// pixels that are still to be read. The row in work is copied before it is overwritten.
-QImage writePalette(const CColorIndex& colors, QImage& image)
-{
-    constexpr int kRowAlignment = 4; // bytes
-    const CPixelRows pixels(image);
-    const int stride = (image.width() + kRowAlignment - 1) / kRowAlignment * kRowAlignment;
-    uchar* const indexes = image.bits();
-    std::vector<QRgb> row(static_cast<std::size_t>(image.width()));
-    for (int y = 0; y < image.height(); ++y) {
-        uchar* const target = indexes + std::ptrdiff_t{stride} * y;
-        if (y > 0 && std::memcmp(pixels.row(y), row.data(), pixels.rowBytes()) == 0) {
-            std::memmove(target, target - stride, static_cast<std::size_t>(image.width()));
-        } else {
-            std::memcpy(row.data(), pixels.row(y), pixels.rowBytes());
-            writeIndexes(colors, row.data(), image.width(), target);
+    // The picture that was written. It uses the memory of the one that it replaces.
+    [[nodiscard]] QImage image() const
+    {
+        QImage image(m_bits, m_width, m_height, m_indexStride, QImage::Format_Indexed8);
+        image.setColorTable(m_colors.colors());
+        return image;
+    }
+
+private:
+    static constexpr int kRowAlignment = 4; // bytes
+
+    [[nodiscard]] QRgb* pixelRow(int y) const
+    {
+        return reinterpret_cast<QRgb*>(m_bits + m_pixelStride * y);
+    }
+    [[nodiscard]] uchar* indexRow(int y) const
+    {
+        return m_bits + std::ptrdiff_t{m_indexStride} * y;
+    }
+
+    bool writeRow(int y)
+    {
+        const QRgb* const row = pixelRow(y);
+        const std::size_t bytes = m_pixelsAbove.size() * sizeof(QRgb);
+        if (y == 0 || std::memcmp(row, m_pixelsAbove.data(), bytes) != 0) {
+            const CChangedPixels changed =
+                y == 0 ? CChangedPixels{0, m_width}
+                       : findChangedPixels(row, m_pixelsAbove.data(), m_width);
+            if (!indexPixels(row, changed))
+                return false;
+            std::memcpy(m_pixelsAbove.data(), row, bytes);
+        }
+        std::memcpy(indexRow(y), m_indexes.data(), m_indexes.size());
+        return true;
+    }
+
+    bool indexPixels(const QRgb* row, const CChangedPixels& changed)
+    {
+        for (int x = changed.begin; x < changed.end;) {
+            const int index = m_colors.add(row[x]);
+            if (index == CColorIndex::kFull)
+                return false;
+            const int end = findRunEnd(row, x, changed.end);
+            std::fill(m_indexes.begin() + x, m_indexes.begin() + end, static_cast<uchar>(index));
+            x = end;
+        }
+        return true;
+    }
+
+    // Puts the pixels of the first rows back, from the last of them to the first.
+    void restoreRows(int count)
+    {
+        for (int y = count - 1; y >= 0; --y) {
+            std::memcpy(m_indexes.data(), indexRow(y), m_indexes.size());
+            std::transform(m_indexes.begin(), m_indexes.end(), pixelRow(y),
+                           [this](uchar index) { return m_colors.colorAt(index); });
         }
     }
-    QImage narrow(indexes, image.width(), image.height(), stride, QImage::Format_Indexed8);
-    narrow.setColorTable(colors.colors());
-    return narrow;
-}
 
-bool isOpaque(const CPixelRows& pixels)
+    uchar* m_bits;                // borrowed from the picture
+    std::ptrdiff_t m_pixelStride; // bytes
+    int m_width;
+    int m_height;
+    int m_indexStride; // bytes
+    CColorIndex m_colors;
+    std::vector<QRgb> m_pixelsAbove; // the row above, as it was
+    std::vector<uchar> m_indexes;    // the row in work
+};
+
+bool isOpaque(const QImage& image)
 {
-    for (int y = 0; y < pixels.height(); ++y) {
-        const QRgb* const row = pixels.row(y);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         QRgb common = kAlphaMask;
-        for (int x = 0; x < pixels.width(); ++x)
+        for (int x = 0; x < image.width(); ++x)
             common &= row[x];
         if (common != kAlphaMask)
             return false;
@@ -134,11 +162,10 @@ QImage narrowImage(QImage& image)
 {
     if (image.isNull() || image.format() != QImage::Format_ARGB32)
         return image;
-    CColorIndex colors;
-    const CPixelRows pixels(image);
-    if (addColors(colors, pixels))
-        return writePalette(colors, image);
-    if (!isOpaque(pixels))
+    CPaletteWriter palette(image);
+    if (palette.write())
+        return palette.image();
+    if (!isOpaque(image))
         return image;
     return QImage(image.bits(), image.width(), image.height(),
                   static_cast<int>(image.bytesPerLine()), QImage::Format_RGB32);
