@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// Draws a case with this library, as a host would.
+#include "programs/draw_chart.h"
+
+namespace tovangl {
+namespace bench {
+
+namespace {
+
+template <typename Chart>
+std::unique_ptr<Graph> makeChartOf(const std::vector<CCaseItem>& items, bool background)
+{
+    auto graph = std::make_unique<Chart>(background);
+    for (const CCaseItem& item : items)
+        graph->addItem(item.value, item.caption);
+    return graph;
+}
+
+} // namespace
+
+std::unique_ptr<Graph> makeChart(const CChartCase& chart, bool background)
+{
+    switch (chart.kind) {
+    case Bars:
+        return makeChartOf<VerticalBarGraph>(chart.items, background);
+    case LyingBars:
+        return makeChartOf<HorizontalBarGraph>(chart.items, background);
+    case Pie:
+        break;
+    }
+    return makeChartOf<PieGraph>(chart.items, background);
+}
+
+CPngBytes drawChart(Graph& graph, const CChartCase& chart)
+{
+    unsigned char* data = nullptr;
+    int size = 0;
+    if (chart.factor == 1)
+        graph.createPixmap(chart.width, chart.height, &data, &size);
+    else
+        graph.createPixmapForPrinter(chart.width, chart.height, chart.factor, &data, &size);
+    return {data, static_cast<std::size_t>(size)};
+}
+
+} // namespace bench
+} // namespace tovangl

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Draws a case with this library, as a host would.
+#ifndef TOVANGL_BENCHMARKS_PROGRAMS_DRAW_CHART_H
+#define TOVANGL_BENCHMARKS_PROGRAMS_DRAW_CHART_H
+
+#include "support/chart_case.h"
+#include "support/timed_rounds.h"
+#include <tovangl/tovangl.h>
+
+#include <memory>
+
+namespace tovangl {
+namespace bench {
+
+inline constexpr bool kWithBackground = true;
+inline constexpr bool kWithoutBackground = false;
+
+/// A chart that holds the case's items. Most peers have no gradients, so the cases do without.
+[[nodiscard]] std::unique_ptr<Graph> makeChart(const CChartCase& chart,
+                                               bool background = kWithoutBackground);
+
+/// Renders the chart; the bytes belong to the graph.
+CPngBytes drawChart(Graph& graph, const CChartCase& chart);
+
+} // namespace bench
+} // namespace tovangl
+
+#endif
