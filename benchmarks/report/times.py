@@ -1,0 +1,101 @@
+# SPDX-License-Identifier: MIT
+"""How long charts take: warm, and from the start of a process."""
+import os
+import statistics
+import time
+
+import cases
+import tables
+
+WARM_UP = 2  # rounds that are not counted
+
+
+def time_all(programs, charts, passes, budget):
+    """Every pass runs all programs in turn on each case, so that a slow moment of the machine meets
+    all of them. Returns the milliseconds of every round by (program, case)."""
+    results = {}
+    for number in range(passes):
+        for chart in charts:
+            able = [program for program in programs if program.draws(chart)]
+            turn = number % len(able)
+            for program in able[turn:] + able[:turn]:
+                rounds = rounds_for(results.get((program, chart)), budget)
+                results.setdefault((program, chart), []).extend(
+                    time_rounds(program, chart, rounds))
+    return results
+
+
+def rounds_for(known, budget):
+    """As many rounds as fit into the milliseconds of the budget, at least three."""
+    if not known:
+        return 3
+    return max(3, min(100, int(budget / min(known))))
+
+
+def time_rounds(program, chart, rounds):
+    output = cases.run(command_of(program, chart, rounds + WARM_UP)).split("\n")
+    return [float(line) for line in output[1 + WARM_UP:] if line]
+
+
+def command_of(program, chart, rounds):
+    return [*program.command, *chart.arguments, str(rounds), cases.picture_of(program, chart)]
+
+
+def print_times(results, programs, charts):
+    rows = [[program.name, *(times_cell(results.get((program, chart))) for chart in charts)]
+            for program in programs]
+    tables.print_table("Warm charts: lowest (median), milliseconds",
+                       ["", *(chart.name for chart in charts)], rows)
+
+
+def times_cell(times):
+    if not times:
+        return "-"
+    return f"{tables.significant(min(times))} ({tables.significant(statistics.median(times))})"
+
+
+def print_ratios(results, charts):
+    """A pie is compared with those peers that antialias it, as this library does."""
+    rows = []
+    for chart in charts:
+        times = {program: min(times) for (program, of), times in results.items()
+                 if of == chart and program != cases.OURS and
+                 (program.antialiases or chart.kind != "pie")}
+        fastest = min(times, key=times.get)
+        ours = min(results[cases.OURS, chart])
+        rows.append([chart.name, tables.significant(ours), fastest.name,
+                     tables.significant(times[fastest]), f"{ours / times[fastest]:.2f}"])
+    tables.print_table("Against the fastest peer (pies: the fastest that antialiases them)",
+                       ["", "tovangl, ms", "peer", "its ms", "ratio"], rows)
+
+
+def time_cold_starts(programs, chart, passes):
+    """Milliseconds from starting the process to its first finished chart, by program."""
+    results = {}
+    for number in range(passes):
+        turn = number % len(programs)
+        for program in programs[turn:] + programs[:turn]:
+            results.setdefault(program, []).append(time_cold_start(program, chart))
+    return results
+
+
+def time_cold_start(program, chart):
+    command = command_of(program, chart, 1)
+    read_end, write_end = os.pipe()
+    redirections = [(os.POSIX_SPAWN_DUP2, write_end, 1),
+                    (os.POSIX_SPAWN_OPEN, 2, os.devnull, os.O_WRONLY, 0)]
+    start = time.time()
+    process = os.posix_spawnp(command[0], command, os.environ, file_actions=redirections)
+    os.close(write_end)
+    with os.fdopen(read_end) as output:
+        first = float(output.readline().split()[1])
+    os.waitpid(process, 0)
+    return 1000 * (first - start)
+
+
+def print_cold_starts(results):
+    rows = [[program.name, tables.significant(min(times)),
+             tables.significant(statistics.median(times))]
+            for program, times in results.items()]
+    tables.print_table("Cold start: from starting a process to its first chart, V12, milliseconds",
+                       ["", "lowest", "median"], rows)
