@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Draws the pictures of the manual: pictures FOLDER
+#include "picture_folder.h"
 #include <tovangl/tovangl.h>
 
-#include <cstdio>
-#include <fstream>
+#include <list>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,27 +27,6 @@ constexpr int kCaptions =
     AxisProperty::ShowLine | AxisProperty::ShowLabels | AxisProperty::HideOverlapped;
 constexpr int kNumbers = kCaptions | AxisProperty::UnitPrefixes;
 
-std::string folder;
-bool isComplete = true;
-
-void write(const std::string& name, const unsigned char* data, int size)
-{
-    std::ofstream file(folder + "/" + name + ".png", std::ios::binary);
-    file.write(reinterpret_cast<const char*>(data), size);
-    if (size > 0 && file.flush())
-        return;
-    std::fprintf(stderr, "cannot write the picture %s\n", name.c_str());
-    isComplete = false;
-}
-
-void draw(tovangl::Graph& chart, const std::string& name, int width, int height)
-{
-    unsigned char* data = nullptr;
-    int size = 0;
-    chart.createPixmap(width, height, &data, &size);
-    write(name, data, size);
-}
-
 template <typename Chart>
 void addAll(Chart& chart, const Items& items)
 {
@@ -59,14 +39,14 @@ const Items kMonths = {{320, "January"}, {410, "February"}, {275, "March"},
 
 // --- bars that stand
 
-void helloBars()
+void helloBars(PictureFolder& folder)
 {
     VerticalBarGraph chart(true);
     addAll(chart, {{320, "Monday"}, {410, "Tuesday"}, {275, "Wednesday"}, {180, "Thursday"}});
-    draw(chart, "hello_bars", 400, 250);
+    folder.draw(chart, "hello_bars", 400, 250);
 }
 
-void verticalBars()
+void verticalBars(PictureFolder& folder)
 {
     //! [vertical_bars]
     VerticalBarGraph chart(true);
@@ -77,10 +57,10 @@ void verticalBars()
     chart.addItem(505, "May");
     chart.addItem(460, "June");
     //! [vertical_bars]
-    draw(chart, "vertical_bars", 500, 250);
+    folder.draw(chart, "vertical_bars", 500, 250);
 }
 
-void verticalColors()
+void verticalColors(PictureFolder& folder)
 {
     VerticalBarGraph chart(false);
     //! [vertical_colors]
@@ -94,10 +74,10 @@ void verticalColors()
     chart.addItem(180, "April", grey, darkGrey);
     chart.setColor({70, 74, 80});
     //! [vertical_colors]
-    draw(chart, "vertical_colors", 400, 220);
+    folder.draw(chart, "vertical_colors", 400, 220);
 }
 
-void verticalTitles()
+void verticalTitles(PictureFolder& folder)
 {
     VerticalBarGraph chart(true);
     addAll(chart, {{12400, "London"}, {9100, "Paris"}, {15800, "Rome"}, {4300, "Vienna"}});
@@ -108,18 +88,18 @@ void verticalTitles()
     chart.setHorizontalAxis(captions | AxisProperty::ShowTitle, "City");
     chart.setVerticalAxis(numbers | AxisProperty::ShowTitle | AxisProperty::BoldTitle, "Visitors");
     //! [vertical_titles]
-    draw(chart, "vertical_titles", 420, 240);
+    folder.draw(chart, "vertical_titles", 420, 240);
 }
 
-void verticalWidth()
+void verticalWidth(PictureFolder& folder)
 {
     VerticalBarGraph chart(true);
     addAll(chart, kMonths);
     chart.setBarWidth(12);
-    draw(chart, "vertical_width", 420, 200);
+    folder.draw(chart, "vertical_width", 420, 200);
 }
 
-void verticalPosition()
+void verticalPosition(PictureFolder& folder)
 {
     VerticalBarGraph bytes(true);
     addAll(bytes, {{7 * kMega, "a"}, {5 * kMega, "b"}, {9 * kMega, "c"}});
@@ -130,20 +110,20 @@ void verticalPosition()
     bytes.setPosition(75, -1);
     files.setPosition(75, -1);
     //! [vertical_position]
-    draw(bytes, "vertical_position_1", 400, 140);
-    draw(files, "vertical_position_2", 400, 140);
+    folder.draw(bytes, "vertical_position_1", 400, 140);
+    folder.draw(files, "vertical_position_2", 400, 140);
 }
 
-void verticalNegative()
+void verticalNegative(PictureFolder& folder)
 {
     VerticalBarGraph chart(true);
     addAll(chart, {{32, "one"}, {41, "two"}, {-18, "three"}, {27, "four"}});
-    draw(chart, "vertical_negative", 400, 200);
+    folder.draw(chart, "vertical_negative", 400, 200);
 }
 
 // --- bars that lie
 
-void horizontalBars()
+void horizontalBars(PictureFolder& folder)
 {
     //! [horizontal_bars]
     HorizontalBarGraph chart(true);
@@ -152,10 +132,10 @@ void horizontalBars()
     chart.addItem(23442, "/usr/lib/modules");
     chart.addItem(9127, "/usr/share/fonts");
     //! [horizontal_bars]
-    draw(chart, "horizontal_bars", 500, 150);
+    folder.draw(chart, "horizontal_bars", 500, 150);
 }
 
-void horizontalTitle()
+void horizontalTitle(PictureFolder& folder)
 {
     HorizontalBarGraph chart(true);
     addAll(chart, {{812, "Applications that nobody has opened for years"},
@@ -166,15 +146,15 @@ void horizontalTitle()
     chart.setVerticalAxis(
         AxisProperty::ShowLine | AxisProperty::ShowLabels | AxisProperty::ShowTitle, "Folder");
     //! [horizontal_title]
-    draw(chart, "horizontal_title", 420, 150);
+    folder.draw(chart, "horizontal_title", 420, 150);
 }
 
-void horizontalMany()
+void horizontalMany(PictureFolder& folder)
 {
     HorizontalBarGraph chart(true);
     for (int i = 1; i <= 30; ++i)
         chart.addItem(1000 - i * i, "row " + std::to_string(i));
-    draw(chart, "horizontal_many", 420, 220);
+    folder.draw(chart, "horizontal_many", 420, 220);
 }
 
 // --- pies
@@ -182,7 +162,7 @@ void horizontalMany()
 const Items kDisk = {{41 * kGiga, "home"}, {23 * kGiga, "usr"}, {12 * kGiga, "var"},
                      {6 * kGiga, "opt"},   {2 * kGiga, "srv"},  {900 * kMega, "boot"}};
 
-void pie()
+void pie(PictureFolder& folder)
 {
     //! [pie]
     constexpr long kGigabyte = 1024L * 1024 * 1024;
@@ -192,25 +172,21 @@ void pie()
     chart.addItem(12 * kGigabyte, "var");
     chart.addItem(6 * kGigabyte, "opt");
     //! [pie]
-    draw(chart, "pie", 450, 240);
-
-    unsigned char* data = nullptr;
-    int size = 0;
-    chart.createPixmapForPrinter(450, 240, 2, &data, &size);
-    write("pie_print", data, size);
+    folder.draw(chart, "pie", 450, 240);
+    folder.print(chart, "pie_print", 450, 240, 2);
 }
 
-void pieOptions()
+void pieOptions(PictureFolder& folder)
 {
     PieGraph chart(false);
     addAll(chart, kDisk);
     //! [pie_options]
     chart.setProperty(PieGraph::RemoveLabelOverlaps | PieGraph::BoldLabels);
     //! [pie_options]
-    draw(chart, "pie_options", 400, 220);
+    folder.draw(chart, "pie_options", 400, 220);
 }
 
-void pieColors()
+void pieColors(PictureFolder& folder)
 {
     PieGraph chart(false);
     //! [pie_colors]
@@ -221,24 +197,24 @@ void pieColors()
     chart.addItem(8, "Light", {241, 196, 15});
     //! [pie_colors]
     chart.setProperty(PieGraph::RemoveLabelOverlaps);
-    draw(chart, "pie_colors", 400, 220);
+    folder.draw(chart, "pie_colors", 400, 220);
 }
 
 // --- axes
 
-void axisScale()
+void axisScale(PictureFolder& folder)
 {
     VerticalBarGraph scale(true);
     addAll(scale, {{37, "a"}, {22, "b"}, {9, "c"}});
-    draw(scale, "axes_scale", 300, 180);
+    folder.draw(scale, "axes_scale", 300, 180);
     scale.setVerticalAxis(kNumbers | AxisProperty::ShiftLastLabel, "");
-    draw(scale, "axes_shift", 300, 180);
+    folder.draw(scale, "axes_shift", 300, 180);
 
     VerticalBarGraph prefixes(true);
     addAll(prefixes, {{1234567, "a"}, {700000, "b"}, {250000, "c"}});
-    draw(prefixes, "axes_prefixes", 300, 180);
+    folder.draw(prefixes, "axes_prefixes", 300, 180);
     prefixes.setVerticalAxis(kCaptions, "");
-    draw(prefixes, "axes_numbers", 300, 180);
+    folder.draw(prefixes, "axes_numbers", 300, 180);
 }
 
 void addMonths(VerticalBarGraph& chart, int count)
@@ -250,28 +226,28 @@ void addMonths(VerticalBarGraph& chart, int count)
         chart.addItem(100 + (i * 37) % 90, kNames[i % 12]);
 }
 
-void axisCaptions()
+void axisCaptions(PictureFolder& folder)
 {
     VerticalBarGraph year(true);
     addMonths(year, 12);
-    draw(year, "axes_one_row", 860, 160);
-    draw(year, "axes_two_rows", 480, 160);
-    draw(year, "axes_turned", 300, 240);
+    folder.draw(year, "axes_one_row", 860, 160);
+    folder.draw(year, "axes_two_rows", 480, 160);
+    folder.draw(year, "axes_turned", 300, 240);
 
     VerticalBarGraph years(true);
     addMonths(years, 72);
-    draw(years, "axes_thinned", 400, 240);
+    folder.draw(years, "axes_thinned", 400, 240);
     years.setHorizontalAxis(AxisProperty::ShowLine | AxisProperty::ShowLabels, "");
-    draw(years, "axes_overlapping", 400, 240);
+    folder.draw(years, "axes_overlapping", 400, 240);
 }
 
 // --- labels of a pie
 
-void pieLabels()
+void pieLabels(PictureFolder& folder)
 {
     PieGraph free(false);
     addAll(free, {{30 * kKilo, "one"}, {25 * kKilo, "two"}, {45 * kKilo, "three"}});
-    draw(free, "pie_labels_free", 360, 200);
+    folder.draw(free, "pie_labels_free", 360, 200);
 
     PieGraph paths(false);
     //! [pie_labels_from_left]
@@ -280,10 +256,10 @@ void pieLabels()
     paths.addItem(640, "/usr/lib/python3/dist-packages/numpy");
     paths.addItem(388, "/usr/share/texlive/texmf-dist/fonts");
     //! [pie_labels_from_left]
-    draw(paths, "pie_labels_from_left", 480, 220);
+    folder.draw(paths, "pie_labels_from_left", 480, 220);
 }
 
-void pieZones()
+void pieZones(PictureFolder& folder)
 {
     PieGraph crowded(false);
     addAll(crowded, {{40, "forty"},
@@ -296,33 +272,33 @@ void pieZones()
                      {1, "single"},
                      {1, "lonely"}});
     crowded.setProperty(PieGraph::RemoveLabelOverlaps);
-    draw(crowded, "pie_labels_zones", 360, 220);
+    folder.draw(crowded, "pie_labels_zones", 360, 220);
     crowded.setProperty(0);
-    draw(crowded, "pie_labels_overlapping", 360, 220);
+    folder.draw(crowded, "pie_labels_overlapping", 360, 220);
 
     PieGraph many(false);
     for (int i = 1; i <= 60; ++i)
         many.addItem(10 + i % 7, "slice " + std::to_string(i));
-    draw(many, "pie_labels_hidden", 420, 260);
+    folder.draw(many, "pie_labels_hidden", 420, 260);
 }
 
 // --- fonts and locales
 
-void fontsAndLocales()
+void fontsAndLocales(PictureFolder& folder)
 {
     VerticalBarGraph chart(true);
     addAll(chart, kMonths);
     //! [fonts]
     chart.setFont("DejaVu Serif", 14);
     //! [fonts]
-    draw(chart, "fonts", 500, 220);
+    folder.draw(chart, "fonts", 500, 220);
 
     HorizontalBarGraph sums(true);
     //! [locale]
     sums.setLocale("de", "at");
     //! [locale]
     addAll(sums, {{12400300, "Wien"}, {9100500, "Graz"}, {1580000, "Linz"}});
-    draw(sums, "locale", 400, 120);
+    folder.draw(sums, "locale", 400, 120);
 }
 
 // --- regions
@@ -336,18 +312,18 @@ void writeFrames(std::ostream& page, const std::list<Rectangle>& regions, const 
 }
 
 // The frames are laid over the picture by the page, where the lists say.
-void regions()
+void regions(PictureFolder& folder)
 {
     VerticalBarGraph chart(false);
     addAll(chart, kMonths);
-    draw(chart, "regions", 420, 220);
-    std::ofstream page(folder + "/regions.html");
+    folder.draw(chart, "regions", 420, 220);
+    std::ostringstream page;
     page << "<div style=\"position:relative;width:420px;margin:1em auto\">\n"
          << "<img src=\"regions.png\" alt=\"A bar chart with its regions\">\n";
     writeFrames(page, *chart.getBarRectangle(), "#d63031");
     writeFrames(page, *chart.getRectangle(), "#27ae60");
     page << "</div>\n";
-    isComplete = isComplete && page.flush();
+    folder.write("regions.html", page.str());
 }
 
 } // namespace
@@ -356,11 +332,11 @@ int main(int count, char** arguments)
 {
     if (count != 2)
         return 2;
-    folder = arguments[1];
+    PictureFolder folder(arguments[1]);
     for (const auto& drawOne :
          {helloBars, verticalBars, verticalColors, verticalTitles, verticalWidth, verticalPosition,
           verticalNegative, horizontalBars, horizontalTitle, horizontalMany, pie, pieOptions,
           pieColors, axisScale, axisCaptions, pieLabels, pieZones, fontsAndLocales, regions})
-        drawOne();
-    return isComplete ? 0 : 1;
+        drawOne(folder);
+    return folder.isComplete() ? 0 : 1;
 }
