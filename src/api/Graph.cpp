@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What every chart of the public interface can do.
+#include "api/CRendering.h"
 #include "api/conversions.h"
 #include "api/image_narrowing.h"
-#include "api/offscreen_application.h"
 #include "core/CGraph1dBase.h"
 #include <tovangl/Graph.h>
 
@@ -75,7 +75,8 @@ void Graph::createPixmap(int width, int height, unsigned char** data, int* size)
 {
     if (!m_graph)
         return;
-    QImage image = ensureApplication() ? m_graph->getImage(width, height) : QImage();
+    const CRendering rendering;
+    QImage image = rendering.canPaint() ? m_graph->getImage(width, height) : QImage();
     paintDevice2Bytes(image, data, size);
 }
 
@@ -84,8 +85,9 @@ void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned c
 {
     if (!m_graph)
         return;
+    const CRendering rendering;
     QImage image =
-        ensureApplication() ? m_graph->getImageForPrinter(width, height, factor) : QImage();
+        rendering.canPaint() ? m_graph->getImageForPrinter(width, height, factor) : QImage();
     paintDevice2Bytes(image, data, size);
 }
 

@@ -2,10 +2,13 @@
 // The application object that fonts and painting need in a host without a display.
 #include "api/offscreen_application.h"
 
+#include "api/CMessageSilencer.h"
 #include "core/qt_versions.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QPluginLoader>
 
 #include <clocale>
@@ -17,20 +20,6 @@ namespace tovangl {
 namespace {
 
 std::mutex applicationMutex;
-
-// Discards Qt's messages for the length of a scope.
-class CMessageSilencer
-{
-public:
-    CMessageSilencer()
-        : m_previous(qt::installMessageHandler(qt::discardMessage))
-    {}
-    ~CMessageSilencer() { qt::installMessageHandler(m_previous); }
-    Q_DISABLE_COPY(CMessageSilencer)
-
-private:
-    qt::MessageHandler m_previous;
-};
 
 // Qt sets the C locale from the environment when an application object is made.
 class CLocaleKeeper
@@ -46,14 +35,42 @@ private:
     std::string m_locale;
 };
 
+// Qt looks beside the executable, for plugins and for a file that says where they are, but only
+// once there is an application object.
+bool hasPluginsBesideExecutable()
+{
+    const QDir folder = QFileInfo(QFile::symLinkTarget(QLatin1String("/proc/self/exe"))).dir();
+    for (const char* name : {"qt.conf", "qt6.conf", "platforms"}) {
+        if (folder.exists(QLatin1String(name)))
+            return true;
+    }
+    return false;
+}
+
+QStringList libraryPathsOfAnApplication()
+{
+    int count = 1;
+    char empty[] = "";
+    char* arguments[] = {empty, nullptr};
+    const QCoreApplication application(count, arguments);
+    return QCoreApplication::libraryPaths();
+}
+
+QStringList libraryPaths()
+{
+    if (QCoreApplication::instance() || !hasPluginsBesideExecutable())
+        return QCoreApplication::libraryPaths();
+    return libraryPathsOfAnApplication();
+}
+
 QStringList platformFolders()
 {
     QStringList folders;
     const QByteArray own = qgetenv("QT_QPA_PLATFORM_PLUGIN_PATH");
     if (!own.isEmpty())
         folders << QString::fromLocal8Bit(own.constData());
-    const QStringList libraryPaths = QCoreApplication::libraryPaths();
-    for (const QString& path : libraryPaths)
+    const QStringList paths = libraryPaths();
+    for (const QString& path : paths)
         folders << path + QLatin1String("/platforms");
     return folders;
 }

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Keeps Qt's messages about the library's own doings out of the host's output.
+#ifndef TOVANGL_API_CMESSAGESILENCER_H
+#define TOVANGL_API_CMESSAGESILENCER_H
+
+#include <QtGlobal>
+
+namespace tovangl {
+
+/// Discards the Qt messages of the calling thread for the length of a scope. Those of other threads
+/// go where they went before. Scopes may nest, and run in many threads at once.
+class CMessageSilencer
+{
+public:
+    CMessageSilencer();
+    ~CMessageSilencer();
+    Q_DISABLE_COPY(CMessageSilencer)
+};
+
+} // namespace tovangl
+
+#endif
