@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// A host that draws while it exits: in a handler registered before its first picture, in one
+// registered afterwards, and in the destructor of a static object.
+#include "draw_pie.h"
+
+#include <cstdlib>
+
+namespace {
+
+std::string folder;
+
+void require(bool condition)
+{
+    if (!condition)
+        std::_Exit(1);
+}
+
+// What painting needs is gone by now.
+class CDrawingAtTheEnd
+{
+public:
+    ~CDrawingAtTheEnd() { require(pieBytes().empty()); }
+};
+
+const CDrawingAtTheEnd drawingAtTheEnd;
+
+void drawTooLate()
+{
+    require(pieBytes().empty());
+}
+
+void drawInTime()
+{
+    require(drawPie(folder, "handler"));
+}
+
+} // namespace
+
+int main(int, char** arguments)
+{
+    folder = arguments[1];
+    require(std::atexit(drawTooLate) == 0);
+    require(drawPie(folder, "main"));
+    require(std::atexit(drawInTime) == 0);
+    return 0;
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Opens and closes the module that holds the chart library, as a host with plugins does.
+#ifndef TOVANGL_HOSTS_MODULE_H
+#define TOVANGL_HOSTS_MODULE_H
+
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <string>
+
+/// The open module. What cannot be opened ends the host with a message.
+class CModule
+{
+public:
+    explicit CModule(const char* path)
+        : m_handle(dlopen(path, RTLD_NOW | RTLD_LOCAL))
+    {
+        requireHandle(m_handle);
+    }
+    ~CModule() { dlclose(m_handle); }
+    CModule(const CModule&) = delete;
+    CModule& operator=(const CModule&) = delete;
+
+    bool draw(const std::string& folder, const std::string& name) const
+    {
+        using Draw = bool (*)(const char*, const char*);
+        void* symbol = dlsym(m_handle, "drawPieInModule");
+        requireHandle(symbol);
+        return reinterpret_cast<Draw>(symbol)(folder.c_str(), name.c_str());
+    }
+
+private:
+    static void requireHandle(const void* handle)
+    {
+        if (handle)
+            return;
+        std::fprintf(stderr, "%s\n", dlerror());
+        std::exit(3);
+    }
+
+    void* m_handle;
+};
+
+#endif
