@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+// Writes the results of a program so that no file is ever left half-written.
+#include "common/output_files.h"
+
+#include "common/CFailure.h"
+#include "common/text_checks.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace tovangl::program {
+
+namespace {
+
+constexpr mode_t kAllPermissions = 07777;
+constexpr mode_t kNewFilePermissions = 0666;
+constexpr int kNoFile = -1;
+
+using FileStatus = struct stat;
+
+std::string nameOf(const std::string& path)
+{
+    return path == kStandardOutput ? "standard output" : path;
+}
+
+/// What the path leads to; nothing where a new file would be made. A link to nowhere is refused:
+/// making its target could put a file where nobody looks for one.
+std::optional<FileStatus> statusOf(const std::string& path)
+{
+    FileStatus status = {};
+    if (::stat(path.c_str(), &status) == 0)
+        return status;
+    const int error = errno;
+    if (error != ENOENT || ::lstat(path.c_str(), &status) == 0)
+        throw systemFailure(path, error);
+    return std::nullopt;
+}
+
+bool isStandardOutput(const FileStatus& status)
+{
+    FileStatus standard = {};
+    return ::fstat(STDOUT_FILENO, &standard) == 0 && standard.st_dev == status.st_dev &&
+           standard.st_ino == status.st_ino;
+}
+
+/// "/dev/stdout" counts as standard output also where that is a file: the shell's file is meant,
+/// not another one in its place.
+bool leadsToStandardOutput(const std::string& path)
+{
+    if (path == kStandardOutput)
+        return true;
+    const std::optional<FileStatus> status = statusOf(path);
+    return status && isStandardOutput(*status);
+}
+
+bool isStream(const std::string& path)
+{
+    if (leadsToStandardOutput(path))
+        return true;
+    const std::optional<FileStatus> status = statusOf(path);
+    return status && !S_ISREG(status->st_mode) && !S_ISDIR(status->st_mode);
+}
+
+/// An open file, closed at the latest with this object.
+class COpenFile
+{
+public:
+    COpenFile(int file, std::string name)
+        : m_file(file)
+        , m_name(std::move(name))
+    {
+        if (m_file < 0)
+            throw systemFailure(m_name);
+    }
+
+    ~COpenFile()
+    {
+        if (m_file != kNoFile)
+            ::close(m_file);
+    }
+
+    COpenFile(const COpenFile&) = delete;
+    COpenFile& operator=(const COpenFile&) = delete;
+
+    void write(std::string_view bytes) const
+    {
+        while (!bytes.empty()) {
+            const ssize_t count = ::write(m_file, bytes.data(), bytes.size());
+            if (count < 0 && errno == EINTR)
+                continue;
+            if (count < 0)
+                throw systemFailure(m_name);
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        }
+    }
+
+    void setPermissions(mode_t permissions) const
+    {
+        if (::fchmod(m_file, permissions) != 0)
+            throw systemFailure(m_name);
+    }
+
+    /// Some file systems cannot promise anything here, which is no failure of this file.
+    void bringToDisk() const
+    {
+        if (::fsync(m_file) != 0 && errno != EINVAL && errno != ENOTSUP)
+            throw systemFailure(m_name);
+    }
+
+    /// Late errors, such as those of a disk across the network, show here.
+    void close()
+    {
+        if (::close(std::exchange(m_file, kNoFile)) != 0)
+            throw systemFailure(m_name);
+    }
+
+private:
+    int m_file;
+    std::string m_name;
+};
+
+void writeStream(const Output& output)
+{
+    const bool isStandard = leadsToStandardOutput(output.path);
+    COpenFile file(isStandard ? STDOUT_FILENO
+                              : ::open(output.path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC),
+                   nameOf(output.path));
+    file.write(output.bytes);
+    file.close();
+}
+
+/// Holds back the signals that end a program, so that none of them leaves a file under its
+/// provisional name.
+class CSignalPause
+{
+public:
+    CSignalPause()
+    {
+        sigset_t signals;
+        ::sigemptyset(&signals);
+        for (int signal : {SIGHUP, SIGINT, SIGQUIT, SIGTERM})
+            ::sigaddset(&signals, signal);
+        ::sigprocmask(SIG_BLOCK, &signals, &m_before);
+    }
+
+    ~CSignalPause() { ::sigprocmask(SIG_SETMASK, &m_before, nullptr); }
+
+    CSignalPause(const CSignalPause&) = delete;
+    CSignalPause& operator=(const CSignalPause&) = delete;
+
+private:
+    sigset_t m_before = {};
+};
+
+std::string resolveLinks(const std::string& path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
+                                                           &std::free);
+    if (!real)
+        throw systemFailure(path);
+    return real.get();
+}
+
+mode_t newFilePermissions()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return kNewFilePermissions & ~mask;
+}
+
+/// A file beside its place, gone with this object unless it was moved there.
+class CStagedFile
+{
+public:
+    explicit CStagedFile(const std::string& path)
+        : m_name(path)
+        , m_target(path)
+    {}
+
+    ~CStagedFile()
+    {
+        if (!m_provisional.empty())
+            ::unlink(m_provisional.c_str());
+    }
+
+    CStagedFile(const CStagedFile&) = delete;
+    CStagedFile& operator=(const CStagedFile&) = delete;
+
+    void write(std::string_view bytes)
+    {
+        const mode_t permissions = prepareTarget();
+        std::string provisional = m_target.substr(0, m_target.rfind('/') + 1) + ".tovangl-XXXXXX";
+        COpenFile file(::mkostemp(provisional.data(), O_CLOEXEC), m_name);
+        m_provisional = std::move(provisional);
+        file.write(bytes);
+        file.setPermissions(permissions);
+        file.bringToDisk();
+        file.close();
+    }
+
+    /// Moves the file, written, to its place.
+    void publish()
+    {
+        if (::rename(m_provisional.c_str(), m_target.c_str()) != 0)
+            throw systemFailure(m_name);
+        m_provisional.clear();
+    }
+
+private:
+    /// Finds the file to be replaced, if there is one.
+    ///
+    /// @return the permissions for the new file
+    mode_t prepareTarget()
+    {
+        const std::optional<FileStatus> old = statusOf(m_name);
+        if (!old)
+            return newFilePermissions();
+        requireReplaceable(*old);
+        m_target = resolveLinks(m_name);
+        return old->st_mode & kAllPermissions;
+    }
+
+    /// Renaming asks for no right to the file that it replaces; a write-protected one is meant to
+    /// stay.
+    void requireReplaceable(const FileStatus& old) const
+    {
+        if (S_ISDIR(old.st_mode))
+            throw systemFailure(m_name, EISDIR);
+        if (::access(m_name.c_str(), W_OK) != 0)
+            throw systemFailure(m_name);
+    }
+
+    std::string m_name;
+    std::string m_target;
+    std::string m_provisional;
+};
+
+void writeFiles(const std::vector<const Output*>& outputs)
+{
+    const CSignalPause pause;
+    std::vector<std::unique_ptr<CStagedFile>> staged;
+    for (const Output* output : outputs) {
+        staged.push_back(std::make_unique<CStagedFile>(output->path));
+        staged.back()->write(output->bytes);
+    }
+    for (const std::unique_ptr<CStagedFile>& file : staged)
+        file->publish();
+}
+
+} // namespace
+
+void writeOutputs(const std::vector<Output>& outputs)
+{
+    // Streams first: they may block for as long as a reader likes, when no provisional file stands
+    // about yet, and a file appears only when they have succeeded.
+    std::vector<const Output*> files;
+    for (const Output& output : outputs) {
+        if (isStream(output.path))
+            writeStream(output);
+        else
+            files.push_back(&output);
+    }
+    writeFiles(files);
+}
+
+void refuseTerminal(const std::string& path)
+{
+    if (leadsToStandardOutput(path) && ::isatty(STDOUT_FILENO))
+        throw CFailure("standard output is a terminal, which cannot show a picture; write it to a "
+                       "file with -o FILE");
+}
+
+bool isSamePlace(const std::string& first, const std::string& second)
+{
+    if (leadsToStandardOutput(first) || leadsToStandardOutput(second))
+        return leadsToStandardOutput(first) && leadsToStandardOutput(second);
+    if (!statusOf(first) || !statusOf(second))
+        return first == second;
+    return resolveLinks(first) == resolveLinks(second);
+}
+
+} // namespace tovangl::program

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Writes the results of a program so that no file is ever left half-written.
+#ifndef TOVANGL_COMMON_OUTPUT_FILES_H
+#define TOVANGL_COMMON_OUTPUT_FILES_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tovangl::program {
+
+/// Standard output, as a path.
+inline constexpr const char* kStandardOutput = "-";
+
+struct Output
+{
+    std::string path; ///< "-" is standard output
+    std::string_view bytes;
+};
+
+/// Writes every output. Pipes and devices are written to directly. A file is written under another
+/// name beside its place, and takes its place when all of it is on the disk and the other outputs
+/// have succeeded as well; until then the old file stands, and a failure leaves nothing behind. A
+/// file that exists keeps its permissions, and a link is followed. Throws CFailure.
+void writeOutputs(const std::vector<Output>& outputs);
+
+/// Throws CFailure where the path leads to a terminal, which is no place for binary data.
+void refuseTerminal(const std::string& path);
+
+/// Whether two paths lead to one file, or both to standard output.
+[[nodiscard]] bool isSamePlace(const std::string& first, const std::string& second);
+
+} // namespace tovangl::program
+
+#endif

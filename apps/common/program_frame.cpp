@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// How every program starts, and how it ends when something stops it.
+#include "common/program_frame.h"
+
+#include "common/CFailure.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <iostream>
+#include <new>
+
+namespace tovangl::program {
+
+namespace {
+
+/// A closed pipe and a file size limit are to be told as failed writes; by default they kill the
+/// process, which could neither say so nor clean up.
+void ignoreWriteSignals()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+void requirePrinted()
+{
+    if (!std::cout.flush())
+        throw CFailure("standard output: cannot write");
+}
+
+int fail(const char* name, const char* message)
+{
+    std::cerr << name << ": " << message << '\n';
+    return kExitFailure;
+}
+
+} // namespace
+
+int runProgram(const char* name, const std::function<void()>& work)
+{
+    ignoreWriteSignals();
+    try {
+        work();
+        requirePrinted();
+        return EXIT_SUCCESS;
+    } catch (const std::bad_alloc&) {
+        return fail(name, "out of memory");
+    } catch (const std::exception& failure) {
+        return fail(name, failure.what());
+    }
+}
+
+} // namespace tovangl::program

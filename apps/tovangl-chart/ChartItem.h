@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// One item as it was read.
+#ifndef TOVANGL_CHART_CHARTITEM_H
+#define TOVANGL_CHART_CHARTITEM_H
+
+#include <tovangl/Color.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tovangl::program {
+
+struct ChartItem
+{
+    long value = 0;
+    std::string caption;
+    std::optional<Color> fill;
+    std::optional<Color> outline; // only beside a fill
+};
+
+using ChartItems = std::vector<ChartItem>;
+
+/// Stands for a colour that was not given: the library uses its default in its place.
+inline constexpr Color kNoColor = {-1, -1, -1};
+
+} // namespace tovangl::program
+
+#endif

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+// The steps that every chart command takes.
+#include "tovangl-chart/chart_run.h"
+
+#include "common/output_files.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace tovangl::program {
+
+namespace {
+
+constexpr std::int64_t kMaxSide = 1'000'000;
+constexpr std::int64_t kMaxPixels = ((std::int64_t{1} << 31) - 1) / 4;
+
+int factorOf(const CommonOptions& options)
+{
+    return std::max(options.printFactor.value_or(1), 1);
+}
+
+std::string sizeText(const CommonOptions& options)
+{
+    std::string text =
+        std::to_string(options.size.width) + 'x' + std::to_string(options.size.height);
+    if (factorOf(options) > 1)
+        text += " for print at factor " + std::to_string(factorOf(options));
+    return text;
+}
+
+bool isPossibleSize(const CommonOptions& options)
+{
+    const std::int64_t width = std::int64_t{options.size.width} * factorOf(options);
+    const std::int64_t height = std::int64_t{options.size.height} * factorOf(options);
+    return width >= 1 && height >= 1 && width <= kMaxSide && height <= kMaxSide &&
+           width <= kMaxPixels / height;
+}
+
+CFailure noPicture(const CommonOptions& options)
+{
+    if (!isPossibleSize(options))
+        return CFailure("no picture can measure " + sizeText(options));
+    return CFailure("cannot draw a picture of " + sizeText(options) +
+                    ": too little memory, or the offscreen platform plugin is not installed");
+}
+
+} // namespace
+
+void checkOutputs(const CommonOptions& options)
+{
+    refuseTerminal(options.output);
+    if (!options.map.empty() && isSamePlace(options.output, options.map))
+        throw CFailure("the picture and the map cannot both go to " +
+                       (options.map == kStandardOutput ? "standard output" : options.map));
+}
+
+std::string_view renderPicture(Graph& chart, const CommonOptions& options)
+{
+    unsigned char* bytes = nullptr;
+    int size = 0;
+    if (options.printFactor)
+        chart.createPixmapForPrinter(options.size.width, options.size.height, *options.printFactor,
+                                     &bytes, &size);
+    else
+        chart.createPixmap(options.size.width, options.size.height, &bytes, &size);
+    if (size == 0)
+        throw noPicture(options);
+    return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
+}
+
+ChartRegions captionRegions(Graph& chart, const CommonOptions& options)
+{
+    ChartRegions regions;
+    regions.size.width = options.size.width * factorOf(options);
+    regions.size.height = options.size.height * factorOf(options);
+    regions.captions = *chart.getRectangle();
+    return regions;
+}
+
+void writeChart(std::string_view picture, const ChartItems& items, const ChartRegions& regions,
+                const CommonOptions& options)
+{
+    std::vector<Output> outputs{{options.output, picture}};
+    std::string map;
+    if (!options.map.empty()) {
+        map = regionMapJson(items, regions);
+        outputs.push_back({options.map, map});
+    }
+    writeOutputs(outputs);
+}
+
+} // namespace tovangl::program

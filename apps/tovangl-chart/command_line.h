@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The command line: one command a chart.
+#ifndef TOVANGL_CHART_COMMAND_LINE_H
+#define TOVANGL_CHART_COMMAND_LINE_H
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+namespace tovangl::program {
+
+/// Adds the commands; each runs when it is parsed. Defined beside what they run.
+void addPieCommand(CLI::App& program);
+void addBarsCommand(CLI::App& program);
+void addHbarsCommand(CLI::App& program);
+
+/// Adds a command with the looks that all have in common.
+CLI::App* addChartCommand(CLI::App& program, const char* name, const char* description,
+                          const char* examples);
+
+/// Reads the arguments and does what they ask for. Throws CFailure.
+///
+/// @param version  told by --version
+void runCommandLine(int count, const char* const* arguments, const char* version);
+
+} // namespace tovangl::program
+
+#endif

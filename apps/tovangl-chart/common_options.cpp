@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// The options that every chart has.
+#include "tovangl-chart/common_options.h"
+
+namespace tovangl::program {
+
+namespace {
+
+// What the library uses where only one half of a font is given.
+constexpr const char* kDefaultFamily = "Tahoma";
+constexpr int kDefaultFontSize = 11;
+
+std::string parsePath(const std::string& text)
+{
+    if (text.empty())
+        throw CFailure("the file has no name");
+    return text;
+}
+
+void addFileOptions(CLI::App& command, CommonOptions& options)
+{
+    addOption(command, "FILE", options.input, parsePath,
+              "Items, one a line; without it, standard input")
+        ->type_name("");
+    addOption(command, "-o,--output", options.output, parsePath,
+              "Write the picture (PNG) here; without it, to standard output")
+        ->type_name("FILE");
+    addOption(command, "--map", options.map, parsePath,
+              "Write where each item was drawn (JSON) here")
+        ->type_name("FILE.json");
+}
+
+void addLookOptions(CLI::App& command, CommonOptions& options)
+{
+    addOption(command, "--size", options.size, parseSize, "Size of the picture [800x600]")
+        ->type_name("WxH");
+    addOption(command, "--print", options.printFactor, parseWhole,
+              "For print: N times as many pixels, in paler colours")
+        ->type_name("N");
+    addOption(command, "--font", options.fontFamily, parseText, "Font family [Tahoma]")
+        ->type_name("NAME");
+    addOption(command, "--font-size", options.fontSize, parseWhole, "Font size in pixels [11]")
+        ->type_name("N");
+    addOption(command, "--locale", options.locale, parseLocale,
+              "How numbers are written, such as de_AT")
+        ->type_name("LL_CC");
+    addOption(command, "--threshold", options.threshold, parseReal,
+              "Leave out items below this share of the total")
+        ->type_name("PERCENT");
+    command.add_flag("--background", options.background, "Paint the background");
+}
+
+} // namespace
+
+void addCommonOptions(CLI::App& command, CommonOptions& options)
+{
+    addFileOptions(command, options);
+    addLookOptions(command, options);
+}
+
+void applyCommonOptions(Graph& chart, const CommonOptions& options)
+{
+    if (options.fontFamily || options.fontSize)
+        chart.setFont(options.fontFamily.value_or(kDefaultFamily),
+                      options.fontSize.value_or(kDefaultFontSize));
+    if (options.locale)
+        chart.setLocale(options.locale->language, options.locale->country);
+    if (options.threshold)
+        chart.setThreshold(*options.threshold);
+}
+
+} // namespace tovangl::program

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The options that every chart has.
+#ifndef TOVANGL_CHART_COMMON_OPTIONS_H
+#define TOVANGL_CHART_COMMON_OPTIONS_H
+
+#include "common/CFailure.h"
+#include "tovangl-chart/option_values.h"
+#include <tovangl/Graph.h>
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace tovangl::program {
+
+struct CommonOptions
+{
+    std::string input = "-";
+    std::string output = "-";
+    std::string map; // empty: none
+    PictureSize size;
+    std::optional<int> printFactor;
+    std::optional<std::string> fontFamily;
+    std::optional<int> fontSize;
+    std::optional<LocaleName> locale;
+    std::optional<double> threshold;
+    bool background = false;
+};
+
+/// Adds the options that every chart has to its command.
+void addCommonOptions(CLI::App& command, CommonOptions& options);
+
+/// Hands those of the settings that were given to the chart.
+void applyCommonOptions(Graph& chart, const CommonOptions& options);
+
+/// Adds an option whose value parse reads. A value that parse refuses is told with the option.
+///
+/// @param parse  one of the parse… functions
+template <typename Target, typename Parse>
+CLI::Option* addOption(CLI::App& command, const std::string& name, Target& target, Parse parse,
+                       const std::string& help)
+{
+    const auto store = [&target, parse, name](const std::string& text) {
+        try {
+            target = parse(text);
+        } catch (const CFailure& reason) {
+            throw CFailure(name + ": " + reason.what());
+        }
+    };
+    return command.add_option_function<std::string>(name, store, help)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+}
+
+} // namespace tovangl::program
+
+#endif

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Reads items, one a line: a whole number, white space, a caption, and colours behind tabs.
+#ifndef TOVANGL_CHART_ITEM_LINES_H
+#define TOVANGL_CHART_ITEM_LINES_H
+
+#include "tovangl-chart/ChartItem.h"
+
+#include <string>
+#include <string_view>
+
+namespace tovangl::program {
+
+/// How many colours may end a line.
+enum class LineColors
+{
+    Fill,          ///< one
+    FillAndOutline ///< one or two
+};
+
+/// Reads one line. White space before the number is skipped, and so is all white space up to the
+/// caption. What stands behind the last tab is a colour if it has the form of one ("#rrggbb");
+/// otherwise it belongs to the caption. Throws CFailure with the reason where the line is no item.
+[[nodiscard]] ChartItem parseItemLine(std::string_view line, LineColors colors);
+
+/// Reads all items of a file, or of standard input where the path is "-". Throws CFailure with the
+/// place and the reason.
+[[nodiscard]] ChartItems readItems(const std::string& path, LineColors colors);
+
+} // namespace tovangl::program
+
+#endif

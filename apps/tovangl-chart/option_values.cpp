@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+// What the values of options mean.
+#include "tovangl-chart/option_values.h"
+
+#include "common/CFailure.h"
+#include "common/text_checks.h"
+#include <tovangl/AxisProperty.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace tovangl::program {
+
+namespace {
+
+constexpr std::size_t kColorLength = 7; // "#rrggbb"
+constexpr int kHexadecimal = 16;
+constexpr std::string_view kHexadecimalDigits = "0123456789abcdefABCDEF";
+constexpr const char* kNoProperty = "none";
+
+struct PropertyName
+{
+    std::string_view name;
+    AxisProperty::Flag property;
+};
+
+constexpr std::array<PropertyName, 8> kPropertyNames{
+    {{"line", AxisProperty::ShowLine},
+     {"labels", AxisProperty::ShowLabels},
+     {"title", AxisProperty::ShowTitle},
+     {"bold-labels", AxisProperty::BoldLabels},
+     {"bold-title", AxisProperty::BoldTitle},
+     {"prefixes", AxisProperty::UnitPrefixes},
+     {"hide-overlapped", AxisProperty::HideOverlapped},
+     {"shift-last", AxisProperty::ShiftLastLabel}}};
+
+CFailure badValue(std::string_view text, const std::string& wanted)
+{
+    return CFailure(quote(text) + " is not " + wanted);
+}
+
+template <typename Number>
+std::string rangeText()
+{
+    return std::to_string(std::numeric_limits<Number>::digits + 1) + " bits";
+}
+
+/// std::from_chars() knows no plus sign.
+std::string_view withoutPlus(std::string_view text)
+{
+    return text.size() > 1 && text[0] == '+' && text[1] != '-' ? text.substr(1) : text;
+}
+
+template <typename Number>
+Number parseNumber(std::string_view text, const std::string& wanted)
+{
+    const std::string_view digits = withoutPlus(text);
+    const char* end = digits.data() + digits.size();
+    Number number = 0;
+    const std::from_chars_result result = std::from_chars(digits.data(), end, number);
+    if (result.ptr != end || result.ec == std::errc::invalid_argument)
+        throw badValue(text, wanted);
+    if (result.ec == std::errc::result_out_of_range)
+        throw CFailure(quote(text) + " does not fit into " + rangeText<Number>());
+    return number;
+}
+
+int channelAt(std::string_view color, std::size_t offset)
+{
+    int channel = 0;
+    std::from_chars(color.data() + offset, color.data() + offset + 2, channel, kHexadecimal);
+    return channel;
+}
+
+/// Two whole numbers with a separator between them.
+std::array<int, 2> parsePair(std::string_view text, char separator, const std::string& wanted)
+{
+    const std::size_t middle = text.find(separator);
+    if (middle == std::string_view::npos)
+        throw badValue(text, wanted);
+    return {parseNumber<int>(text.substr(0, middle), wanted),
+            parseNumber<int>(text.substr(middle + 1), wanted)};
+}
+
+int propertyBit(std::string_view name)
+{
+    for (const PropertyName& candidate : kPropertyNames) {
+        if (candidate.name == name)
+            return candidate.property;
+    }
+    throw badValue(name, "an axis property (" + axisPropertyNames() + ", or none)");
+}
+
+} // namespace
+
+std::optional<Color> findColor(std::string_view text)
+{
+    if (text.size() != kColorLength || text[0] != '#' ||
+        text.find_first_not_of(kHexadecimalDigits, 1) != std::string_view::npos)
+        return std::nullopt;
+    return Color{channelAt(text, 1), channelAt(text, 3), channelAt(text, 5)};
+}
+
+long parseItemValue(std::string_view text)
+{
+    return parseNumber<long>(text, "a whole number");
+}
+
+int parseWhole(std::string_view text)
+{
+    return parseNumber<int>(text, "a whole number");
+}
+
+double parseReal(std::string_view text)
+{
+    return parseNumber<double>(text, "a number");
+}
+
+std::string parseText(std::string_view text)
+{
+    if (findBrokenUtf8(text) != std::string_view::npos)
+        throw badValue(text, "UTF-8");
+    return std::string(text);
+}
+
+Color parseColor(std::string_view text)
+{
+    const std::optional<Color> color = findColor(text);
+    if (!color)
+        throw badValue(text, "a colour such as #4070c0");
+    return *color;
+}
+
+PictureSize parseSize(std::string_view text)
+{
+    const std::array<int, 2> sides = parsePair(text, 'x', "a size such as 800x600");
+    return {sides[0], sides[1]};
+}
+
+AxisPosition parsePosition(std::string_view text)
+{
+    const std::array<int, 2> sides = parsePair(text, ',', "a position such as 60,200");
+    return {sides[0], sides[1]};
+}
+
+LocaleName parseLocale(std::string_view text)
+{
+    if (text == "C")
+        return {"C", ""};
+    const std::size_t middle = text.find_first_of("_-");
+    if (middle == std::string_view::npos || middle == 0 || middle + 1 == text.size())
+        throw badValue(text, "a locale such as de_AT");
+    return {parseText(text.substr(0, middle)), parseText(text.substr(middle + 1))};
+}
+
+int parseAxisProperties(std::string_view text)
+{
+    if (text == kNoProperty)
+        return 0;
+    int properties = 0;
+    while (true) {
+        const std::size_t comma = text.find(',');
+        properties |= propertyBit(text.substr(0, comma));
+        if (comma == std::string_view::npos)
+            return properties;
+        text.remove_prefix(comma + 1);
+    }
+}
+
+std::string axisPropertyNames()
+{
+    std::string names;
+    for (const PropertyName& property : kPropertyNames) {
+        if (!names.empty())
+            names += ", ";
+        names += property.name;
+    }
+    return names;
+}
+
+} // namespace tovangl::program

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+// Whatever stops the program is one line on standard error, and leaves no file behind.
+#include "apps/support/shell.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+namespace tovangl::program {
+namespace {
+
+using ::testing::EndsWith;
+using ::testing::Eq;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+using Names = std::set<std::string>;
+
+constexpr int kFailure = 2;
+constexpr const char* kItems = "3 a\n2 b\n1 c\n";
+
+void expectOneLine(const ShellResult& result, const std::string& message)
+{
+    EXPECT_EQ(result.status, kFailure);
+    EXPECT_THAT(result.errors, StartsWith("tovangl-chart: "));
+    EXPECT_THAT(result.errors, HasSubstr(message));
+    EXPECT_THAT(result.errors, EndsWith("\n"));
+    EXPECT_EQ(std::count(result.errors.begin(), result.errors.end(), '\n'), 1) << result.errors;
+    EXPECT_THAT(result.output, IsEmpty());
+}
+
+struct FailingCommand
+{
+    const char* name;
+    const char* command;
+    const char* message;
+};
+
+class Failure : public ::testing::TestWithParam<FailingCommand>
+{};
+
+TEST_P(Failure, IsOneLineAndLeavesNoFile)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    expectOneLine(runShell(folder, GetParam().command), GetParam().message);
+    EXPECT_THAT(folder.names(), Eq(Names{"items"}));
+}
+
+std::string caseName(const ::testing::TestParamInfo<FailingCommand>& info)
+{
+    return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Input, Failure,
+    ::testing::Values(
+        FailingCommand{"NoItem", "echo oops | tovangl-chart pie -o x.png",
+                       "standard input:1: \"oops\" is not a whole number"},
+        FailingCommand{"LaterLine", "printf '1 a\\n\\n' | tovangl-chart bars -o x.png",
+                       "standard input:2: the line is empty"},
+        FailingCommand{"LargeNumber", "echo 9223372036854775808 a | tovangl-chart hbars -o x.png",
+                       "standard input:1: \"9223372036854775808\" does not fit into 64 bits"},
+        FailingCommand{"BrokenText", "printf '1 a\\n2 \\351\\n' | tovangl-chart pie -o x.png",
+                       "standard input:2: byte 3 of the line is not UTF-8"},
+        FailingCommand{"Missing", "tovangl-chart pie none -o x.png",
+                       "none: No such file or directory"},
+        FailingCommand{"Folder", "tovangl-chart pie . -o x.png", ".: Is a directory"},
+        FailingCommand{"TerminalSequence", "printf '\\033[2J a' | tovangl-chart pie -o x.png",
+                       "standard input:1: \"?[2J\" is not"}),
+    caseName);
+
+INSTANTIATE_TEST_SUITE_P(
+    Output, Failure,
+    ::testing::Values(
+        FailingCommand{"Missing", "tovangl-chart pie items -o no/x.png",
+                       "no/x.png: No such file or directory"},
+        FailingCommand{"Folder", "tovangl-chart pie items -o .", ".: Is a directory"},
+        FailingCommand{"FileAsFolder", "tovangl-chart pie items -o items/x.png",
+                       "items/x.png: Not a directory"},
+        FailingCommand{"FullDisk", "tovangl-chart pie items -o /dev/full",
+                       "/dev/full: No space left on device"},
+        FailingCommand{"FullStandardOutput", "tovangl-chart pie items >/dev/full",
+                       "standard output: No space left on device"},
+        FailingCommand{"FullHelp", "tovangl-chart --help >/dev/full",
+                       "standard output: cannot write"},
+        FailingCommand{"ClosedStandardOutput", "tovangl-chart pie items >&-", "standard output: "},
+        FailingCommand{"ClosedPipe",
+                       "mkfifo pipe; tovangl-chart pie items >pipe & exec 3<pipe; exec 3<&-; "
+                       "wait $!; status=$?; rm pipe; exit $status",
+                       "standard output: Broken pipe"},
+        FailingCommand{"FileSizeLimit", "ulimit -f 1; tovangl-chart bars items -o x.png",
+                       "x.png: File too large"},
+        FailingCommand{"FullMap", "tovangl-chart pie items -o x.png --map /dev/full",
+                       "/dev/full: No space left on device"},
+        FailingCommand{"MissingMapFolder", "tovangl-chart pie items -o x.png --map no/x.json",
+                       "no/x.json: No such file or directory"},
+        FailingCommand{"BothToOne", "tovangl-chart pie items -o x --map x",
+                       "the picture and the map cannot both go to x"},
+        FailingCommand{"BothToStandardOutput", "tovangl-chart pie items --map -",
+                       "the picture and the map cannot both go to standard output"}),
+    caseName);
+
+INSTANTIATE_TEST_SUITE_P(
+    Arguments, Failure,
+    ::testing::Values(
+        FailingCommand{"NoCommand", "tovangl-chart", "A subcommand is required"},
+        FailingCommand{"UnknownCommand", "tovangl-chart cake", "(see tovangl-chart --help)"},
+        FailingCommand{"UnknownOption", "tovangl-chart pie --loud items -o x.png", "--loud"},
+        FailingCommand{"OptionOfAnotherChart", "tovangl-chart pie --bar-width 3 items -o x.png",
+                       "--bar-width"},
+        FailingCommand{"Size", "tovangl-chart pie --size 100 items -o x.png",
+                       "--size: \"100\" is not a size such as 800x600"},
+        FailingCommand{"NoSize", "tovangl-chart pie --size 0x100 items -o x.png",
+                       "no picture can measure 0x100"},
+        FailingCommand{"HugeSize", "tovangl-chart pie --size 1000000x1000000 items -o x.png",
+                       "no picture can measure 1000000x1000000"},
+        FailingCommand{"HugePrint", "tovangl-chart pie --print 2147483647 items -o x.png",
+                       "no picture can measure 800x600 for print at factor 2147483647"},
+        FailingCommand{"Color", "tovangl-chart pie --text-color red items -o x.png",
+                       "--text-color: \"red\" is not a colour such as #4070c0"},
+        FailingCommand{"Threshold", "tovangl-chart bars --threshold 5% items -o x.png",
+                       "--threshold: \"5%\" is not a number"},
+        FailingCommand{"Axis", "tovangl-chart bars --value-axis loud items -o x.png",
+                       "--value-axis: \"loud\" is not an axis property"},
+        FailingCommand{"BrokenTitle",
+                       "tovangl-chart bars --value-title \"$(printf 'a\\351')\" items -o x.png",
+                       "--value-title: \"a?\" is not UTF-8"},
+        FailingCommand{"NoName", "tovangl-chart pie items -o ''",
+                       "--output: the file has no name"}),
+    caseName);
+
+TEST(Failures, LeaveTheOldPicture)
+{
+    const CTemporaryFolder folder;
+    folder.write("x.png", "old");
+    runShell(folder, "echo oops | tovangl-chart pie -o x.png");
+    runShell(folder, "ulimit -f 1; echo 1 a | tovangl-chart pie -o x.png");
+    EXPECT_EQ(folder.read("x.png"), "old");
+    EXPECT_THAT(folder.names(), Eq(Names{"x.png"}));
+}
+
+TEST(Failures, ATerminalIsNoPlaceForAPicture)
+{
+    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_GE(terminal, 0);
+    ASSERT_EQ(::grantpt(terminal) + ::unlockpt(terminal), 0);
+    const CTemporaryFolder folder;
+    const std::string name = ::ptsname(terminal);
+    expectOneLine(runShell(folder, "echo 1 a | tovangl-chart pie >" + name),
+                  "standard output is a terminal");
+    ::close(terminal);
+}
+
+} // namespace
+} // namespace tovangl::program

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+// The pictures and maps that the program writes.
+#include "apps/support/shell.h"
+
+#include <QByteArray>
+#include <QImage>
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+namespace tovangl::program {
+namespace {
+
+using ::testing::IsEmpty;
+using Json = nlohmann::json;
+
+constexpr const char* kItems =
+    "4000 first\n3000 second with a long name\n2000 third\n1000 fourth\n";
+
+/// Runs a command that must succeed in silence.
+void runWell(const CTemporaryFolder& folder, const std::string& command)
+{
+    const ShellResult result = runShell(folder, command);
+    EXPECT_EQ(result.status, 0) << command;
+    EXPECT_THAT(result.errors, IsEmpty());
+}
+
+QImage decode(const std::string& png)
+{
+    return QImage::fromData(QByteArray::fromStdString(png), "PNG")
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+/// The picture that the program draws of some items.
+QImage draw(const std::string& arguments, const std::string& items = kItems)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", items);
+    runWell(folder, "tovangl-chart " + arguments + " items -o x.png");
+    return decode(folder.read("x.png"));
+}
+
+/// The picture and the map of it.
+std::pair<QImage, Json> drawWithMap(const std::string& arguments, const std::string& items)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", items);
+    runWell(folder, "tovangl-chart " + arguments + " items -o x.png --map x.json");
+    return {decode(folder.read("x.png")), Json::parse(folder.read("x.json"))};
+}
+
+bool showsColor(const QImage& picture, QRgb color)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) == color)
+                return true;
+        }
+    }
+    return false;
+}
+
+QRgb middleOf(const QImage& picture, const Json& rectangle)
+{
+    return picture.pixel(rectangle["x"].get<int>() + rectangle["width"].get<int>() / 2,
+                         rectangle["y"].get<int>() + rectangle["height"].get<int>() / 2);
+}
+
+TEST(Pictures, ThePipelineOfTheManualWorks)
+{
+    const CTemporaryFolder folder;
+    runWell(folder,
+            "mkdir -p usr/bin usr/lib; echo 1 >usr/bin/a; head -c 9999 /dev/zero >usr/lib/b\n"
+            "du -b -d1 usr | tovangl-chart pie -o usr.png --map usr.json");
+    EXPECT_FALSE(decode(folder.read("usr.png")).isNull());
+    const Json map = Json::parse(folder.read("usr.json"));
+    ASSERT_EQ(map["items"].size(), 3U);
+    EXPECT_EQ(map["items"][2]["caption"], "usr");
+}
+
+TEST(Pictures, StandardOutputGetsWhatAFileGets)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    runWell(folder, "tovangl-chart pie items -o a.png");
+    runWell(folder, "tovangl-chart pie items >b.png");
+    runWell(folder, "tovangl-chart pie <items | cat >c.png");
+    runWell(folder, "tovangl-chart pie -o /dev/stdout - <items >d.png");
+    runWell(folder, "tovangl-chart pie -o /dev/stdout items | cat >e.png");
+    for (const char* name : {"b.png", "c.png", "d.png", "e.png"})
+        EXPECT_EQ(folder.read(name), folder.read("a.png")) << name;
+}
+
+class EveryChart : public ::testing::TestWithParam<const char*>
+{
+protected:
+    [[nodiscard]] std::string chart() const { return GetParam(); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Pictures, EveryChart, ::testing::Values("pie", "bars", "hbars"),
+                         [](const auto& info) { return info.param; });
+
+TEST_P(EveryChart, MeasuresWhatItIsAskedFor)
+{
+    EXPECT_EQ(draw(chart()).size(), QSize(800, 600));
+    EXPECT_EQ(draw(chart() + " --size 320x200").size(), QSize(320, 200));
+    EXPECT_EQ(draw(chart() + " --size 320x200 --print 3").size(), QSize(960, 600));
+}
+
+TEST_P(EveryChart, IsDrawnWithoutItems)
+{
+    EXPECT_EQ(draw(chart(), "").size(), QSize(800, 600));
+}
+
+TEST_P(EveryChart, ShowsTheColorsOfTheLines)
+{
+    const QImage picture = draw(chart(), "5 a\t#12ab34\n4 b\t#fedcba\n");
+    EXPECT_TRUE(showsColor(picture, qRgb(0x12, 0xab, 0x34)));
+    EXPECT_TRUE(showsColor(picture, qRgb(0xfe, 0xdc, 0xba)));
+}
+
+TEST_P(EveryChart, MapsEveryCaption)
+{
+    const auto [picture, map] = drawWithMap(chart() + " --size 700x500", kItems);
+    EXPECT_EQ(map["chart"], chart());
+    EXPECT_EQ(map["width"], picture.width());
+    EXPECT_EQ(map["height"], picture.height());
+    ASSERT_EQ(map["items"].size(), 4U);
+    EXPECT_EQ(map["items"][1]["value"], 3000);
+    EXPECT_EQ(map["items"][1]["caption"], "second with a long name");
+    EXPECT_GT(map["items"][1]["captionRectangle"]["width"], 0);
+}
+
+TEST_P(EveryChart, MapsThePixelsOfThePrint)
+{
+    const auto [picture, map] = drawWithMap(chart() + " --print 2", kItems);
+    EXPECT_EQ(map["width"], 1600);
+    EXPECT_EQ(map["height"], 1200);
+}
+
+class BarCharts : public EveryChart
+{};
+
+INSTANTIATE_TEST_SUITE_P(Pictures, BarCharts, ::testing::Values("bars", "hbars"),
+                         [](const auto& info) { return info.param; });
+
+TEST_P(BarCharts, MapEveryBarToItsItem)
+{
+    const auto [picture, map] =
+        drawWithMap(chart() + " --threshold 10",
+                    "50 a\t#ff0000\t#000000\n1 b\t#00ff00\t#000000\n40 c\t#0000ff\t#000000\n");
+    EXPECT_EQ(middleOf(picture, map["items"][0]["barRectangle"]), qRgb(255, 0, 0));
+    EXPECT_TRUE(map["items"][1]["barRectangle"].is_null());
+    EXPECT_EQ(middleOf(picture, map["items"][2]["barRectangle"]), qRgb(0, 0, 255));
+}
+
+TEST_P(BarCharts, OutlineTheirBars)
+{
+    EXPECT_TRUE(showsColor(draw(chart(), "5 a\t#ffff00\t#123456\n"), qRgb(0x12, 0x34, 0x56)));
+}
+
+struct OptionCase
+{
+    const char* name;
+    const char* chart;
+    const char* option;
+};
+
+class EveryOption : public ::testing::TestWithParam<OptionCase>
+{};
+
+TEST_P(EveryOption, ShowsInThePicture)
+{
+    const std::string chart = std::string(GetParam().chart) + " --size 640x480";
+    EXPECT_FALSE(draw(chart) == draw(chart + ' ' + GetParam().option));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pictures, EveryOption,
+    ::testing::Values(OptionCase{"Font", "pie", "--font 'DejaVu Sans'"},
+                      OptionCase{"FontSize", "pie", "--font-size 16"},
+                      OptionCase{"Locale", "hbars", "--locale de_DE"},
+                      OptionCase{"Threshold", "pie", "--threshold 15"},
+                      OptionCase{"PieBackground", "pie", "--background"},
+                      OptionCase{"Bold", "pie", "--bold"},
+                      OptionCase{"ShortenLeft", "pie", "--shorten-left"},
+                      OptionCase{"WithoutSizes", "pie", "--without-sizes"},
+                      OptionCase{"OutlineColor", "pie", "--outline-color '#ff0000'"},
+                      OptionCase{"PieTextColor", "pie", "--text-color '#ff0000'"},
+                      OptionCase{"LineColor", "pie", "--line-color '#ff0000'"},
+                      OptionCase{"BarsBackground", "bars", "--background"},
+                      OptionCase{"HbarsBackground", "hbars", "--background"},
+                      OptionCase{"CategoryTitle", "bars", "--category-title Words"},
+                      OptionCase{"ValueTitle", "bars", "--value-title Words"},
+                      OptionCase{"HbarsCategoryTitle", "hbars", "--category-title Words"},
+                      OptionCase{"CategoryAxis", "bars", "--category-axis line"},
+                      OptionCase{"ValueAxis", "bars", "--value-axis line,labels"},
+                      OptionCase{"HbarsCategoryAxis", "hbars", "--category-axis none"},
+                      OptionCase{"BarWidth", "bars", "--bar-width 5"},
+                      OptionCase{"HbarsBarWidth", "hbars", "--bar-width 5"},
+                      OptionCase{"Position", "bars", "--position 80,100"},
+                      OptionCase{"HbarsPosition", "hbars", "--position 130,-1"},
+                      OptionCase{"BarsTextColor", "bars", "--text-color '#ff0000'"},
+                      OptionCase{"HbarsTextColor", "hbars", "--text-color '#ff0000'"}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(Pictures, OverlapsAreKeptOnRequest)
+{
+    std::string items;
+    for (int i = 0; i < 40; ++i)
+        items += "1 slice " + std::to_string(i) + '\n';
+    EXPECT_FALSE(draw("pie --size 300x200", items) ==
+                 draw("pie --size 300x200 --keep-overlaps", items));
+}
+
+TEST(Pictures, TheLastOfTwoOptionsCounts)
+{
+    EXPECT_EQ(draw("pie --size 100x100 --size 200x150").size(), QSize(200, 150));
+}
+
+} // namespace
+} // namespace tovangl::program
