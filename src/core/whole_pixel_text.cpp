@@ -74,13 +74,27 @@ qreal alignedOffset(qreal gap, bool atEnd, bool centred)
     return atEnd ? gap : centred ? gap / 2 : 0;
 }
 
+// In a text from right to left, the spaces at which a line was broken hang out, and the line begins
+// that much to the left of its place.
+qreal hangingSpace(QTextLine line)
+{
+    const QPointF position = line.position();
+    // A cursor left of 0 would be put at 0.
+    line.setPosition(QPointF(kUnlimitedWidth, position.y()));
+    const qreal left = line.cursorToX(line.xToCursor(0));
+    line.setPosition(position);
+    return qMax<qreal>(0, kUnlimitedWidth - left);
+}
+
 void drawLines(QPainter& painter, const QRectF& rect, const QTextLayout& layout, qreal top,
                Qt::Alignment alignment)
 {
     for (int i = 0; i < layout.lineCount(); ++i) {
         const QTextLine line = layout.lineAt(i);
-        const qreal left = alignedOffset(rect.width() - line.horizontalAdvance(),
-                                         alignment & Qt::AlignRight, alignment & Qt::AlignHCenter);
+        qreal left = alignedOffset(rect.width() - line.horizontalAdvance(),
+                                   alignment & Qt::AlignRight, alignment & Qt::AlignHCenter);
+        if (alignment & Qt::AlignRight)
+            left -= hangingSpace(line);
         line.draw(&painter, QPointF(rect.x() + left, rect.y() + top));
     }
 }
