@@ -120,7 +120,11 @@ public:
         const Qt::Alignment across[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
         const Qt::Alignment along[] = {Qt::AlignTop, Qt::AlignBottom, Qt::AlignVCenter,
                                        Qt::Alignment()};
-        QTextOption option(across[from(0, 2)] | along[from(0, 3)]);
+        // A direction is fixed by the constructor that takes an alignment, and found in the text
+        // after the other one.
+        const Qt::Alignment alignment = across[from(0, 2)] | along[from(0, 3)];
+        QTextOption option = from(0, 1) ? QTextOption() : QTextOption(alignment);
+        option.setAlignment(alignment);
         if (from(0, 2) == 0)
             option.setWrapMode(QTextOption::NoWrap);
         return option;
