@@ -2,6 +2,9 @@
 // Draws a case with this library, as a host would.
 #include "programs/draw_chart.h"
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace tovangl {
 namespace bench {
 
@@ -39,6 +42,11 @@ CPngBytes drawChart(Graph& graph, const CChartCase& chart)
         graph.createPixmap(chart.width, chart.height, &data, &size);
     else
         graph.createPixmapForPrinter(chart.width, chart.height, chart.factor, &data, &size);
+    // No picture would be the fastest of all.
+    if (size == 0) {
+        std::fputs("the library made no picture\n", stderr);
+        std::abort();
+    }
     return {data, static_cast<std::size_t>(size)};
 }
 

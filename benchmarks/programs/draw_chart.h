@@ -20,7 +20,7 @@ inline constexpr bool kWithoutBackground = false;
 [[nodiscard]] std::unique_ptr<Graph> makeChart(const CChartCase& chart,
                                                bool background = kWithoutBackground);
 
-/// Renders the chart; the bytes belong to the graph.
+/// Renders the chart; the bytes belong to the graph. Ends the process where there is no picture.
 CPngBytes drawChart(Graph& graph, const CChartCase& chart);
 
 } // namespace bench

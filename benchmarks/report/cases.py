@@ -16,7 +16,7 @@ class Case:
     name: str
     kind: str
     arguments: tuple  # what every measuring program takes first
-    pixels: int
+    size: tuple  # pixels of the picture
 
 
 @dataclass(frozen=True)
@@ -36,8 +36,8 @@ def read_cases():
         for line in file:
             name, kind, data, width, height, factor = line.split()
             arguments = (kind, os.path.join(CASES, data), width, height, factor)
-            cases.append(Case(name, kind, arguments,
-                              int(width) * int(height) * int(factor) ** 2))
+            size = (int(width) * int(factor), int(height) * int(factor))
+            cases.append(Case(name, kind, arguments, size))
     return cases
 
 
@@ -72,3 +72,17 @@ def run(command):
 def picture_of(program, case):
     name = f"{case.name}-{program.name}.png"
     return os.path.join(PICTURES, name.replace(", ", "-"))
+
+
+def forget_picture(program, case):
+    if os.path.exists(picture_of(program, case)):
+        os.remove(picture_of(program, case))
+
+
+def check_picture(program, case):
+    """Ends the run where a program did not draw what its time was taken for."""
+    with open(picture_of(program, case), "rb") as file:
+        head = file.read(24)
+    size = (int.from_bytes(head[16:20], "big"), int.from_bytes(head[20:24], "big"))
+    if head[:8] != b"\x89PNG\r\n\x1a\n" or size != case.size:
+        raise SystemExit(f"{picture_of(program, case)} is no PNG of {case.size} pixels")

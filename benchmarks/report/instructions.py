@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Instruction counts, which are the same from run to run on a busy machine too."""
+"""Instruction counts: the same within a thousandth from run to run, on a busy machine too."""
 import os
 import re
 import subprocess
@@ -23,7 +23,7 @@ PARTS = {
 
 
 def print_instructions(charts):
-    profiles = {chart: Profile(count(chart)) for chart in charts}
+    profiles = {chart: profile_warm(chart) for chart in charts}
     rows = []
     for chart, profile in profiles.items():
         parts = split(profile.inclusive)
@@ -32,43 +32,56 @@ def print_instructions(charts):
     tables.print_table("Instructions of one warm chart, millions",
                        ["", "all", *PARTS, "rest"], rows)
     for chart, profile in profiles.items():
-        print_steps(chart, profile)
-        print_functions(chart, profile)
+        print_steps(chart.name, profile)
+        print_functions(chart.name, profile)
+    cold = profile_cold(charts[0])
+    print_functions(f"A whole process that draws one {charts[0].name}", cold)
+
+
+def profile_warm(chart):
+    program = cases.built("programs", "chart_instructions")
+    return Profile(chart.name, ROUNDS, "--collect-atstart=no",
+                   [program, *chart.arguments, str(ROUNDS)])
+
+
+def profile_cold(chart):
+    return Profile("cold", 1, "--collect-atstart=yes",
+                   [*cases.OURS.command, *chart.arguments, "1", cases.picture_of(cases.OURS, chart)])
 
 
 class Profile:
-    """Instructions of a round: in all, and by (function, library)."""
+    """The instructions of one round: in all, and by (function, library)."""
 
-    def __init__(self, file):
-        self.total, self.inclusive = read_functions(file, inclusive=True)
-        _, self.own = read_functions(file, inclusive=False)
+    def __init__(self, name, rounds, option, command):
+        file = os.path.join(cases.BUILD, f"callgrind.{name}")
+        run_callgrind(file, option, command)
+        self.total, self.inclusive = read_functions(file, rounds, inclusive=True)
+        _, self.own = read_functions(file, rounds, inclusive=False)
 
 
-def count(chart):
-    """Runs a case under callgrind, in an environment that does not vary."""
-    profile = os.path.join(cases.BUILD, f"callgrind.{chart.name}")
-    command = ["valgrind", "-q", "--tool=callgrind", "--collect-atstart=no",
-               f"--callgrind-out-file={profile}", cases.built("programs", "chart_instructions"),
-               *chart.arguments, str(ROUNDS)]
+def run_callgrind(file, option, command):
+    """In an environment that does not vary."""
     environment = {"PATH": os.environ["PATH"], "HOME": os.environ.get("HOME", "/"),
                    "LC_ALL": "C.UTF-8", "QT_HASH_SEED": "0"}
-    subprocess.run(command, env=environment, check=True)
-    return profile
+    subprocess.run(["valgrind", "-q", "--tool=callgrind", option,
+                    f"--callgrind-out-file={file}", *command],
+                   env=environment, stdout=subprocess.DEVNULL, check=True)
 
 
-def read_functions(profile, inclusive):
+def read_functions(file, rounds, inclusive):
     output = cases.run(["callgrind_annotate", "--threshold=100", "--show-percs=no",
-                        f"--inclusive={'yes' if inclusive else 'no'}", profile])
+                        f"--inclusive={'yes' if inclusive else 'no'}", file])
     total, functions = 0, {}
     for line in output.split("\n"):
         match = re.match(r"\s*([\d,]+)\s+(.*)", line)
         if not match:
             continue
-        instructions = int(match[1].replace(",", "")) / ROUNDS
+        instructions = int(match[1].replace(",", "")) / rounds
         if match[2].startswith("PROGRAM TOTALS"):
             total = instructions
         else:
-            functions[readable(match[2])] = functions.get(readable(match[2]), 0) + instructions
+            function = readable(match[2])
+            functions[function] = functions.get(function, 0) + instructions
     return total, functions
 
 
@@ -104,17 +117,17 @@ def greatest_of(functions, pattern):
     return max(matching(functions, pattern))
 
 
-def print_steps(chart, profile):
+def print_steps(name, profile):
     """Our own functions with everything that they call."""
     steps = {name: value for (name, library), value in profile.inclusive.items()
              if library.startswith("libtovangl") and value >= profile.total / 1000}
-    rows = [[short(name), millions(value), percent(value, profile.total)]
-            for name, value in greatest(steps, MOST_STEPS)]
-    tables.print_table(f"{chart.name}: our functions, with all that they call",
+    rows = [[short(step), millions(value), percent(value, profile.total)]
+            for step, value in greatest(steps, MOST_STEPS)]
+    tables.print_table(f"{name}: our functions, with all that they call",
                        ["", "millions", "%"], rows)
 
 
-def print_functions(chart, profile):
+def print_functions(title, profile):
     """Where the instructions themselves are. Stripped libraries tell addresses."""
     libraries = {}
     for (_, library), value in profile.own.items():
@@ -123,7 +136,7 @@ def print_functions(chart, profile):
             for library, value in greatest(libraries, MOST_LIBRARIES)]
     rows += [[f"{short(name)} ({library})", millions(value), percent(value, profile.total)]
              for (name, library), value in greatest(profile.own, MOST_FUNCTIONS)]
-    tables.print_table(f"{chart.name}: where the instructions are", ["", "millions", "%"], rows)
+    tables.print_table(f"{title}: where the instructions are", ["", "millions", "%"], rows)
 
 
 def greatest(counts, most):

@@ -33,7 +33,9 @@ def rounds_for(known, budget):
 
 
 def time_rounds(program, chart, rounds):
+    cases.forget_picture(program, chart)
     output = cases.run(command_of(program, chart, rounds + WARM_UP)).split("\n")
+    cases.check_picture(program, chart)
     return [float(line) for line in output[1 + WARM_UP:] if line]
 
 
