@@ -19,7 +19,7 @@ void fitText(benchmark::State& state)
     constexpr double kCharacterWidth = 7;
     const QString text(static_cast<int>(state.range(0)), QLatin1Char('x'));
     const cdraw::TextMeasure measure = [](const QString& part) {
-        return kCharacterWidth * part.size();
+        return kCharacterWidth * static_cast<double>(part.size());
     };
     for (auto _ : state)
         benchmark::DoNotOptimize(
