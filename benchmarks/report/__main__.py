@@ -3,7 +3,7 @@
 import argparse
 import datetime
 import os
-import platform
+import subprocess
 
 import cases
 import instructions
@@ -26,9 +26,18 @@ def read_arguments():
 def print_machine():
     with open("/proc/cpuinfo", encoding="utf-8") as file:
         model = next((line.split(":")[1].strip() for line in file if "model name" in line), "?")
-    load = " ".join(f"{value:.1f}" for value in os.getloadavg())
     print(f"{datetime.date.today()}, {model}, {os.cpu_count()} processors, "
-          f"Linux {platform.release()}, load {load}")
+          f"load {os.getloadavg()[0]:.1f}")
+
+
+def print_versions(with_peers):
+    packages = ["libqt5gui5", "libpng16-16", "zlib1g"]
+    if with_peers:
+        packages += ["gnuplot-nox", "libqcustomplot2.1", "libqwt-qt5-6", "libplplot17",
+                     "python3-matplotlib"]
+    query = ["dpkg-query", "--show", "--showformat=${Package} ${Version}\n", *packages]
+    found = subprocess.run(query, capture_output=True, text=True, check=False).stdout
+    print(", ".join(found.splitlines()))
 
 
 def measure(quick, with_peers):
@@ -49,6 +58,7 @@ def main():
     arguments = read_arguments()
     os.makedirs(cases.PICTURES, exist_ok=True)
     print_machine()
+    print_versions(not (arguments.no_peers or arguments.callgrind))
     if arguments.callgrind:
         charts = cases.read_cases()
         instructions.print_instructions(charts[:1] if arguments.quick else charts)

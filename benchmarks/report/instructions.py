@@ -45,8 +45,9 @@ def profile_warm(chart):
 
 
 def profile_cold(chart):
+    picture = cases.picture_of(cases.OURS, chart)
     return Profile("cold", 1, "--collect-atstart=yes",
-                   [*cases.OURS.command, *chart.arguments, "1", cases.picture_of(cases.OURS, chart)])
+                   [*cases.OURS.command, *chart.arguments, "1", picture])
 
 
 class Profile:

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """How long charts take: warm, and from the start of a process."""
+import itertools
 import os
 import statistics
 import time
@@ -12,7 +13,7 @@ WARM_UP = 2  # rounds that are not counted
 
 def time_all(programs, charts, passes, budget):
     """Every pass runs all programs in turn on each case, so that a slow moment of the machine meets
-    all of them. Returns the milliseconds of every round by (program, case)."""
+    all of them. Returns, by (program, case), each pass's list of the milliseconds of its rounds."""
     results = {}
     for number in range(passes):
         for chart in charts:
@@ -20,7 +21,7 @@ def time_all(programs, charts, passes, budget):
             turn = number % len(able)
             for program in able[turn:] + able[:turn]:
                 rounds = rounds_for(results.get((program, chart)), budget)
-                results.setdefault((program, chart), []).extend(
+                results.setdefault((program, chart), []).append(
                     time_rounds(program, chart, rounds))
     return results
 
@@ -29,7 +30,11 @@ def rounds_for(known, budget):
     """As many rounds as fit into the milliseconds of the budget, at least three."""
     if not known:
         return 3
-    return max(3, min(100, int(budget / min(known))))
+    return max(3, min(100, int(budget / lowest(known))))
+
+
+def lowest(passes):
+    return min(map(min, passes))
 
 
 def time_rounds(program, chart, rounds):
@@ -50,25 +55,33 @@ def print_times(results, programs, charts):
                        ["", *(chart.name for chart in charts)], rows)
 
 
-def times_cell(times):
-    if not times:
+def times_cell(passes):
+    if not passes:
         return "-"
-    return f"{tables.significant(min(times))} ({tables.significant(statistics.median(times))})"
+    median = statistics.median(itertools.chain.from_iterable(passes))
+    return f"{tables.significant(lowest(passes))} ({tables.significant(median)})"
 
 
 def print_ratios(results, charts):
     """A pie is compared with those peers that antialias it, as this library does."""
     rows = []
     for chart in charts:
-        times = {program: min(times) for (program, of), times in results.items()
+        peers = {program: passes for (program, of), passes in results.items()
                  if of == chart and program != cases.OURS and
                  (program.antialiases or chart.kind != "pie")}
-        fastest = min(times, key=times.get)
-        ours = min(results[cases.OURS, chart])
-        rows.append([chart.name, tables.significant(ours), fastest.name,
-                     tables.significant(times[fastest]), f"{ours / times[fastest]:.2f}"])
+        fastest = min(peers, key=lambda program: lowest(peers[program]))
+        ours, theirs = results[cases.OURS, chart], peers[fastest]
+        rows.append([chart.name, tables.significant(lowest(ours)), fastest.name,
+                     tables.significant(lowest(theirs)), f"{lowest(ours) / lowest(theirs):.2f}",
+                     f"{ratio_within_passes(ours, theirs):.2f}"])
     tables.print_table("Against the fastest peer (pies: the fastest that antialiases them)",
-                       ["", "tovangl, ms", "peer", "its ms", "ratio"], rows)
+                       ["", "tovangl, ms", "peer", "its ms", "ratio", "within a pass, median"],
+                       rows)
+
+
+def ratio_within_passes(ours, theirs):
+    """Programs that ran right after each other met the same load, whatever it was."""
+    return statistics.median(min(a) / min(b) for a, b in zip(ours, theirs))
 
 
 def time_cold_starts(programs, chart, passes):
