@@ -44,6 +44,7 @@ void CBarBase::drawContents(QPainter& painter)
     drawOnBackground(painter);
     drawBars(painter);
     drawAxes(painter);
+    m_isDrawn = true;
 }
 
 void CBarBase::drawBars(QPainter& painter)

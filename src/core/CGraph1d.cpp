@@ -90,6 +90,19 @@ void CGraph1d<T>::putItemRectangle(std::list<QRect>& rects) const
 }
 
 template <typename T>
+std::vector<const T*> CGraph1d<T>::drawnItems() const
+{
+    std::vector<const T*> result(m_items.size(), nullptr);
+    auto selected = m_isDrawn ? m_selectedItems.begin() : m_selectedItems.end();
+    auto entry = result.begin();
+    for (auto item = m_items.begin(); selected != m_selectedItems.end(); ++item, ++entry) {
+        if (*item == *selected)
+            *entry = *selected++;
+    }
+    return result;
+}
+
+template <typename T>
 void CGraph1d<T>::selectItems()
 {
     m_selectedItems.clear();
@@ -190,6 +203,7 @@ template <typename T>
 template <typename Surface>
 Surface CGraph1d<T>::getSurface(int width, int height)
 {
+    forgetDrawing();
     m_width = scalePixels(width, m_scale);
     m_height = scalePixels(height, m_scale);
     Surface device = makeRasterSurface<Surface>(m_width, m_height);

@@ -7,6 +7,7 @@
 #include "core/CGraph1dBase.h"
 
 #include <memory>
+#include <vector>
 
 namespace tovangl {
 
@@ -41,6 +42,9 @@ public:
 
     [[nodiscard]] const std::list<T*>& items() const { return m_items; }
     [[nodiscard]] const std::list<T*>& selectedItems() const { return m_selectedItems; }
+    /// One entry for each item, in the order of adding: the item, or null where the last rendering
+    /// left it out.
+    [[nodiscard]] std::vector<const T*> drawnItems() const;
 
 protected:
     /// The colour itself, or the default colour of the item that is added next.

@@ -62,6 +62,10 @@ public:
     [[nodiscard]] int width() const { return m_width; }
     [[nodiscard]] int height() const { return m_height; }
     [[nodiscard]] int scale() const { return m_scale; }
+    /// Whether the last rendering drew the chart: the picture could be made and had room for it.
+    [[nodiscard]] bool isDrawn() const { return m_isDrawn; }
+    /// Makes isDrawn() false until the next rendering.
+    void forgetDrawing() { m_isDrawn = false; }
 
     /// The colour to fill with on the current device: for print, 60 % of the way toward white.
     [[nodiscard]] QColor getOutputDeviceColor(const QColor& color) const;
@@ -71,7 +75,8 @@ protected:
     double m_threshold = 0.0; // per cent
     int m_width = -1;         // device pixels; -1 before the first rendering
     int m_height = -1;
-    int m_scale = 1; // device pixels for each pixel of a setting
+    int m_scale = 1;        // device pixels for each pixel of a setting
+    bool m_isDrawn = false; // set at the end of drawContents()
     QString m_fontFamily;
     int m_fontSize;                    // pixels before scaling
     std::unique_ptr<QLocale> m_locale; // borrowed by labels and axes
