@@ -77,12 +77,23 @@ public:
     /// @return a list owned by this object and rewritten by the next call; never null
     std::list<Rectangle>* getBarRectangle();
 
+    /// Which bar belongs to which item: one rectangle for each item, in the order of adding.
+    ///
+    /// The rectangles are those of the last rendering and of no earlier one. All four fields are 0
+    /// where that rendering drew no bar: the item was below the threshold, its bar has no extent,
+    /// it was added later, or the picture had no room for the chart or could not be made. A bar
+    /// whose width was set may reach beyond the picture.
+    ///
+    /// @return a list owned by this object and rewritten by the next call; never null
+    std::list<Rectangle>* getItemBarRectangle();
+
 protected:
     /// The chart behind this facade; for the library's own use.
     CBarGraph* getGraph() const;
 
 private:
-    std::list<Rectangle>* m_barRectangles; // owned
+    std::list<Rectangle>* m_barRectangles;     // owned
+    std::list<Rectangle>* m_itemBarRectangles; // owned
 };
 
 } // namespace tovangl

@@ -11,9 +11,12 @@ namespace tovangl {
 
 HorizontalBarGraph::HorizontalBarGraph(bool background)
     : m_barRectangles(nullptr)
+    , m_itemBarRectangles(nullptr)
 {
     auto graph = std::make_unique<CLabeledBarGraph>(background);
-    m_barRectangles = new std::list<Rectangle>;
+    auto barRectangles = std::make_unique<std::list<Rectangle>>();
+    m_itemBarRectangles = new std::list<Rectangle>;
+    m_barRectangles = barRectangles.release();
     m_graph = graph.release();
 }
 
@@ -21,6 +24,7 @@ HorizontalBarGraph::~HorizontalBarGraph()
 {
     delete m_graph;
     delete m_barRectangles;
+    delete m_itemBarRectangles;
 }
 
 bool HorizontalBarGraph::addItem(long value, const std::string& text)
@@ -63,6 +67,12 @@ std::list<Rectangle>* HorizontalBarGraph::getBarRectangle()
 {
     assignBarRectangles(*m_barRectangles, getGraph());
     return m_barRectangles;
+}
+
+std::list<Rectangle>* HorizontalBarGraph::getItemBarRectangle()
+{
+    assignItemBarRectangles(*m_itemBarRectangles, getGraph());
+    return m_itemBarRectangles;
 }
 
 CLabeledBarGraph* HorizontalBarGraph::getGraph() const

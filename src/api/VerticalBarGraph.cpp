@@ -11,9 +11,12 @@ namespace tovangl {
 
 VerticalBarGraph::VerticalBarGraph(bool background)
     : m_barRectangles(nullptr)
+    , m_itemBarRectangles(nullptr)
 {
     auto graph = std::make_unique<CBarGraph>(background);
-    m_barRectangles = new std::list<Rectangle>;
+    auto barRectangles = std::make_unique<std::list<Rectangle>>();
+    m_itemBarRectangles = new std::list<Rectangle>;
+    m_barRectangles = barRectangles.release();
     m_graph = graph.release();
 }
 
@@ -21,6 +24,7 @@ VerticalBarGraph::~VerticalBarGraph()
 {
     delete m_graph;
     delete m_barRectangles;
+    delete m_itemBarRectangles;
 }
 
 bool VerticalBarGraph::addItem(long value, const std::string& text)
@@ -68,6 +72,12 @@ std::list<Rectangle>* VerticalBarGraph::getBarRectangle()
 {
     assignBarRectangles(*m_barRectangles, getGraph());
     return m_barRectangles;
+}
+
+std::list<Rectangle>* VerticalBarGraph::getItemBarRectangle()
+{
+    assignItemBarRectangles(*m_itemBarRectangles, getGraph());
+    return m_itemBarRectangles;
 }
 
 CBarGraph* VerticalBarGraph::getGraph() const

@@ -30,4 +30,12 @@ void assignBarRectangles(std::list<Rectangle>& list, const CBarBase* graph)
     assignRectangles(list, rects);
 }
 
+void assignItemBarRectangles(std::list<Rectangle>& list, const CBarBase* graph)
+{
+    std::list<QRect> rects;
+    if (graph)
+        graph->putItemBarRectangle(rects);
+    assignRectangles(list, rects);
+}
+
 } // namespace tovangl

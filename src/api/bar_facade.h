@@ -19,6 +19,9 @@ class CBarBase;
 /// Replaces the list's content by the rectangles of the bars last drawn; none without a chart.
 void assignBarRectangles(std::list<Rectangle>& list, const CBarBase* graph);
 
+/// Replaces the list's content by one rectangle for each item; none without a chart.
+void assignItemBarRectangles(std::list<Rectangle>& list, const CBarBase* graph);
+
 } // namespace tovangl
 
 #endif

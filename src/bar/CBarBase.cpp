@@ -46,6 +46,12 @@ bool CBarBase::putBarRectangle(std::list<QRect>& rects) const
     return true;
 }
 
+void CBarBase::putItemBarRectangle(std::list<QRect>& rects) const
+{
+    for (const CBarGraphItem* item : drawnItems())
+        rects.push_back(item && item->barRect().isValid() ? item->barRect() : QRect());
+}
+
 void CBarBase::createCategoryAxis(CAxis::Orientation orientation, CAxis::LegendLocation location,
                                   CAxis::Properties properties, const QString& title)
 {

@@ -67,6 +67,10 @@ public:
     virtual void initNumberAxis(int extra);
     virtual void drawBackground(QPainter& painter);
 
+    /// Appends one rectangle for each item, in the order of adding: its bar in the last rendering,
+    /// the null rectangle where that has none.
+    void putItemBarRectangle(std::list<QRect>& rects) const;
+
     void setHorizontalAxis(CAxis::Properties properties, const QString& title);
     void setVerticalAxis(CAxis::Properties properties, const QString& title);
     /// An invalid colour leaves the texts black.
