@@ -7,7 +7,9 @@
 #include <tovangl/Color.h>
 #include <tovangl/Export.h>
 #include <tovangl/Graph.h>
+#include <tovangl/Slice.h>
 
+#include <list>
 #include <string>
 
 namespace tovangl {
@@ -55,9 +57,24 @@ public:
     /// them. A colour with a channel outside 0 to 255 goes back to the default.
     void setColors(const Color& outline, const Color& text, const Color& line);
 
+    /// Where the slices were drawn: one record for each item, in the order of adding.
+    ///
+    /// The records are those of the last rendering and of no earlier one. All fields are 0 where
+    /// that rendering drew no slice: the value was not above 0, its share is below the threshold or
+    /// rounds to no angle at all (under a sixteenth of a degree), the item was added later, or the
+    /// picture had no room for the chart or could not be made.
+    ///
+    /// getPolygon() turns a record into an outline.
+    ///
+    /// @return a list owned by this object and rewritten by the next call; never null
+    std::list<Slice>* getSlice();
+
 protected:
     /// The chart behind this facade; for the library's own use.
     CPieGraph* getGraph() const;
+
+private:
+    std::list<Slice>* m_slices; // owned
 };
 
 } // namespace tovangl

@@ -11,7 +11,9 @@
 #include <tovangl/HorizontalBarGraph.h>
 #include <tovangl/MessageHandler.h>
 #include <tovangl/PieGraph.h>
+#include <tovangl/Point.h>
 #include <tovangl/Rectangle.h>
+#include <tovangl/Slice.h>
 #include <tovangl/VerticalBarGraph.h>
 
 #endif

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The pie chart of the public interface.
 #include "api/conversions.h"
+#include "api/slice_records.h"
 #include "pie/CPieGraph.h"
 #include <tovangl/PieGraph.h>
+
+#include <memory>
 
 namespace tovangl {
 
@@ -13,14 +16,18 @@ static_assert(int{PieGraph::ShowSizes} == int{CPieGraph::ShowSizes});
 static_assert(int{PieGraph::DefaultProperties} == 384);
 
 PieGraph::PieGraph(bool background)
+    : m_slices(nullptr)
 {
-    m_graph = new CPieGraph(background);
+    auto graph = std::make_unique<CPieGraph>(background);
+    m_slices = new std::list<Slice>;
+    m_graph = graph.release();
 }
 
 PieGraph::~PieGraph()
 {
     delete m_graph;
     m_graph = nullptr;
+    delete m_slices;
 }
 
 bool PieGraph::addItem(long value, const std::string& text)
@@ -44,6 +51,12 @@ void PieGraph::setColors(const Color& outline, const Color& text, const Color& l
     graph->setPieOutlineColor(toQColor(outline));
     graph->setTextColor(toQColor(text));
     graph->setLabelLineColor(toQColor(line));
+}
+
+std::list<Slice>* PieGraph::getSlice()
+{
+    assignSlices(*m_slices, getGraph());
+    return m_slices;
 }
 
 CPieGraph* PieGraph::getGraph() const

@@ -58,6 +58,8 @@ public:
     /// The square that holds the pie and the beams of its labels.
     [[nodiscard]] const QRectF& area() const { return m_area; }
     [[nodiscard]] const QRectF& pieRect() const { return m_pieRect; }
+    /// The pie's ellipse as last drawn, with the half pixel by which a background moves it.
+    [[nodiscard]] const QRectF& drawnPieRect() const { return m_drawnPieRect; }
 
     /// Lists the labels on Qt's debug output.
     void debugLabels() const;
@@ -100,6 +102,7 @@ private:
     QRectF m_labelRect;
     QRectF m_area;
     QRectF m_pieRect;
+    QRectF m_drawnPieRect;
     Options m_options;
     bool m_background;
     QColor m_pieOutlineColor; // invalid: not set

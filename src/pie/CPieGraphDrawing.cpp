@@ -19,6 +19,7 @@ void CPieGraph::drawContents(QPainter& painter)
     drawPies(painter);
     debugDraw(painter);
     drawLabels(painter);
+    m_isDrawn = true;
 }
 
 void CPieGraph::drawBackground(QPainter& painter)
@@ -30,6 +31,7 @@ void CPieGraph::drawBackground(QPainter& painter)
 
 void CPieGraph::drawPies(QPainter& painter)
 {
+    m_drawnPieRect = painter.worldTransform().mapRect(m_pieRect);
     painter.setPen(
         QPen(QBrush(getPieOutlineColor()), m_scale, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     const bool isWholeDisc = m_selectedItems.size() == 1; // drawn without a seam

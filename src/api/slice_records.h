@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The slices of a pie as records of the public interface.
+#ifndef TOVANGL_API_SLICE_RECORDS_H
+#define TOVANGL_API_SLICE_RECORDS_H
+
+#include <tovangl/Slice.h>
+
+#include <list>
+
+namespace tovangl {
+
+class CPieGraph;
+
+/// Replaces the list's content by one record for each item; none without a chart. Where memory runs
+/// out the list keeps the old one.
+void assignSlices(std::list<Slice>& list, const CPieGraph* graph);
+
+} // namespace tovangl
+
+#endif
