@@ -72,6 +72,18 @@ public:
     /// @return a list owned by this object and rewritten by the next call; never null
     std::list<Rectangle>* getRectangle();
 
+    /// Describes the last rendering in one English sentence, for a picture's alternative text.
+    ///
+    /// It tells the kind of chart, how many of its items were drawn, and the greatest and the least
+    /// of these with captions: Pie chart, 2 of 3 items drawn: the greatest is “Rent” with 1,200,
+    /// the least is “Food” with 430. Drawn are the items that the threshold left in, if the picture
+    /// had room for the chart. Numbers are written as the locale has it. The sentence is one line:
+    /// white space and control characters of a caption become spaces, and of a caption longer than
+    /// 256 characters the first 256 are used.
+    ///
+    /// @return UTF-8; empty where there is no chart
+    std::string describe() const;
+
     /// Renders the chart as a PNG image.
     ///
     /// The bytes stay owned by this object: do not free them. They live until the next export,

@@ -2,6 +2,7 @@
 // What every chart of the public interface can do.
 #include "api/CRendering.h"
 #include "api/conversions.h"
+#include "api/description.h"
 #include "api/image_narrowing.h"
 #include "core/CGraph1dBase.h"
 #include <tovangl/Graph.h>
@@ -71,10 +72,16 @@ std::list<Rectangle>* Graph::getRectangle()
     return m_rectangles;
 }
 
+std::string Graph::describe() const
+{
+    return describeChart(m_graph);
+}
+
 void Graph::createPixmap(int width, int height, unsigned char** data, int* size)
 {
     if (!m_graph)
         return;
+    m_graph->forgetDrawing();
     const CRendering rendering;
     QImage image = rendering.canPaint() ? m_graph->getImage(width, height) : QImage();
     paintDevice2Bytes(image, data, size);
@@ -85,6 +92,7 @@ void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned c
 {
     if (!m_graph)
         return;
+    m_graph->forgetDrawing();
     const CRendering rendering;
     QImage image =
         rendering.canPaint() ? m_graph->getImageForPrinter(width, height, factor) : QImage();

@@ -64,7 +64,7 @@ public:
     [[nodiscard]] int scale() const { return m_scale; }
     /// Whether the last rendering drew the chart: the picture could be made and had room for it.
     [[nodiscard]] bool isDrawn() const { return m_isDrawn; }
-    /// Makes isDrawn() false until the next rendering.
+    /// Makes isDrawn() false until the next rendering, for one that cannot even begin.
     void forgetDrawing() { m_isDrawn = false; }
 
     /// The colour to fill with on the current device: for print, 60 % of the way toward white.

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+// A chart in one sentence.
+#include "api/description.h"
+
+#include "bar/CBarGraph.h"
+#include "bar/CLabeledBarGraph.h"
+#include "labels/number_text.h"
+#include "pie/CPieGraph.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace tovangl {
+
+namespace {
+
+constexpr int kLongestCaption = 256; // characters
+
+QString shortened(const QString& caption)
+{
+    if (caption.size() <= kLongestCaption)
+        return caption;
+    const bool isPairCut = caption.at(kLongestCaption - 1).isHighSurrogate();
+    return caption.left(isPairCut ? kLongestCaption - 1 : kLongestCaption) + QChar(0x2026);
+}
+
+// One line without control characters.
+QString readable(QString text)
+{
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control)
+            character = QLatin1Char(' ');
+    }
+    return text.simplified();
+}
+
+QString numberOf(long long value, const QLocale& locale)
+{
+    return numberText(value, PlainNumber, locale, kKilo1024);
+}
+
+QString mention(const CGraph1dItem& item, const QLocale& locale)
+{
+    const QString number = numberOf(item.value(), locale);
+    const QString caption = readable(shortened(item.text()));
+    if (caption.isEmpty())
+        return number;
+    return QChar(0x201c) + caption + QChar(0x201d) + QLatin1String(" with ") + number;
+}
+
+// Of several items with the greatest value the first is told, of the least ones the last.
+template <typename T>
+QString extremes(const std::list<T*>& items, const QLocale& locale)
+{
+    if (items.empty())
+        return QString();
+    if (items.size() == 1)
+        return QLatin1String(": ") + mention(*items.front(), locale);
+    const auto isLess = CGraph1d<T>::compareItems;
+    const auto greatest = std::max_element(items.begin(), items.end(), isLess);
+    const auto least = std::min_element(items.rbegin(), items.rend(), isLess);
+    return QLatin1String(": the greatest is ") + mention(**greatest, locale) +
+           QLatin1String(", the least is ") + mention(**least, locale);
+}
+
+template <typename T>
+std::string describe(const char* kind, const CGraph1d<T>& graph)
+{
+    const QLocale& locale = *graph.locale();
+    const std::list<T*> drawn = graph.isDrawn() ? graph.selectedItems() : std::list<T*>();
+    const auto count = [&locale](std::size_t number) {
+        return numberOf(static_cast<long long>(number), locale);
+    };
+    const QString sentence = QLatin1String(kind) + QLatin1String(", ") + count(drawn.size()) +
+                             QLatin1String(" of ") + count(graph.items().size()) +
+                             QLatin1String(" items drawn") + extremes(drawn, locale) +
+                             QLatin1Char('.');
+    const QByteArray bytes = sentence.toUtf8();
+    return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+} // namespace
+
+std::string describeChart(const CGraph1dBase* graph)
+{
+    if (const auto* pie = dynamic_cast<const CPieGraph*>(graph))
+        return describe("Pie chart", *pie);
+    if (const auto* bars = dynamic_cast<const CBarGraph*>(graph))
+        return describe("Vertical bar chart", *bars);
+    if (const auto* bars = dynamic_cast<const CLabeledBarGraph*>(graph))
+        return describe("Horizontal bar chart", *bars);
+    return std::string();
+}
+
+} // namespace tovangl
