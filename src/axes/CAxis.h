@@ -206,7 +206,6 @@ private:
     [[nodiscard]] std::int64_t usableSpan(LabelDirection direction);
     [[nodiscard]] QSize orientedSize(const QRect& rect) const;
     [[nodiscard]] int roomForLabels(const QRect& rect) const;
-    [[nodiscard]] static bool canShorten(QPainter& painter, const CBarTextLabel& label, int room);
 
     std::unique_ptr<CBarTextLabel> m_titleLabel;
     QRect m_labelRect;

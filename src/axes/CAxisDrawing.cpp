@@ -2,9 +2,9 @@
 // The base of the axes of a bar chart: painting line, labels and title.
 #include "axes/CAxis.h"
 #include "axes/aligned_text_option.h"
-#include "axes/axis_pen.h"
 #include "axes/moved_rectangle.h"
 #include "draw/CPainterSaver.h"
+#include "draw/aliased_shapes.h"
 #include "labels/CBarTextLabel.h"
 
 namespace tovangl {
@@ -22,8 +22,8 @@ void CAxis::drawLine(QPainter& painter) const
 {
     if (!m_properties.testFlag(ShowLine) || m_lineHidden)
         return;
-    painter.setPen(solidPen(m_lineColor, m_lineWidth));
-    painter.drawLine(QPoint(0, 0), resolveOrientedCoordSigned(m_axisLength, 0));
+    cdraw::drawStraightLine(painter, QPoint(0, 0), resolveOrientedCoordSigned(m_axisLength, 0),
+                            m_lineColor, m_lineWidth);
 }
 
 void CAxis::drawLabels(QPainter& painter)

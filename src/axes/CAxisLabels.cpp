@@ -2,8 +2,6 @@
 // The base of the axes of a bar chart: measuring labels and title, and what has room.
 #include "axes/CAxis.h"
 #include "axes/label_thinning.h"
-#include "draw/CPainterSaver.h"
-#include "draw/text_fitting.h"
 #include "labels/CBarTextLabel.h"
 
 #include <QtAlgorithms>
@@ -52,7 +50,7 @@ void CAxis::processAcrossLabels(QPainter& painter, const QRect& rect)
 {
     const int room = roomForLabels(rect);
     for (const CBarTextLabel* label : m_labels) {
-        if (!canShorten(painter, *label, room)) {
+        if (!label->canFit(room, painter)) {
             m_labelsHidden = true;
             return;
         }
@@ -66,7 +64,7 @@ void CAxis::processTitle(QPainter& painter, const QRect& rect)
     const QSize space = getSpaceForTitle(rect);
     const int along = space.width();
     const int across = space.height();
-    if (!canShorten(painter, *m_titleLabel, along) || across < getElementHeight(WholeThickness)) {
+    if (!m_titleLabel->canFit(along, painter) || across < getElementHeight(WholeThickness)) {
         m_titleHidden = true;
         return;
     }
@@ -111,17 +109,6 @@ void CAxis::clearLabels()
 int CAxis::roomForLabels(const QRect& rect) const
 {
     return addPixels(getSpaceForLabels(rect).height(), -getElementHeight(LineAndTicks));
-}
-
-bool CAxis::canShorten(QPainter& painter, const CBarTextLabel& label, int room)
-{
-    // The measured box is never narrower than the text, so a label that fits needs no closer look.
-    if (label.getBoundingRect().width() <= room)
-        return true;
-    const CPainterSaver saver(painter);
-    applyBold(painter, label.isBold());
-    QString text = label.getText();
-    return cdraw::shortenText(text, room, painter, label.isShortFromLeft(), cdraw::kStripSpaces);
 }
 
 } // namespace tovangl

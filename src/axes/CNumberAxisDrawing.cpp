@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The value axis of a bar chart: its grid lines.
 #include "axes/CNumberAxis.h"
-#include "axes/axis_pen.h"
 #include "draw/CPainterSaver.h"
+#include "draw/aliased_shapes.h"
 #include "draw/gradient_shapes.h"
 #include "labels/CBarTextLabel.h"
 
@@ -25,9 +25,9 @@ void CNumberAxis::drawLabelLines(QPainter& painter, int length, const QColor& fi
         // Deliberate: hidden labels count as gaps but draw no line, so that with them the last
         // colour is not reached.
         const QColor color = cdraw::linearInterpolation(first, last, drawn / gaps);
-        painter.setPen(solidPen(color, lineWidth()));
-        painter.drawLine(COrientedCoord(along, 1).resolve(isHorizontal()),
-                         COrientedCoord(along, length).resolve(isHorizontal()));
+        cdraw::drawStraightLine(painter, COrientedCoord(along, 1).resolve(isHorizontal()),
+                                COrientedCoord(along, length).resolve(isHorizontal()), color,
+                                lineWidth());
         ++drawn;
     }
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The base of the bar charts: painting.
 #include "axes/aligned_text_option.h"
-#include "axes/axis_pen.h"
 #include "bar/CBarBase.h"
 #include "core/pixel_arithmetic.h"
+#include "draw/aliased_shapes.h"
 #include "draw/gradient_shapes.h"
 #include "labels/CBarTextLabel.h"
 
@@ -74,9 +74,7 @@ void CBarBase::drawBar(QPainter& painter, CBarGraphItem* item)
     if (!item || !item->barRect().isValid())
         return;
     // Deliberate: bars keep their own colour in print as well.
-    painter.setBrush(item->color());
-    painter.setPen(solidPen(item->outlineColor(), m_scale));
-    painter.drawRect(item->barRect());
+    cdraw::drawOutlinedRect(painter, item->barRect(), item->color(), item->outlineColor(), m_scale);
 }
 
 QColor CBarBase::getBackgroundTopColor() const

@@ -229,7 +229,9 @@ void CTextLabel<P, R>::drawNormally(QPainter& painter, const R& rect, const QTex
     const CPainterSaver saver(painter);
     applyBold(painter, m_bold);
     const QRectF room = CLabelGeometry<R>::drawnRect(rect);
-    const QString text = getAdjustedText(getText(), room.width(), painter);
+    const QString text = fitsAsMeasured(room.width())
+                             ? getText()
+                             : getAdjustedText(getText(), room.width(), painter);
     painter.setPen(m_color);
     qt::drawText(painter, room, cdraw::measuredPart(text), option);
 }
@@ -269,6 +271,23 @@ void CTextLabel<P, R>::initBoundingRect(QPainter& painter)
     // whatever alignment it is drawn with later.
     m_boundingRect = qt::measureText(painter, R(), cdraw::measuredPart(getText()));
     m_boundingRectReady = true;
+}
+
+template <typename P, typename R>
+bool CTextLabel<P, R>::canFit(double width, QPainter& painter) const
+{
+    if (fitsAsMeasured(width))
+        return true;
+    const CPainterSaver saver(painter);
+    applyBold(painter, m_bold);
+    QString copy = getText();
+    return cdraw::shortenText(copy, width, painter, m_shortFromLeft, cdraw::kStripSpaces);
+}
+
+template <typename P, typename R>
+bool CTextLabel<P, R>::fitsAsMeasured(double width) const
+{
+    return m_boundingRectReady && m_boundingRect.width() <= width;
 }
 
 template <typename P, typename R>

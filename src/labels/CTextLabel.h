@@ -62,6 +62,8 @@ public:
     virtual void setItemRect(QPainter& painter, const R& rect);
 
     void initBoundingRect(QPainter& painter);
+    /// Whether the text fits into the width, in pixels, as it stands or shortened.
+    [[nodiscard]] bool canFit(double width, QPainter& painter) const;
     /// The value in the label's locale and the process's kilo.
     [[nodiscard]] QString numberToText(long long value, int format) const;
 
@@ -77,6 +79,10 @@ public:
     void setColor(const QColor& color) { m_color = color; }
     [[nodiscard]] const P& position() const { return m_position; }
     void setPosition(const P& position) { m_position = position; }
+
+private:
+    // A measured text that fits need not be measured again.
+    [[nodiscard]] bool fitsAsMeasured(double width) const;
 
 protected:
     QString m_text;

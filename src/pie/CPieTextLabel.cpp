@@ -3,9 +3,7 @@
 #include "pie/CPieTextLabel.h"
 
 #include "core/CPieBaseItem.h"
-#include "draw/CPainterSaver.h"
 #include "draw/circle_geometry.h"
-#include "draw/text_fitting.h"
 #include "pie/pie_geometry.h"
 
 #include <QPainter>
@@ -123,11 +121,7 @@ bool CPieTextLabel::isTextLabelShortenCorrectly(QPainter& painter) const
 {
     const double room = getBoundingRectAdjustedToGraphBoundary().width() -
                         m_sizeLabel->getBoundingRect(painter).width();
-    const CPainterSaver saver(painter);
-    applyBold(painter, m_nameLabel->isBold());
-    QString name = m_nameLabel->getText();
-    const bool fits = cdraw::shortenText(name, room, painter, m_nameLabel->isShortFromLeft(),
-                                         cdraw::kStripSpaces);
+    const bool fits = m_nameLabel->canFit(room, painter);
     m_canDrawSizeLabel = m_canDrawSizeLabel && fits;
     return fits;
 }
