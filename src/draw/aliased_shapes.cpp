@@ -18,9 +18,14 @@ namespace {
 constexpr int kOpaque = 255;
 // The rasterizer of paths knows no coordinates beyond this.
 constexpr int kLargestPathCoord = 32767;
-// The ends of wider strokes are now and then a pixel off, because paths have fixed-point
-// coordinates.
-constexpr int kWidestExactPen = 4; // pixels
+constexpr int kWidestFilledPen = 4; // pixels
+
+// Whether the edges of a stroke lie between pixels. Those of a pen of odd width run through the
+// middle of pixels, and rounding decides; the rasterizer has a way of its own for the width 1.
+constexpr bool hasExactEdges(int width)
+{
+    return width == 1 || (width > 0 && width % 2 == 0 && width <= kWidestFilledPen);
+}
 
 QPen solidPen(const QColor& color, int width)
 {
@@ -42,7 +47,7 @@ bool canFill(const QPainter& painter, const QRect& rect, int width)
     if (painter.testRenderHint(QPainter::Antialiasing) ||
         transform.type() > QTransform::TxTranslate || !isWhole(transform.dx()) ||
         !isWhole(transform.dy()) || window.width() > kLargestPathCoord ||
-        window.height() > kLargestPathCoord || width < 1 || width > kWidestExactPen)
+        window.height() > kLargestPathCoord || !hasExactEdges(width))
         return false;
     return QRectF(window.adjusted(width, width, -width, -width))
         .contains(QRectF(rect).translated(transform.dx(), transform.dy()));

@@ -17,7 +17,8 @@ namespace cdraw {
 
 /// Draws a filled rectangle with an outline, pixel for pixel as QPainter::drawRects() does with a
 /// solid pen of square corners. Opaque rectangles inside the picture are filled; all others, and
-/// those on a painter that antialiases, turns or scales, are stroked.
+/// those on a painter that antialiases, turns or scales, and pens of odd width above 1, are
+/// stroked.
 ///
 /// @param rect          the outline runs along its left and top edge, and one pixel beyond its
 ///                      right and bottom edge

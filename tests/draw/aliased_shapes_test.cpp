@@ -114,6 +114,31 @@ TEST(StraightLine, IsTheStrokedLinePixelForPixel)
     }
 }
 
+// Rounding errors of strokes show at coordinates that a small picture does not have.
+TEST(StraightLine, IsTheStrokedLineInWidePicturesToo)
+{
+    std::mt19937 random(13);
+    for (int round = 0; round < 800; ++round) {
+        const QPoint from(10 + static_cast<int>(random() % 2980U), 8);
+        const QPoint to(10 + static_cast<int>(random() % 2980U), 8);
+        const int width = 1 + round % 4;
+        QImage fast(3000, 16, QImage::Format_ARGB32);
+        fast.fill(QColor(Qt::white).rgba());
+        QImage plain = fast;
+        {
+            QPainter painter(&fast);
+            drawStraightLine(painter, from, to, kOutline, width);
+        }
+        {
+            QPainter painter(&plain);
+            painter.setPen(
+                QPen(QBrush(kOutline), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+            painter.drawLine(from, to);
+        }
+        ASSERT_EQ(fast, plain) << from.x() << " to " << to.x() << " width " << width;
+    }
+}
+
 } // namespace
 } // namespace cdraw
 } // namespace tovangl
