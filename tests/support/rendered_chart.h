@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// All that a host gets from one rendering, to be compared with another one.
+#ifndef TOVANGL_SUPPORT_RENDERED_CHART_H
+#define TOVANGL_SUPPORT_RENDERED_CHART_H
+
+#include "support/CAnyChart.h"
+
+#include <list>
+#include <string>
+
+namespace tovangl {
+
+struct CRenderedChart
+{
+    std::string png;
+    std::list<Rectangle> items;
+    std::list<Rectangle> bars;
+    std::list<Rectangle> itemBars;
+    std::list<Slice> slices;
+    std::string description;
+};
+
+/// Copies the bytes of an export, and everything else that the chart tells of it.
+[[nodiscard]] CRenderedChart copyRendering(CAnyChart& chart, const CExport& picture);
+
+/// Whether two renderings have equal pixels, equal regions and equal descriptions.
+[[nodiscard]] bool isSameRendering(const CRenderedChart& a, const CRenderedChart& b);
+
+} // namespace tovangl
+
+#endif
