@@ -47,3 +47,25 @@ count_results() {
 attribute() {
     if [[ $2 =~ [[:space:]]$1=\"([0-9]+)\" ]]; then echo "${BASH_REMATCH[1]}"; else echo 0; fi
 }
+
+# build_harness PRESET PROGRAM: builds one program below tests/ with the fonts of the tests, and sets
+# harness to its path. A sanitizer's build directory is named after its preset.
+build_harness() {
+    local preset=$1 program=$2
+    build_preset "$preset" -- "$(basename "$program")" >&2
+    export FONTCONFIG_FILE=$PWD/build/$preset/tests/fonts.conf
+    # The callers use it.
+    # shellcheck disable=SC2034
+    harness=build/$preset/tests/$program
+}
+
+# must_fail WHAT COMMAND...: runs a command that has to find a fault seeded on purpose.
+must_fail() {
+    local what=$1
+    shift
+    if "$@" >/dev/null 2>&1; then
+        echo "self-test: the seeded fault \"$what\" was not found" >&2
+        return 1
+    fi
+    echo "self-test: the seeded fault \"$what\" was found"
+}

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// Draws a chart in every way that the public interface offers.
+#include "hostile/hostile_input.h"
+
+#include <cstdint>
+#include <stdexcept>
+
+namespace tovangl {
+
+namespace {
+
+void require(bool isKept, const char* promise)
+{
+    if (!isKept)
+        throw std::logic_error(promise);
+}
+
+// A big-endian number of a PNG header.
+std::int64_t headerNumber(const CExport& picture, int offset)
+{
+    std::int64_t number = 0;
+    for (int i = 0; i < 4; ++i)
+        number = number * 256 + picture.data[offset + i];
+    return number;
+}
+
+void checkExport(const CExport& picture, std::int64_t width, std::int64_t height)
+{
+    constexpr int kWidthOffset = 16;
+    constexpr int kHeightOffset = 20;
+    constexpr int kHeaderSize = 33;
+    require(picture.data != nullptr, "an export gives a pointer, whatever the picture");
+    require(picture.size == 0 || picture.size > kHeaderSize, "an export is empty or a picture");
+    if (picture.size == 0)
+        return;
+    require(headerNumber(picture, kWidthOffset) == width, "a picture is as wide as asked for");
+    require(headerNumber(picture, kHeightOffset) == height, "a picture is as high as asked for");
+}
+
+// A bar that has no room is as much below no width as its outline is wide.
+void checkRectangles(CAnyChart& chart, std::int64_t scale)
+{
+    (void)chart.itemRectangles();
+    (void)chart.itemBarRectangles();
+    for (const Slice& slice : chart.slices())
+        (void)getPolygon(slice);
+    require(!chart.graph().describe().empty(), "every chart has a description");
+    for (const Rectangle& bar : chart.barRectangles())
+        require(bar.width >= -scale && bar.height >= -scale, "a bar covers no negative area");
+}
+
+} // namespace
+
+void drawEverything(CAnyChart& chart, int width, int height, int factor)
+{
+    constexpr std::int64_t kOnScreen = 1;
+    const std::int64_t scale = factor < 1 ? 1 : factor;
+    checkExport(chart.createPixmap(width, height), width, height);
+    checkRectangles(chart, kOnScreen);
+    checkExport(chart.createPixmapForPrinter(width, height, factor), width * scale, height * scale);
+    checkRectangles(chart, scale);
+}
+
+void addOrdinaryItems(CAnyChart& chart)
+{
+    chart.addItem(120, "usr");
+    chart.addItem(45000, "var");
+    chart.addItem(3, "a folder with a rather long name");
+    chart.addItem(7000, "home", Color{200, 30, 30}, Color{0, 0, 0});
+}
+
+} // namespace tovangl
