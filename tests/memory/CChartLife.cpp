@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// A chart from its constructor to its destructor, through every operation, while memory runs out.
+#include "memory/CChartLife.h"
+
+#include "memory/allocation_faults.h"
+
+#include <new>
+
+namespace tovangl {
+
+namespace {
+
+constexpr int kWidth = 240;  // pixels
+constexpr int kHeight = 180; // pixels
+constexpr int kFactor = 2;
+
+// Labels, titles and everything that needs room of its own; the same word for axes and pies.
+constexpr int kEverythingShown = 0x1ff;
+
+} // namespace
+
+CChartLife::CChartLife(ChartKind kind)
+    : m_kind(kind)
+{}
+
+void CChartLife::live()
+{
+    call([this] { m_chart = std::make_unique<CAnyChart>(m_kind, true); });
+    applySettings();
+    addItems();
+    render(false);
+    render(true);
+    call([this] { m_chart->graph().clear(); });
+    render(false);
+    addItems();
+    render(false);
+    call([this] { m_chart->graph().freePixmap(); });
+    call([this] { m_chart.reset(); });
+}
+
+void CChartLife::call(const Call& operation)
+{
+    try {
+        const CFaultyCall faulty;
+        operation();
+    } catch (const std::bad_alloc&) {
+        handleFailure(operation);
+    }
+}
+
+// The memory is back: the same call must work now.
+void CChartLife::handleFailure(const Call& operation)
+{
+    CAllocationFaults::end();
+    if (!m_swallowsFailure)
+        ++m_exceptionCount;
+    operation();
+    if (m_addsItemAfterFailure && m_chart)
+        m_chart->addItem(100, "seeded");
+}
+
+void CChartLife::applySettings()
+{
+    call([this] { m_chart->graph().setFont("DejaVu Sans", 9); });
+    call([this] { m_chart->graph().setLocale("de", "at"); });
+    call([this] { m_chart->graph().setThreshold(0.5); });
+    call([this] { m_chart->setProperties(kEverythingShown, "a title of several words"); });
+    call([this] { m_chart->setColors({60, 60, 60}, {0, 0, 90}, {90, 0, 0}); });
+    call([this] { m_chart->setBarWidth(9); });
+}
+
+void CChartLife::addItems()
+{
+    const auto add = [this](long value, const char* text) {
+        call([=] { m_chart->addItem(value, text); });
+    };
+    const auto addColored = [this](long value, const char* text) {
+        call([=] { m_chart->addItem(value, text, {200, 90, 30}, {0, 0, 0}); });
+    };
+    add(34000, "a caption that is too long for its room");
+    addColored(12000, "usr");
+    add(300, "var\nlib");
+    add(-4000, "negative");
+    add(11000, "home");
+    addColored(9000, "opt");
+    add(400, "srv");
+    add(350, "tmp");
+}
+
+void CChartLife::render(bool isForPrinter)
+{
+    CExport picture;
+    call([&] {
+        picture = isForPrinter ? m_chart->createPixmapForPrinter(kWidth, kHeight, kFactor)
+                               : m_chart->createPixmap(kWidth, kHeight);
+    });
+    CRenderedChart rendering;
+    call([&] { rendering = copyRendering(*m_chart, picture); });
+    m_renderings.push_back(rendering);
+}
+
+} // namespace tovangl

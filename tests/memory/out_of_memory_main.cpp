@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+// Lets each allocation of the library's own fail once in the life of every kind of chart.
+//
+// out_of_memory [--every N] [--self-test | --seed-leak]
+// --every N tries only each N-th allocation; --seed-leak does nothing but leak. The last line of
+// the output sums up.
+#include "memory/CChartLife.h"
+#include "memory/allocation_faults.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+namespace tovangl {
+namespace {
+
+enum class SeededFault
+{
+    None,
+    Leak,
+    WrongPicture,
+    SwallowedFailure
+};
+
+struct CSummary
+{
+    long allocations = 0;
+    long failuresTried = 0;
+    long wrong = 0;
+};
+
+// A fewer number would mean that the counting does not work.
+constexpr long kFewestAllocations = 50;
+
+std::vector<CRenderedChart> renderUndisturbed(ChartKind kind)
+{
+    CChartLife life(kind);
+    life.live();
+    return life.renderings();
+}
+
+bool areSameRenderings(const std::vector<CRenderedChart>& a, const std::vector<CRenderedChart>& b)
+{
+    bool isSame = a.size() == b.size();
+    for (std::size_t i = 0; isSame && i < a.size(); ++i)
+        isSame = isSameRendering(a[i], b[i]);
+    return isSame;
+}
+
+// Tries one failing allocation, and says what went wrong; null where nothing did.
+const char* findFlaw(ChartKind kind, const std::vector<CRenderedChart>& expected,
+                     const CAllocationFaults& faults, SeededFault seeded)
+{
+    const long liveBefore = CAllocationFaults::liveCount();
+    bool areEqual = false;
+    int exceptionCount = 0;
+    {
+        CChartLife life(kind);
+        if (seeded == SeededFault::WrongPicture)
+            life.addItemAfterFailure();
+        if (seeded == SeededFault::SwallowedFailure)
+            life.swallowFailure();
+        life.live();
+        areEqual = areSameRenderings(life.renderings(), expected);
+        exceptionCount = life.exceptionCount();
+    }
+    if (seeded == SeededFault::Leak)
+        (void)CAllocationFaults::allocateAsLibrary();
+    if (!areEqual)
+        return "the chart renders another picture afterwards";
+    if (faults.hasFailed() != (exceptionCount == 1))
+        return "std::bad_alloc does not leave the call";
+    if (CAllocationFaults::liveCount() != liveBefore)
+        return "an allocation is not freed";
+    return nullptr;
+}
+
+// Lets the allocations of one kind of chart fail, one after the other, until a life has no more.
+void tryKind(ChartKind kind, FaultPattern pattern, long every, SeededFault seeded,
+             CSummary& summary)
+{
+    const std::vector<CRenderedChart> expected = renderUndisturbed(kind);
+    for (long failing = 1;; failing += every) {
+        const CAllocationFaults faults(pattern, failing);
+        const char* const flaw = findFlaw(kind, expected, faults, seeded);
+        if (!faults.hasFailed()) {
+            summary.allocations += CAllocationFaults::count();
+            return;
+        }
+        ++summary.failuresTried;
+        if (flaw) {
+            ++summary.wrong;
+            std::printf("FAIL  %s, allocation %ld: %s\n", nameOf(kind), failing, flaw);
+        }
+    }
+}
+
+CSummary tryAll(long every, SeededFault seeded)
+{
+    CSummary summary;
+    for (ChartKind kind : kChartKinds) {
+        const long before = summary.allocations;
+        tryKind(kind, FaultPattern::Once, every, seeded, summary);
+        if (summary.allocations - before < kFewestAllocations) {
+            ++summary.wrong;
+            std::printf("FAIL  %s: hardly any allocation counted\n", nameOf(kind));
+        }
+        tryKind(kind, FaultPattern::FromThenOn, every, seeded, summary);
+    }
+    return summary;
+}
+
+int runSelfTest()
+{
+    constexpr long kFew = 100;
+    int missed = 0;
+    for (SeededFault fault :
+         {SeededFault::Leak, SeededFault::WrongPicture, SeededFault::SwallowedFailure})
+        missed += tryAll(kFew, fault).wrong == 0 ? 1 : 0;
+    std::printf("self-test: 3 seeded faults, %d missed\n", missed);
+    return missed == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+int runAll(long every)
+{
+    const CSummary summary = tryAll(every, SeededFault::None);
+    std::printf("%ld allocations in the lives of three charts, %ld failures tried, %ld wrong\n",
+                summary.allocations / 2, summary.failuresTried, summary.wrong);
+    return summary.wrong == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+} // namespace tovangl
+
+int main(int count, char** arguments)
+{
+    long every = 1;
+    for (int i = 1; i < count; ++i) {
+        const std::string option = arguments[i];
+        if (option == "--self-test")
+            return tovangl::runSelfTest();
+        if (option == "--seed-leak") {
+            (void)tovangl::CAllocationFaults::allocateAsLibrary();
+            return EXIT_SUCCESS;
+        }
+        if (option == "--every" && i + 1 < count)
+            every = std::atol(arguments[++i]);
+    }
+    return tovangl::runAll(every);
+}
