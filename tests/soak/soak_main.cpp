@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// Renders many mixed charts in one process, which must not grow.
+//
+// soak [--charts N] [--seed-fault memory|descriptor|thread]
+// The last line of the output sums up.
+#include "soak/process_figures.h"
+#include "support/mixed_charts.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace tovangl {
+namespace {
+
+constexpr unsigned kWarmUp = 1000;    // charts after which nothing may grow any more
+constexpr long kAllowedGrowth = 2048; // kilobytes
+
+struct COptions
+{
+    unsigned charts = 50000;
+    std::string seededFault;
+};
+
+COptions parseOptions(int count, char** arguments)
+{
+    COptions options;
+    for (int i = 1; i + 1 < count; i += 2) {
+        const std::string name = arguments[i];
+        if (name == "--charts")
+            options.charts = static_cast<unsigned>(std::atoi(arguments[i + 1]));
+        if (name == "--seed-fault")
+            options.seededFault = arguments[i + 1];
+    }
+    return options;
+}
+
+// What a leak of each kind would look like from outside.
+void leak(const std::string& fault)
+{
+    constexpr std::size_t kLeakedMemory = 16384; // bytes a chart
+    static std::vector<std::string> memory;
+    static std::vector<int> descriptors;
+    static std::size_t threads = 0;
+    constexpr std::size_t kFew = 10;
+    if (fault == "memory")
+        memory.emplace_back(kLeakedMemory, 'x');
+    if (fault == "descriptor" && descriptors.size() < kFew)
+        descriptors.push_back(::dup(STDERR_FILENO));
+    if (fault == "thread" && threads++ < kFew)
+        std::thread([] { std::this_thread::sleep_for(std::chrono::hours(1)); }).detach();
+}
+
+void renderCharts(unsigned first, unsigned end, const std::string& seededFault)
+{
+    for (unsigned number = first; number < end; ++number) {
+        (void)renderMixedChart(number);
+        leak(seededFault);
+    }
+}
+
+int runSoak(const COptions& options)
+{
+    renderCharts(0, kWarmUp, "");
+    const CProcessFigures before = readProcessFigures();
+    renderCharts(kWarmUp, options.charts, options.seededFault);
+    const CProcessFigures after = readProcessFigures();
+
+    const long growth = after.residentKilobytes - before.residentKilobytes;
+    const bool isSteady = growth <= kAllowedGrowth &&
+                          after.fileDescriptors == before.fileDescriptors &&
+                          after.threads == before.threads;
+    std::printf("%u mixed charts: resident memory %ld KB after %u and %ld KB at the end, "
+                "file descriptors %ld and %ld, threads %ld and %ld\n",
+                options.charts, before.residentKilobytes, kWarmUp, after.residentKilobytes,
+                before.fileDescriptors, after.fileDescriptors, before.threads, after.threads);
+    return options.charts > kWarmUp && isSteady ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+} // namespace tovangl
+
+int main(int count, char** arguments)
+{
+    return tovangl::runSoak(tovangl::parseOptions(count, arguments));
+}
