@@ -24,6 +24,7 @@ tovangl_option_if_found(TOVANGL_BUILD_APPS "Build the command-line programs" CLI
 tovangl_option_if_found(TOVANGL_BUILD_TESTS "Build the tests" GTest)
 option(TOVANGL_BUILD_EXAMPLES "Build the examples" ${tovangl_is_top_level})
 option(TOVANGL_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(TOVANGL_BUILD_FUZZERS "Build the fuzz targets, which clang can" OFF)
 option(TOVANGL_INSTALL "Generate install rules" ${tovangl_is_top_level})
 set(TOVANGL_MAINTAINER "The tovangl authors <authors@tovangl.example>" CACHE STRING
     "Who the packages name")
