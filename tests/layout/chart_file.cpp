@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+// A chart described in a small text file.
+#include "layout/chart_file.h"
+
+#include <fstream>
+#include <functional>
+#include <map>
+#include <sstream>
+#include <stdexcept>
+
+namespace tovangl {
+
+namespace {
+
+using Line = std::istringstream;
+using Setter = std::function<void(CChartFile&, Line&)>;
+
+template <typename N>
+N number(Line& line)
+{
+    N value = 0;
+    if (!(line >> value))
+        throw std::runtime_error("a number is missing");
+    return value;
+}
+
+QString word(Line& line)
+{
+    std::string value;
+    if (!(line >> value))
+        throw std::runtime_error("a word is missing");
+    return QString::fromStdString(value);
+}
+
+QString restOf(Line& line)
+{
+    std::string value;
+    std::getline(line >> std::ws, value);
+    return QString::fromStdString(value).replace(QLatin1String("\\n"), QLatin1String("\n"));
+}
+
+QColor color(Line& line)
+{
+    const QString name = word(line);
+    return name == QLatin1String("-") ? QColor() : QColor(name);
+}
+
+CChartFile::CAxisSetting axis(Line& line)
+{
+    const int properties = number<int>(line);
+    return {properties, restOf(line)};
+}
+
+void appendRepeated(CChartFile& chart, Line& line)
+{
+    const int count = number<int>(line);
+    const auto value = number<long long>(line);
+    const auto step = number<long long>(line);
+    for (int i = 0; i < count; ++i)
+        chart.items.push_back({value + i * step, QString::fromLatin1("item %1").arg(i + 1), {}});
+}
+
+const std::map<std::string, Setter>& setters()
+{
+    static const std::map<std::string, Setter> setters = {
+        {"kind", [](CChartFile& chart, Line& line) { chart.kind = word(line); }},
+        {"size",
+         [](CChartFile& chart, Line& line) {
+             chart.size.setWidth(number<int>(line));
+             chart.size.setHeight(number<int>(line));
+         }},
+        {"background", [](CChartFile& chart, Line&) { chart.background = true; }},
+        {"print", [](CChartFile& chart, Line& line) { chart.printFactor = number<int>(line); }},
+        {"font",
+         [](CChartFile& chart, Line& line) {
+             const int pixelSize = number<int>(line);
+             chart.font = CChartFile::CFont{restOf(line), pixelSize};
+         }},
+        {"locale",
+         [](CChartFile& chart, Line& line) {
+             const QString language = word(line);
+             chart.locale = CChartFile::CLocale{language, word(line)};
+         }},
+        {"threshold",
+         [](CChartFile& chart, Line& line) { chart.threshold = number<double>(line); }},
+        {"options",
+         [](CChartFile& chart, Line& line) { chart.options = word(line).toInt(nullptr, 0); }},
+        {"colors",
+         [](CChartFile& chart, Line& line) {
+             chart.colors.emplace();
+             for (int i = 0; i < 3; ++i)
+                 chart.colors->push_back(color(line));
+         }},
+        {"across", [](CChartFile& chart, Line& line) { chart.across = axis(line); }},
+        {"upright", [](CChartFile& chart, Line& line) { chart.upright = axis(line); }},
+        {"position",
+         [](CChartFile& chart, Line& line) {
+             const int x = number<int>(line);
+             chart.position = QPoint(x, number<int>(line));
+         }},
+        {"barwidth", [](CChartFile& chart, Line& line) { chart.barWidth = number<int>(line); }},
+        {"textcolor", [](CChartFile& chart, Line& line) { chart.textColor = color(line); }},
+        {"item",
+         [](CChartFile& chart, Line& line) {
+             const auto value = number<long long>(line);
+             chart.items.push_back({value, restOf(line), {}});
+         }},
+        {"painted",
+         [](CChartFile& chart, Line& line) {
+             const auto value = number<long long>(line);
+             const QColor fill = color(line);
+             chart.items.push_back({value, restOf(line), fill});
+         }},
+        {"repeat", appendRepeated},
+    };
+    return setters;
+}
+
+void applyLine(CChartFile& chart, const std::string& text)
+{
+    Line line(text);
+    std::string name;
+    if (!(line >> name) || name[0] == '#')
+        return;
+    const auto setter = setters().find(name);
+    if (setter == setters().end())
+        throw std::runtime_error("there is no setting \"" + name + '"');
+    setter->second(chart, line);
+}
+
+} // namespace
+
+CChartFile readChartFile(const std::string& path)
+{
+    std::ifstream file(path);
+    if (!file)
+        throw std::runtime_error(path + " cannot be read");
+    CChartFile chart;
+    std::string text;
+    for (int number = 1; std::getline(file, text); ++number) {
+        try {
+            applyLine(chart, text);
+        } catch (const std::runtime_error& error) {
+            throw std::runtime_error(path + ':' + std::to_string(number) + ": " + error.what());
+        }
+    }
+    if (chart.kind.isEmpty() || chart.size.isEmpty())
+        throw std::runtime_error(path + ": kind and size are required");
+    return chart;
+}
+
+} // namespace tovangl

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// A chart described in a small text file.
+#ifndef TOVANGL_LAYOUT_CHART_FILE_H
+#define TOVANGL_LAYOUT_CHART_FILE_H
+
+#include <QColor>
+#include <QPoint>
+#include <QSize>
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tovangl {
+
+/// What one file says. A file has one setting a line, `#` begins a comment line:
+///
+///     kind pie|bars|lying            (required)
+///     size WIDTH HEIGHT              (required)
+///     background
+///     print FACTOR                   draws for print
+///     font PIXELS FAMILY
+///     locale LANGUAGE COUNTRY
+///     threshold PERCENT
+///     options NUMBER                 pies: the option word
+///     colors OUTLINE TEXT LINE       pies: each #rrggbb or -
+///     across PROPERTIES [TITLE]      bars: the horizontal axis
+///     upright PROPERTIES [TITLE]     bars, lying bars: the vertical axis
+///     position X Y                   bars, lying bars, as all below
+///     barwidth PIXELS
+///     textcolor #rrggbb
+///     item VALUE [CAPTION]           \n in a caption is a line break
+///     painted VALUE COLOR CAPTION    an item in a colour of its own
+///     repeat COUNT VALUE STEP        COUNT items named "item 1" and so on
+struct CChartFile
+{
+    struct CItem
+    {
+        long long value = 0;
+        QString text;
+        QColor color;
+    };
+    struct CAxisSetting
+    {
+        int properties = 0;
+        QString title;
+    };
+    struct CFont
+    {
+        QString family;
+        int pixelSize = 0;
+    };
+    struct CLocale
+    {
+        QString language;
+        QString country;
+    };
+
+    QString kind;
+    QSize size;
+    bool background = false;
+    std::optional<int> printFactor;
+    std::optional<CFont> font;
+    std::optional<CLocale> locale;
+    std::optional<double> threshold;
+    std::optional<int> options;
+    std::optional<std::vector<QColor>> colors;
+    std::optional<CAxisSetting> across;
+    std::optional<CAxisSetting> upright;
+    std::optional<QPoint> position;
+    std::optional<int> barWidth;
+    QColor textColor;
+    std::vector<CItem> items;
+};
+
+/// Reads a file. Throws std::runtime_error that names the line where there is a mistake.
+[[nodiscard]] CChartFile readChartFile(const std::string& path);
+
+} // namespace tovangl
+
+#endif
