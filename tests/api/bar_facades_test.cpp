@@ -23,8 +23,17 @@ template <typename Facade>
 class BarFacade : public ::testing::Test
 {};
 
+struct CFacadeNames
+{
+    template <typename Facade>
+    static std::string GetName(int)
+    {
+        return std::is_same_v<Facade, CVerticalFacade> ? "Vertical" : "Horizontal";
+    }
+};
+
 using Facades = ::testing::Types<CVerticalFacade, CHorizontalFacade>;
-TYPED_TEST_SUITE(BarFacade, Facades);
+TYPED_TEST_SUITE(BarFacade, Facades, CFacadeNames);
 
 // The rectangles as a value.
 std::vector<Rectangle> copied(const std::list<Rectangle>* list)

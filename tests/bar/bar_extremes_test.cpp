@@ -5,6 +5,7 @@
 #include <chrono>
 #include <gtest/gtest.h>
 #include <limits>
+#include <type_traits>
 
 namespace tovangl {
 namespace {
@@ -24,8 +25,17 @@ template <typename Chart>
 class BarExtremes : public ::testing::Test
 {};
 
+struct CChartNames
+{
+    template <typename Chart>
+    static std::string GetName(int)
+    {
+        return std::is_same_v<Chart, CUprightBars> ? "Upright" : "Lying";
+    }
+};
+
 using Charts = ::testing::Types<CUprightBars, CLyingBars>;
-TYPED_TEST_SUITE(BarExtremes, Charts);
+TYPED_TEST_SUITE(BarExtremes, Charts, CChartNames);
 
 TYPED_TEST(BarExtremes, AllPairsOfExtremeValuesAreDrawn)
 {

@@ -129,15 +129,14 @@ TEST_F(COutOfMemory, ChartBeingBuiltLosesNothing)
     EXPECT_GT(failures, 10);
 }
 
-TEST_F(COutOfMemory, ChartBeingLaidOutLosesNothing)
+// Axes are made without measuring texts, in which Qt itself would lose some of its own memory.
+TEST_F(COutOfMemory, AxesBeingMadeLoseNothing)
 {
     const int failures = failEverywhere([this] {
-        CLyingBars chart(true);
+        CUprightBars chart(true);
         chart.addMany(5);
-        chart.setSize(400, 300);
         chart.selectItems();
         chart.createAxes(painter);
-        chart.computeLayout(painter);
     });
     EXPECT_GT(failures, 20);
 }
