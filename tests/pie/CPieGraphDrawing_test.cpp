@@ -162,6 +162,30 @@ TEST(PieDrawing, PrintedSlicesArePalerWithDarkGreyOutlinesAndNoBackground)
     EXPECT_EQ(pixelAt(image, QPointF(5, kHeight / 2)), kWhite);
 }
 
+TEST(PieDrawing, OutlinesGrowWithThePrintFactor)
+{
+    CTestPie pie;
+    pie.addEqual(2);
+    const QImage image = pie.getImageForPrinter(kWidth, kHeight, 9);
+    const QPointF seam = pointOn(pie, 0, 0.5);
+    for (int dy = -4; dy <= 3; ++dy)
+        EXPECT_EQ(pixelAt(image, seam + QPointF(0, dy)), QColor(64, 64, 64)) << dy;
+    EXPECT_NE(pixelAt(image, seam + QPointF(0, 6)), QColor(64, 64, 64));
+}
+
+TEST(PieDrawing, BeamsAndLinesTakeTheLineColour)
+{
+    CTestPie pie;
+    pie.setLabelLineColor(QColor(0, 200, 0));
+    pie.add(1, "");
+    const QImage image = pie.getImageForPrinter(kWidth, kHeight, 10);
+    const CPieTextLabel& label = *pie.label(0);
+    const QPointF centre = pie.area().center();
+    const QPointF middle = (label.elbow() + label.lineEnd()) / 2;
+    EXPECT_EQ(pixelAt(image, centre + middle), QColor(0, 200, 0));
+    EXPECT_EQ(pixelAt(image, centre + label.beamStart()), QColor(0, 200, 0));
+}
+
 TEST(PieDrawing, TheBackgroundShiftsThePieByHalfAPixel)
 {
     CTestPie plain(false);

@@ -2,6 +2,7 @@
 // The pie chart: everything about it that has a place.
 #include "pie/CTestPie.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace tovangl {
@@ -27,6 +28,20 @@ bool hasOverlaps(const CTestPie& pie)
         previous = label->isHidden() ? QRectF() : textRect(*label);
     }
     return false;
+}
+
+// Whether labels stand one below the other as their slices do, on either half.
+bool isInSliceOrder(const CTestPie& pie)
+{
+    for (const CPieTextLabel* a : pie.labels()) {
+        for (const CPieTextLabel* b : pie.labels()) {
+            const bool isSeen =
+                !a->isHidden() && !b->isHidden() && a->isOnRightHalf() == b->isOnRightHalf();
+            if (isSeen && a->elbow().y() < b->elbow().y() && a->lineEnd().y() >= b->lineEnd().y())
+                return false;
+        }
+    }
+    return true;
 }
 
 // Many thin slices close together, whose labels collide.
@@ -128,6 +143,40 @@ TEST(PieLayout, TakesTheRoomOfAHiddenSizeForTheName)
     EXPECT_EQ(pie.label(0)->labelPos(), withoutSizes.label(0)->labelPos());
 }
 
+TEST(PieLayout, GivesThePieTheRoomOfHiddenSizes)
+{
+    CTestPie pie;
+    pie.addEqual(4, "ab");
+    ASSERT_TRUE(pie.fitsInto(180, kHeight));
+    ASSERT_FALSE(CPieTextLabel::canDrawSizeLabel());
+    const QRectF area = pie.area();
+    pie.setOptions(CPieGraph::RemoveLabelOverlaps);
+    ASSERT_TRUE(pie.fitsInto(180, kHeight));
+    EXPECT_EQ(pie.area(), area);
+}
+
+TEST(PieLayout, LabelsMayReachAsFarAsTheMargins)
+{
+    CTestPie pie;
+    pie.setStartAngle(-90);
+    pie.addEqual(2, kLongName);
+    ASSERT_TRUE(pie.fitsInto(kWidth + 1, kHeight));
+    // The first slice is on the left.
+    const int reach = kWidth / 2 - 10;
+    EXPECT_EQ(pie.label(0)->getBoundingRectAdjustedToGraphBoundary().width(),
+              pie.label(0)->labelPos().x() + reach);
+    EXPECT_EQ(pie.label(1)->getBoundingRectAdjustedToGraphBoundary().width(),
+              reach - pie.label(1)->labelPos().x());
+}
+
+TEST(PieLayout, LabelsAboveAndBelowBoundTheRadiusByTheWholeWidthOnly)
+{
+    CTestPie pie;
+    pie.addEqual(2, "home");
+    ASSERT_TRUE(pie.fitsInto(200, 900));
+    EXPECT_EQ(pie.area().width(), 400);
+}
+
 TEST(PieLayout, ALabelFartherOutThanItsNeighboursLosesTheSizesOfAll)
 {
     CTestPie pie;
@@ -176,6 +225,7 @@ TEST(PieLayout, CollidingLabelsAreMovedApart)
     addCrowd(pie);
     ASSERT_TRUE(pie.fitsInto(kWidth, kHeight));
     EXPECT_FALSE(hasOverlaps(pie));
+    EXPECT_TRUE(isInSliceOrder(pie));
     EXPECT_EQ(pie.labels().size(), 13u);
 }
 
@@ -215,19 +265,22 @@ TEST(PieLayout, ArrangesACounterClockwisePieToo)
     addCrowd(pie);
     ASSERT_TRUE(pie.fitsInto(kWidth, kHeight));
     EXPECT_FALSE(hasOverlaps(pie));
+    EXPECT_TRUE(isInSliceOrder(pie));
 }
 
-TEST(PieLayout, HidesLabelsThatHaveNoRoomAtAll)
+TEST(PieLayout, ShowsAsManyLabelsAHalfAsFitBesideTheAreaAndOneMore)
 {
     CTestPie pie;
     pie.addEqual(100, "name");
     ASSERT_TRUE(pie.fitsInto(kWidth, 200));
-    int hidden = 0;
+    const double slot = pie.labelRect().height();
+    const int fitting = static_cast<int>(std::ceil((pie.area().height() + slot) / slot)) - 1;
+    int shown = 0;
     for (const CPieTextLabel* label : pie.labels())
-        hidden += label->isHidden() ? 1 : 0;
-    EXPECT_GT(hidden, 50);
-    EXPECT_LT(hidden, 100);
+        shown += label->isHidden() ? 0 : 1;
+    EXPECT_EQ(shown, 2 * fitting);
     EXPECT_FALSE(hasOverlaps(pie));
+    EXPECT_TRUE(isInSliceOrder(pie));
 }
 
 TEST(PieLayout, MeasuresGrowWithThePrintFactor)

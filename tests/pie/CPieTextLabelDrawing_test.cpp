@@ -48,17 +48,18 @@ TEST_F(PieTextLabelDrawing, AHiddenLabelDrawsNothingAndTakesItsRectangleBack)
     EXPECT_EQ(itemRect(), QRect());
 }
 
-// At scale 10 the beam, from 20 to 60, begins a new dot every 33.6 pixels, and a dot is 15.6 long.
+// At scale 10 the beam, from 0 to 95, begins a new dot every 33.6 pixels, and a dot is 15.6 long.
 TEST_F(PieTextLabelDrawing, TheBeamIsDottedAndTheLineSolid)
 {
     CPieTextLabel& label = add(kRight, "");
     label.setScale(10);
-    label.initPosition(20, 60);
+    label.initPosition(0, 95);
     draw(label);
-    EXPECT_EQ(surface.at(21, 0), QColor(Qt::black));
-    EXPECT_EQ(surface.inkIn(QRect(QPoint(31, -10), QPoint(46, 10))), 0);
-    EXPECT_EQ(surface.at(55, 0), QColor(Qt::black));
-    for (int x = 70; x < 190; ++x)
+    for (const int dot : {1, 34, 68})
+        EXPECT_EQ(surface.at(dot, 0), QColor(Qt::black));
+    for (const int gap : {11, 45})
+        EXPECT_EQ(surface.inkIn(QRect(QPoint(gap, -10), QPoint(gap + 15, 10))), 0);
+    for (int x = 95; x < 200; ++x)
         ASSERT_EQ(surface.at(x, 0), QColor(Qt::black)) << x;
 }
 
@@ -113,6 +114,44 @@ TEST_F(PieTextLabelDrawing, TheNameGivesWayToTheSize)
     // The size ends at the boundary.
     EXPECT_GT(surface.inkIn(QRect(QPoint(184, -8), QPoint(189, 6))), 0);
     EXPECT_EQ(surface.inkIn(QRect(QPoint(190, -8), QPoint(199, 6))), 0);
+}
+
+// The extent was measured while the label had no place yet.
+TEST_F(PieTextLabelDrawing, RecordsTheRoomWhereTheTextIsTooLongForIt)
+{
+    CPieTextLabel& label = labels.addAtAngle(kRight, "a very long name that is too long");
+    (void)label.getBoundingRect(surface.painter());
+    label.setBoundaries(-190, 190);
+    label.setLabelRect(QRectF(0, 0, 100, kLabelHeight + 20));
+    label.initPosition(20, 60);
+    draw(label);
+    EXPECT_EQ(itemRect().size(), QSize(190 - kAnchor, 34));
+}
+
+TEST_F(PieTextLabelDrawing, AShortenedNameStaysBesideItsLine)
+{
+    const int room = widthOf("WWW...") + 9;
+    for (const int arc : {kRight, kLeft}) {
+        CPieTextLabel& label = add(arc, "WWWWWWWWWWWW");
+        label.setBoundaries(-kAnchor - room, kAnchor + room);
+        draw(label);
+    }
+    EXPECT_GT(surface.inkIn(QRect(QPoint(kAnchor, -9), QPoint(kAnchor + 7, 9))), 0);
+    const int farEdge = -kAnchor - room;
+    EXPECT_EQ(surface.inkIn(QRect(QPoint(farEdge, -9), QPoint(farEdge + 7, 9))), 0);
+}
+
+TEST_F(PieTextLabelDrawing, TheSizeHasTheColourOfTheName)
+{
+    CPieTextLabel& label = add(kRight, "", true);
+    label.setTextColor(QColor(200, 0, 0));
+    draw(label);
+    const QRect text(kAnchor, -8, widthOf(" [999 B]"), 14);
+    EXPECT_GT(surface.inkIn(text), 0);
+    for (int y = text.top(); y <= text.bottom(); ++y) {
+        for (int x = text.left(); x <= text.right(); ++x)
+            ASSERT_GE(surface.at(x, y).red(), 200);
+    }
 }
 
 TEST_F(PieTextLabelDrawing, ANameShortenedFromTheLeftKeepsItsEnd)

@@ -220,6 +220,14 @@ TEST_F(PieTextLabel, TestsTheNameInBoldWhereItIsDrawnSo)
     EXPECT_FALSE(surface.painter().font().bold());
 }
 
+TEST_F(PieTextLabel, TestsTheEndOfTheNameThatIsKept)
+{
+    CPieTextLabel& label = addWithRoom(static_cast<int>(widthOf("i...")), "iWWWW", false);
+    EXPECT_TRUE(fits(label));
+    label.setShortFromLeft(true);
+    EXPECT_FALSE(fits(label));
+}
+
 TEST_F(PieTextLabel, OneNameThatDoesNotFitTakesTheSizesOfAll)
 {
     CPieTextLabel& other = addWithRoom(500, "home", kWithSize);
