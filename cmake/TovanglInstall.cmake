@@ -58,11 +58,23 @@ if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set(tovangl_run_path "$ORIGIN/${tovangl_bin_to_lib}")
 endif()
 
+# A system's manual pages are compressed.
+function(tovangl_prepare_page result name)
+    set(page ${CMAKE_CURRENT_BINARY_DIR}/${name}.1)
+    configure_file(${PROJECT_SOURCE_DIR}/apps/man/${name}.1 ${page} COPYONLY)
+    if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+        execute_process(COMMAND gzip -9nkf ${page})
+        set(page ${page}.gz)
+    endif()
+    set(${result} ${page} PARENT_SCOPE)
+endfunction()
+
 function(tovangl_install_program name)
+    tovangl_prepare_page(page ${name})
     set(completions ${PROJECT_SOURCE_DIR}/apps/completions)
     set_target_properties(${name} PROPERTIES INSTALL_RPATH "${tovangl_run_path}")
     install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
-    install(FILES ${PROJECT_SOURCE_DIR}/apps/man/${name}.1
+    install(FILES ${page}
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
     install(FILES ${completions}/${name}.bash RENAME ${name}
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools)
