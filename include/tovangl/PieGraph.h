@@ -54,7 +54,8 @@ public:
     void setProperty(int options);
 
     /// Sets the colours of the slices' outlines, of the label texts and of the lines that lead to
-    /// them. A colour with a channel outside 0 to 255 goes back to the default.
+    /// them. A colour with a channel outside 0 to 255 counts as not set: outlines are white again,
+    /// dark grey in print, texts are black, and lines take the colour of the outlines.
     void setColors(const Color& outline, const Color& text, const Color& line);
 
     /// Where the slices were drawn: one record for each item, in the order of adding.
