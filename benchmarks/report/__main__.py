@@ -4,12 +4,30 @@ import argparse
 import datetime
 import os
 import subprocess
+from dataclasses import dataclass
 
 import cases
 import instructions
 import resources
 import tables
 import times
+
+
+@dataclass(frozen=True)
+class Effort:
+    passes: int  # over all programs and cases
+    budget: int  # milliseconds for the rounds of a program in a pass
+    cold_starts: int
+    many_charts: int
+    parallel_passes: int
+    parallel_time: int  # milliseconds
+    cases: int  # of those that are costly to measure
+
+
+THOROUGH = Effort(passes=7, budget=600, cold_starts=25, many_charts=20000, parallel_passes=3,
+                  parallel_time=3000, cases=100)
+QUICK = Effort(passes=2, budget=0, cold_starts=2, many_charts=400, parallel_passes=1,
+               parallel_time=300, cases=1)
 
 
 def read_arguments():
@@ -40,31 +58,36 @@ def print_versions(with_peers):
     print(", ".join(found.splitlines()))
 
 
-def measure(quick, with_peers):
+def count(effort, programs):
+    charts = cases.read_cases()[:effort.cases]
+    if len(programs) > 1:
+        instructions.print_programs(programs, charts)
+    instructions.print_instructions(charts)
+
+
+def measure(effort, programs):
     charts = cases.read_cases()
-    programs = [cases.OURS] + (cases.peers() if with_peers else [])
-    results = times.time_all(programs, charts, *((2, 0) if quick else (7, 600)))
+    results = times.time_all(programs, charts, effort.passes, effort.budget)
     times.print_times(results, programs, charts)
-    if with_peers:
+    if len(programs) > 1:
         times.print_ratios(results, charts)
-    times.print_cold_starts(times.time_cold_starts(programs, charts[0], 2 if quick else 25))
+    times.print_cold_starts(times.time_cold_starts(programs, charts[0], effort.cold_starts))
     resources.print_memory(charts)
-    resources.print_growth(1000000)
-    resources.print_process_growth(400 if quick else 20000)
-    resources.print_throughput(charts[:1] if quick else charts, *((1, 300) if quick else (3, 3000)))
+    resources.print_growth()
+    resources.print_process_growth(effort.many_charts)
+    resources.print_throughput(charts[:effort.cases], effort.parallel_passes,
+                               effort.parallel_time)
 
 
 def main():
     arguments = read_arguments()
+    programs = [cases.OURS] + ([] if arguments.no_peers else cases.peers())
     os.makedirs(cases.PICTURES, exist_ok=True)
     print_machine()
-    print_versions(not (arguments.no_peers or arguments.callgrind))
-    if arguments.callgrind:
-        charts = cases.read_cases()
-        instructions.print_instructions(charts[:1] if arguments.quick else charts)
-    else:
-        measure(arguments.quick, not arguments.no_peers)
-        print(f"\nThe pictures are in {os.path.relpath(cases.PICTURES)}/.")
+    print_versions(not arguments.no_peers)
+    effort = QUICK if arguments.quick else THOROUGH
+    (count if arguments.callgrind else measure)(effort, programs)
+    print(f"\nThe pictures are in {os.path.relpath(cases.PICTURES)}/.")
     if max(os.getloadavg()) > 1.5 * os.cpu_count():
         print("The machine was busy: compare ratios, not milliseconds.")
 

@@ -25,6 +25,7 @@ class Program:
     command: tuple
     draws_pies: bool = True
     antialiases: bool = True  # edges of slices
+    interpreted: bool = False  # takes minutes under callgrind
 
     def draws(self, case):
         return self.draws_pies or case.kind != "pie"
@@ -56,7 +57,8 @@ def peers():
         Program("QCustomPlot", (built("peers", "qcustomplot_peer"),), draws_pies=False),
         Program("Qwt", (built("peers", "qwt_peer"),), draws_pies=False),
         Program("PLplot, cairo", (built("peers", "plplot_peer"),)),
-        Program("matplotlib", (os.path.join(PEERS, "matplotlib_peer.py"),)),
+        Program("matplotlib", (os.path.join(PEERS, "matplotlib_peer.py"),),
+                interpreted=True),
     ]
 
 

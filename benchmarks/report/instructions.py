@@ -7,6 +7,7 @@ import subprocess
 import cases
 import tables
 
+WARM_ROUNDS = 2
 ROUNDS = 3
 MOST_LIBRARIES = 6
 MOST_FUNCTIONS = 8
@@ -36,6 +37,30 @@ def print_instructions(charts):
         print_functions(chart.name, profile)
     cold = profile_cold(charts[0])
     print_functions(f"A whole process that draws one {charts[0].name}", cold)
+
+
+def print_programs(programs, charts):
+    counted = [program for program in programs if not program.interpreted]
+    rows = [[program.name, *(warm_cell(program, chart) for chart in charts)]
+            for program in counted]
+    tables.print_table("Instructions of one warm chart by program, millions",
+                       ["", *(chart.name for chart in charts)], rows)
+
+
+def warm_cell(program, chart):
+    """The peers cannot say when they are warm: some rounds more, less some rounds."""
+    if not program.draws(chart):
+        return "-"
+    more = count_process(program, chart, WARM_ROUNDS + ROUNDS)
+    return millions((more - count_process(program, chart, WARM_ROUNDS)) / ROUNDS)
+
+
+def count_process(program, chart, rounds):
+    command = [*program.command, *chart.arguments, str(rounds), cases.picture_of(program, chart)]
+    file = os.path.join(cases.BUILD, "callgrind.program")
+    run_callgrind(file, "--collect-atstart=yes", command)
+    with open(file, encoding="utf-8") as profile:
+        return next(int(line.split()[1]) for line in profile if line.startswith("totals:"))
 
 
 def profile_warm(chart):
