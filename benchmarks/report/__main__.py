@@ -4,6 +4,7 @@ import argparse
 import datetime
 import os
 import subprocess
+import sys
 from dataclasses import dataclass
 
 import cases
@@ -80,6 +81,7 @@ def measure(effort, programs):
 
 
 def main():
+    sys.stdout.reconfigure(line_buffering=True)
     arguments = read_arguments()
     programs = [cases.OURS] + ([] if arguments.no_peers else cases.peers())
     os.makedirs(cases.PICTURES, exist_ok=True)
