@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "axes/plain_scale.h"
 #include "axes/step_ladder.h"
 #include "core/wide_integer.h"
 
@@ -16,18 +17,6 @@ constexpr long long kGreatest = std::numeric_limits<long long>::max();
 constexpr long long kLeast = std::numeric_limits<long long>::min();
 // Any base but 0 stands for a kilo of 1000.
 constexpr CKilo kOddKilo{7, 1000};
-
-// The walk as it is told: entry by entry, multiplied in place.
-long long plainStep(const CStepLadder& ladder, long long max)
-{
-    std::vector<WideInt> entries(ladder.entries.begin(), ladder.entries.end());
-    const double target = static_cast<double>(max) / 6.0;
-    for (std::size_t i = 0;; i = (i + 1) % entries.size()) {
-        if (static_cast<double>(entries[i]) > target)
-            return static_cast<long long>(entries[i]);
-        entries[i] *= ladder.multiplier;
-    }
-}
 
 TEST(StepLadder, HasOneRowForEachKiloAndKind)
 {
