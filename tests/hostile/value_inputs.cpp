@@ -130,7 +130,7 @@ void addManyItems(HostileTable& table)
         table.push_back({prefix + "in a small picture",
                          [=] { drawManyItems(kind, 400, 300, "caption"); }, kHeavy});
         table.push_back({prefix + "in a large picture",
-                         [=] { drawManyItems(kind, 1600, 1200, "caption"); }, kHeavy});
+                         [=] { drawManyItems(kind, 800, 600, "caption"); }, kHeavy});
         table.push_back(
             {prefix + "without captions", [=] { drawManyItems(kind, 400, 300, ""); }, kHeavy});
     }
