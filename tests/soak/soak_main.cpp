@@ -42,7 +42,7 @@ COptions parseOptions(int count, char** arguments)
 // What a leak of each kind would look like from outside.
 void leak(const std::string& fault)
 {
-    constexpr std::size_t kLeakedMemory = 16384; // bytes a chart
+    constexpr std::size_t kLeakedMemory = 65536; // bytes a chart
     static std::vector<std::string> memory;
     static std::vector<int> descriptors;
     static std::size_t threads = 0;
