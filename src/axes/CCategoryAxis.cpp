@@ -20,7 +20,7 @@ struct CCategoryAxis::CBarOrigins
 };
 
 // What all value labels have in common.
-struct CCategoryAxis::CValueLabelSpec
+struct CCategoryAxis::CValueLabelBox
 {
     QRect rect; // the size alone counts
     int gap = 0;
@@ -103,7 +103,7 @@ void CCategoryAxis::setItemBarAndLabel(QPainter&, CAxis* valueAxis, const QRect&
     if (!numberAxis)
         return;
     const CBarOrigins origins = barOrigins();
-    const CValueLabelSpec spec{labelRect, labelGap};
+    const CValueLabelBox box{labelRect, labelGap};
     for (const CBarTextLabel* label : m_labels) {
         auto* item = dynamic_cast<CBarGraphItem*>(label->getItem());
         if (!item)
@@ -111,7 +111,7 @@ void CCategoryAxis::setItemBarAndLabel(QPainter&, CAxis* valueAxis, const QRect&
         const int valueCoord = numberAxis->getNumberCoord(item->value());
         item->setBarRect(barRect(*label, *numberAxis, valueCoord, origins.bar));
         item->setBarLabelRect(
-            valueLabelRect(*label, *numberAxis, valueCoord, origins.valueLabel, spec));
+            valueLabelRect(*label, *numberAxis, valueCoord, origins.valueLabel, box));
     }
 }
 
@@ -156,19 +156,19 @@ QRect CCategoryAxis::barRect(const CBarTextLabel& label, const CNumberAxis& valu
 
 QRect CCategoryAxis::valueLabelRect(const CBarTextLabel& label, const CNumberAxis& valueAxis,
                                     int valueCoord, const QPoint& origin,
-                                    const CValueLabelSpec& spec) const
+                                    const CValueLabelBox& box) const
 {
     if (isHorizontal() || label.isHidden() || !valueAxis.canDrawBarLabel())
         return QRect();
     const QPoint pos = resolveOrientedCoordSigned(label.orientedPos());
     std::int64_t distance = 0;
     if (valueAxis.orientation() == LeftToRight)
-        distance = std::int64_t{valueCoord} + spec.gap + 1;
+        distance = std::int64_t{valueCoord} + box.gap + 1;
     else if (valueAxis.orientation() == RightToLeft)
-        distance = std::int64_t{valueCoord} + spec.gap + spec.rect.width();
+        distance = std::int64_t{valueCoord} + box.gap + box.rect.width();
     const int x = clampToInt(std::int64_t{pos.x()} + origin.x() + distance * valueAxis.alongSign());
     const int y = addPixels(pos.y(), origin.y());
-    return movedRectangle(QRect(QPoint(0, 0), spec.rect.size()), QPoint(x, y));
+    return movedRectangle(QRect(QPoint(0, 0), box.rect.size()), QPoint(x, y));
 }
 
 } // namespace tovangl

@@ -51,7 +51,7 @@ public:
 
 private:
     struct CBarOrigins;
-    struct CValueLabelSpec;
+    struct CValueLabelBox;
 
     [[nodiscard]] std::int64_t categories() const;
     [[nodiscard]] std::int64_t coveredLength() const;
@@ -61,7 +61,7 @@ private:
                                 int valueCoord, const QPoint& origin) const;
     [[nodiscard]] QRect valueLabelRect(const CBarTextLabel& label, const CNumberAxis& valueAxis,
                                        int valueCoord, const QPoint& origin,
-                                       const CValueLabelSpec& spec) const;
+                                       const CValueLabelBox& box) const;
 
     int m_fixedBarWidth = 0; // pixels; 0 or less: derived from the axis length
     int m_drawBarWidth = 0;  // pixels

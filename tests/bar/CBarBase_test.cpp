@@ -15,7 +15,7 @@ using ::testing::SizeIs;
 
 constexpr int kMost = std::numeric_limits<int>::max();
 
-TEST(CBarBase, HasTheDefaultsOfTheDesign)
+TEST(CBarBase, HasItsDefaults)
 {
     const CUprightBars chart(true);
     EXPECT_TRUE(chart.hasBackground());
