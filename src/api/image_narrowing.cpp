@@ -65,6 +65,8 @@ public:
     // False, and the pixels as they were, where there are too many colours for a palette.
     [[nodiscard]] bool write()
     {
+        if (!hasFewColors())
+            return false;
         for (int y = 0; y < m_height; ++y) {
             if (!writeRow(y)) {
                 restoreRows(y);
@@ -92,6 +94,21 @@ private:
     [[nodiscard]] uchar* indexRow(int y) const
     {
         return m_bits + std::ptrdiff_t{m_indexStride} * y;
+    }
+
+    // Looks at some rows only, before any is written: it finds nearly every picture of too many
+    // colours, and then nothing need be put back.
+    bool hasFewColors()
+    {
+        constexpr int kSampledRows = 16; // one of so many
+        for (int y = kSampledRows / 2; y < m_height; y += kSampledRows) {
+            const QRgb* const row = pixelRow(y);
+            for (int x = 0; x < m_width; x = findRunEnd(row, x, m_width)) {
+                if (m_colors.add(row[x]) == CColorIndex::kFull)
+                    return false;
+            }
+        }
+        return true;
     }
 
     bool writeRow(int y)
