@@ -3,6 +3,7 @@
 #include "common/output_files.h"
 
 #include "common/CFailure.h"
+#include "common/COpenFile.h"
 #include "common/text_checks.h"
 
 #include <cerrno>
@@ -20,8 +21,6 @@ namespace tovangl::program {
 namespace {
 
 constexpr mode_t kAllPermissions = 07777;
-constexpr mode_t kNewFilePermissions = 0666;
-constexpr int kNoFile = -1;
 
 using FileStatus = struct stat;
 
@@ -68,64 +67,6 @@ bool isStream(const std::string& path)
     return status && !S_ISREG(status->st_mode) && !S_ISDIR(status->st_mode);
 }
 
-/// An open file, closed at the latest with this object.
-class COpenFile
-{
-public:
-    COpenFile(int file, std::string name)
-        : m_file(file)
-        , m_name(std::move(name))
-    {
-        if (m_file < 0)
-            throw systemFailure(m_name);
-    }
-
-    ~COpenFile()
-    {
-        if (m_file != kNoFile)
-            ::close(m_file);
-    }
-
-    COpenFile(const COpenFile&) = delete;
-    COpenFile& operator=(const COpenFile&) = delete;
-
-    void write(std::string_view bytes) const
-    {
-        while (!bytes.empty()) {
-            const ssize_t count = ::write(m_file, bytes.data(), bytes.size());
-            if (count < 0 && errno == EINTR)
-                continue;
-            if (count < 0)
-                throw systemFailure(m_name);
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        }
-    }
-
-    void setPermissions(mode_t permissions) const
-    {
-        if (::fchmod(m_file, permissions) != 0)
-            throw systemFailure(m_name);
-    }
-
-    /// Some file systems cannot promise anything here, which is no failure of this file.
-    void bringToDisk() const
-    {
-        if (::fsync(m_file) != 0 && errno != EINVAL && errno != ENOTSUP)
-            throw systemFailure(m_name);
-    }
-
-    /// Late errors, such as those of a disk across the network, show here.
-    void close()
-    {
-        if (::close(std::exchange(m_file, kNoFile)) != 0)
-            throw systemFailure(m_name);
-    }
-
-private:
-    int m_file;
-    std::string m_name;
-};
-
 void writeStream(const Output& output)
 {
     const bool isStandard = leadsToStandardOutput(output.path);
@@ -166,13 +107,6 @@ std::string resolveLinks(const std::string& path)
     if (!real)
         throw systemFailure(path);
     return real.get();
-}
-
-mode_t newFilePermissions()
-{
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return kNewFilePermissions & ~mask;
 }
 
 /// A file beside its place, gone with this object unless it was moved there.
@@ -221,7 +155,7 @@ private:
     {
         const std::optional<FileStatus> old = statusOf(m_name);
         if (!old)
-            return newFilePermissions();
+            return maskedPermissions(kNewFilePermissions);
         requireReplaceable(*old);
         m_target = resolveLinks(m_name);
         return old->st_mode & kAllPermissions;

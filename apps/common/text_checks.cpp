@@ -57,7 +57,8 @@ bool hasForm(std::string_view text, const Utf8Form& form)
     return true;
 }
 
-/// The number of bytes of the character that the text, not empty, starts with; 0: it is none.
+} // namespace
+
 std::size_t characterLength(std::string_view text)
 {
     const unsigned first = byteAt(text, 0);
@@ -68,16 +69,13 @@ std::size_t characterLength(std::string_view text)
     return 0;
 }
 
-/// Whether the character that the text starts with moves a cursor or changes a terminal's state.
-bool isControl(std::string_view text, std::size_t length)
+bool isControl(std::string_view character)
 {
-    const unsigned first = byteAt(text, 0);
-    if (length == 1)
+    const unsigned first = byteAt(character, 0);
+    if (character.size() == 1)
         return first < kFirstBeyondControls || first == kDelete;
-    return first == 0xc2 && byteAt(text, 1) < kFirstBeyondC1Controls;
+    return first == 0xc2 && byteAt(character, 1) < kFirstBeyondC1Controls;
 }
-
-} // namespace
 
 std::size_t findBrokenUtf8(std::string_view text)
 {
@@ -96,7 +94,7 @@ std::string makePrintable(std::string_view text)
     std::string result;
     while (!text.empty()) {
         const std::size_t length = characterLength(text);
-        if (length == 0 || isControl(text, length))
+        if (length == 0 || isControl(text.substr(0, length)))
             result += '?';
         else
             result += text.substr(0, length);

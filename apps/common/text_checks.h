@@ -10,6 +10,12 @@
 
 namespace tovangl::program {
 
+/// The number of bytes of the UTF-8 character that the text, not empty, starts with; 0: it is none.
+[[nodiscard]] std::size_t characterLength(std::string_view text);
+
+/// Whether a character, whole and sound, moves a cursor or changes a terminal's state.
+[[nodiscard]] bool isControl(std::string_view character);
+
 /// The offset of the first byte that belongs to no UTF-8 character; npos where the text is sound.
 /// Overlong forms, surrogates and numbers beyond the last character are no characters.
 [[nodiscard]] std::size_t findBrokenUtf8(std::string_view text);

@@ -2,10 +2,7 @@
 // The command line: one command a chart.
 #include "tovangl-chart/command_line.h"
 
-#include "common/CFailure.h"
-#include "common/text_checks.h"
-
-#include <iostream>
+#include "common/program_arguments.h"
 
 namespace tovangl::program {
 
@@ -27,25 +24,6 @@ Examples:
 
 Each chart has its own help: tovangl-chart pie --help)";
 
-constexpr std::size_t kOptionColumn = 30; // characters
-
-/// CLI11 may write several lines; the first says what is wrong.
-CFailure usageFailure(const CLI::ParseError& error, const char* program)
-{
-    const std::string message = error.what();
-    return CFailure(makePrintable(message.substr(0, message.find('\n'))) + " (see " + program +
-                    " --help)");
-}
-
-void describe(CLI::App& program, const char* version)
-{
-    program.name("tovangl-chart");
-    program.get_formatter()->column_width(kOptionColumn);
-    program.set_version_flag("--version", std::string("tovangl-chart ") + version);
-    program.footer(kTeaching);
-    program.require_subcommand(1);
-}
-
 } // namespace
 
 CLI::App* addChartCommand(CLI::App& program, const char* name, const char* description,
@@ -59,19 +37,12 @@ CLI::App* addChartCommand(CLI::App& program, const char* name, const char* descr
 void runCommandLine(int count, const char* const* arguments, const char* version)
 {
     CLI::App program(kDescription);
-    describe(program, version);
+    describeProgram(program, "tovangl-chart", version, kTeaching);
+    program.require_subcommand(1);
     addPieCommand(program);
     addBarsCommand(program);
     addHbarsCommand(program);
-    try {
-        program.parse(count, arguments);
-    } catch (const CLI::CallForHelp&) {
-        std::cout << program.help();
-    } catch (const CLI::CallForVersion& request) {
-        std::cout << request.what() << '\n';
-    } catch (const CLI::ParseError& error) {
-        throw usageFailure(error, "tovangl-chart");
-    }
+    parseArguments(program, count, arguments);
 }
 
 } // namespace tovangl::program

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The folders that get pages.
+#ifndef TOVANGL_DU_CKEPTFOLDERS_H
+#define TOVANGL_DU_CKEPTFOLDERS_H
+
+#include "tovangl-du/FolderSummary.h"
+
+#include <memory>
+#include <vector>
+
+namespace tovangl::program {
+
+/// Which folders are kept: no more than this many, none deeper than that.
+struct PageLimits
+{
+    std::size_t pages = 300;
+    int depth = 1000000;
+};
+
+/// Keeps the largest folders, and the root of the walk. A folder is at least as large as any that
+/// it holds, so whatever is kept lies in folders that are kept.
+class CKeptFolders
+{
+public:
+    explicit CKeptFolders(const PageLimits& limits)
+        : m_limits(limits)
+    {}
+
+    /// Folders come in any order; those without bytes are of no interest.
+    void add(std::unique_ptr<FolderSummary> folder);
+
+    /// Null where that folder is not kept.
+    [[nodiscard]] const FolderSummary* find(FolderId id) const;
+    [[nodiscard]] std::size_t size() const { return m_folders.size(); }
+
+    /// To be called when all have come, before find().
+    void sortById();
+
+private:
+    PageLimits m_limits;
+    std::vector<std::unique_ptr<FolderSummary>> m_folders; // a heap, the first to go at its front
+};
+
+} // namespace tovangl::program
+
+#endif

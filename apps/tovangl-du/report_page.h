@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The page of one folder.
+#ifndef TOVANGL_DU_REPORT_PAGE_H
+#define TOVANGL_DU_REPORT_PAGE_H
+
+#include "tovangl-du/FolderSummary.h"
+#include "tovangl-du/folder_walk.h"
+#include "tovangl-du/report_rows.h"
+
+#include <string>
+#include <vector>
+
+namespace tovangl::program {
+
+/// Who wrote a page, as its head says.
+inline constexpr const char* kGenerator = "tovangl-du";
+inline constexpr const char* kStyleName = "style.css";
+/// What the style file holds.
+[[nodiscard]] std::string reportStyle();
+
+/// A folder on the way to the page's own.
+struct PathPart
+{
+    std::string name; ///< any bytes
+    std::string page; ///< its file name
+};
+
+struct PageContents
+{
+    const FolderSummary& folder;
+    std::vector<PathPart> path; ///< from the root of the walk to this folder, both included
+    std::string pictureStem;    ///< the pictures' names start with it
+    const std::vector<UnreadablePlace>& unreadable; ///< told where the folder is the root
+    std::string time;                               ///< of the walk
+};
+
+/// A file of the report.
+struct ReportFile
+{
+    std::string name;
+    std::string bytes;
+};
+
+/// The page itself, first, and its pictures.
+[[nodiscard]] std::vector<ReportFile> makePage(const PageContents& contents, const PageOf& pageOf);
+
+} // namespace tovangl::program
+
+#endif

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+// The pictures of the report, with their image maps.
+#include "tovangl-du/report_pictures.h"
+
+#include "common/CFailure.h"
+#include "tovangl-du/byte_text.h"
+#include <tovangl/HorizontalBarGraph.h>
+#include <tovangl/PieGraph.h>
+#include <tovangl/VerticalBarGraph.h>
+
+namespace tovangl::program {
+
+namespace {
+
+constexpr int kWidth = 800; // pixels, as all sizes here
+constexpr int kPieHeight = 400;
+constexpr int kUprightHeight = 240;
+constexpr int kRowHeight = 24;
+constexpr int kRoomAroundRows = 30;
+
+constexpr const char* kFontFamily = "DejaVu Sans";
+constexpr int kFontSize = 11;
+
+// Bars have an outline two thirds as bright as they are.
+Color outlineOf(const Color& color)
+{
+    constexpr int kTwo = 2;
+    constexpr int kThirds = 3;
+    return {color.red * kTwo / kThirds, color.green * kTwo / kThirds, color.blue * kTwo / kThirds};
+}
+
+RegionLink linkOf(const ReportRow& row, long total)
+{
+    const std::string size = formatBytes(row.bytes);
+    return {row.link, row.name + ": " + size + ", " + formatShare(row.bytes, total),
+            row.name + ", " + size};
+}
+
+// The page is in English, so its pictures are.
+void applyLook(Graph& chart)
+{
+    chart.setFont(kFontFamily, kFontSize);
+    chart.setLocale("en", "us");
+}
+
+ReportPicture render(Graph& chart, int height, const char* name)
+{
+    unsigned char* bytes = nullptr;
+    int size = 0;
+    chart.createPixmap(kWidth, height, &bytes, &size);
+    if (size == 0)
+        throw CFailure("cannot draw: too little memory, or the offscreen platform plugin is not "
+                       "installed");
+    return {std::string(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)),
+            kWidth, height, chart.describe(), CImageMap(name)};
+}
+
+// Captions come first: where one lies on a bar or a slice, it is what the reader points at.
+void addCaptions(ReportPicture& picture, Graph& chart, const ReportRows& rows, long total)
+{
+    auto row = rows.begin();
+    for (const Rectangle& caption : *chart.getRectangle())
+        picture.map.addRectangle(caption, linkOf(*row++, total));
+}
+
+template <typename BarChart>
+ReportPicture drawBars(BarChart& chart, const ReportRows& rows, int height, long total,
+                       const char* name)
+{
+    applyLook(chart);
+    for (const ReportRow& row : rows)
+        chart.addItem(row.bytes, row.caption, row.color, outlineOf(row.color));
+    ReportPicture picture = render(chart, height, name);
+    addCaptions(picture, chart, rows, total);
+    auto row = rows.begin();
+    for (const Rectangle& bar : *chart.getItemBarRectangle())
+        picture.map.addRectangle(bar, linkOf(*row++, total));
+    return picture;
+}
+
+} // namespace
+
+ReportPicture drawPie(const ReportRows& rows, long total, const char* name)
+{
+    PieGraph chart(false);
+    applyLook(chart);
+    for (const ReportRow& row : rows)
+        chart.addItem(row.bytes, row.caption, row.color);
+    ReportPicture picture = render(chart, kPieHeight, name);
+    addCaptions(picture, chart, rows, total);
+    auto row = rows.begin();
+    for (const Slice& slice : *chart.getSlice())
+        picture.map.addSlice(slice, linkOf(*row++, total));
+    return picture;
+}
+
+ReportPicture drawLyingBars(const ReportRows& rows, long total, const char* name)
+{
+    HorizontalBarGraph chart(true);
+    const int height = kRoomAroundRows + kRowHeight * static_cast<int>(rows.size());
+    return drawBars(chart, rows, height, total, name);
+}
+
+ReportPicture drawUprightBars(const ReportRows& rows, long total, const char* name)
+{
+    VerticalBarGraph chart(true);
+    return drawBars(chart, rows, kUprightHeight, total, name);
+}
+
+} // namespace tovangl::program

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The pictures of the report, with their image maps.
+#ifndef TOVANGL_DU_REPORT_PICTURES_H
+#define TOVANGL_DU_REPORT_PICTURES_H
+
+#include "common/image_map.h"
+#include "tovangl-du/ReportRow.h"
+
+#include <string>
+
+namespace tovangl::program {
+
+struct ReportPicture
+{
+    std::string png;
+    int width;
+    int height;
+    std::string description; ///< UTF-8, not escaped
+    CImageMap map;
+};
+
+/// Each draws one item for each row, and makes the item's regions lead where the row leads. Throws
+/// CFailure where there is no picture.
+///
+/// @param total  what shares are taken of; above 0
+/// @param name   of the image map
+[[nodiscard]] ReportPicture drawPie(const ReportRows& rows, long total, const char* name);
+[[nodiscard]] ReportPicture drawLyingBars(const ReportRows& rows, long total, const char* name);
+[[nodiscard]] ReportPicture drawUprightBars(const ReportRows& rows, long total, const char* name);
+
+} // namespace tovangl::program
+
+#endif
