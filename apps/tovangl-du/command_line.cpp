@@ -102,6 +102,8 @@ std::size_t write(const WalkResult& result, const DiskUsageOptions& options, CSt
 
 void runReport(DiskUsageOptions options)
 {
+    if (options.output.empty())
+        throw CFailure("--output: the folder has no name");
     options.walk.now = std::time(nullptr);
     noteInterruptions();
     CStagedFolder folder(options.output, isReport);

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "apps/support/CHtmlPage.h"
+#include "tovangl-du/report_page.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tovangl::program {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+
+constexpr MonthNumber kMay2024 = 2024 * 12 + 4;
+constexpr const char* kHostileName = "\"><script>alert(1)</script>&amp;'";
+
+class ReportPage : public ::testing::Test
+{
+protected:
+    void add(const std::string& name, long bytes, FolderId id = 0)
+    {
+        m_folder.children.add({name, bytes, id});
+        m_folder.largestFiles.add({id == 0 ? name : name + "/inside", bytes});
+        m_folder.months.add(kMay2024, bytes);
+        m_folder.bytes += bytes;
+    }
+
+    std::vector<ReportFile> make()
+    {
+        return makePage({m_folder, m_path, "5-", m_unreadable, "2024-05-18"},
+                        [](FolderId id) { return id == 7 ? "9.html" : ""; });
+    }
+    CHtmlPage page() { return CHtmlPage(make()[0].bytes); }
+
+    FolderSummary m_folder{1, "", 0, kMay2024};
+    std::vector<PathPart> m_path{{"root", "index.html"}, {"this", "5.html"}};
+    std::vector<UnreadablePlace> m_unreadable;
+};
+
+TEST_F(ReportPage, ComesWithItsPictures)
+{
+    add("folder", 500, 7);
+    const std::vector<ReportFile> files = make();
+    ASSERT_THAT(files, SizeIs(4));
+    EXPECT_EQ(files[0].name, "5.html");
+    EXPECT_EQ(files[1].name, "5-children.png");
+    EXPECT_EQ(files[2].name, "5-files.png");
+    EXPECT_EQ(files[3].name, "5-months.png");
+    for (std::size_t i = 1; i < files.size(); ++i)
+        EXPECT_THAT(files[i].bytes, StartsWith("\x89PNG"));
+}
+
+TEST_F(ReportPage, IsSound)
+{
+    add("folder", 500, 7);
+    add("file", 300);
+    EXPECT_EQ(page().error(), "");
+}
+
+TEST_F(ReportPage, HasASentenceForEachPicture)
+{
+    add("folder", 500, 7);
+    const auto images = page().all("img");
+    ASSERT_THAT(images, SizeIs(3));
+    EXPECT_THAT(images[0]["alt"], HasSubstr("Pie chart, 1 of 1 items drawn: “folder/” with 500."));
+    EXPECT_THAT(images[1]["alt"], HasSubstr("Horizontal bar chart"));
+    EXPECT_THAT(images[2]["alt"], HasSubstr("Vertical bar chart"));
+}
+
+TEST_F(ReportPage, HasRegionsForCaptionsSlicesAndBars)
+{
+    add("folder", 500, 7);
+    add("file", 300);
+    const auto areas = page().all("area");
+    EXPECT_THAT(areas, SizeIs(2 * 2 + 2 * 2 + 2 * 1));
+    for (const HtmlElement& area : areas) {
+        EXPECT_NE(area["href"], "");
+        EXPECT_THAT(area["title"], HasSubstr(" bytes, "));
+        EXPECT_NE(area["alt"], "");
+    }
+    EXPECT_EQ(areas[0]["href"], "9.html");
+    EXPECT_EQ(areas[0]["title"], "folder/: 500 bytes, 62.5 %");
+}
+
+TEST_F(ReportPage, LeadsNowhereThatIsNotThere)
+{
+    add("folder", 500, 7);
+    add("file", 300);
+    const CHtmlPage page = this->page();
+    for (const HtmlElement& element : page.elements()) {
+        const std::string target = element["href"];
+        if (!target.empty() && target[0] == '#') {
+            EXPECT_TRUE(page.hasId(target.substr(1))) << target;
+        }
+    }
+}
+
+TEST_F(ReportPage, EscapesHostileNames)
+{
+    m_path.back().name = kHostileName;
+    add(kHostileName, 500, 7);
+    add(std::string(kHostileName) + "2", 300);
+    m_unreadable.push_back({kHostileName, kHostileName});
+    m_folder.unreadable = 1;
+    const std::string html = make()[0].bytes;
+    const CHtmlPage page(html);
+    EXPECT_EQ(page.error(), "");
+    EXPECT_THAT(page.all("script"), IsEmpty());
+    EXPECT_THAT(html, Not(HasSubstr("<script")));
+    EXPECT_EQ(page.all("title")[0].text, std::string(kHostileName) + ", 800 bytes");
+}
+
+TEST_F(ReportPage, TakesNamesOfAnyBytes)
+{
+    m_path.back().name = "\xff\xfe";
+    add("\xff\xfe\n\x1b[2J", 500, 7);
+    add(std::string(255, '\xc3'), 300);
+    EXPECT_EQ(page().error(), "");
+}
+
+TEST_F(ReportPage, RefersToNothingOutside)
+{
+    add("http://example.com/", 500, 7);
+    const CHtmlPage page = this->page();
+    for (const HtmlElement& element : page.elements()) {
+        for (const char* name : {"href", "src"})
+            EXPECT_THAT(element[name], Not(HasSubstr(":"))) << element.tag;
+    }
+}
+
+TEST_F(ReportPage, SaysWhatWasNotReadOnTheFirstPage)
+{
+    m_unreadable.push_back({"/a/b", "Permission denied"});
+    m_folder.unreadable = 3;
+    const std::string html = make()[0].bytes;
+    EXPECT_THAT(html, HasSubstr("3 places could not be read"));
+    EXPECT_THAT(html, HasSubstr("<bdi>/a/b</bdi>: Permission denied"));
+    EXPECT_THAT(html, HasSubstr("and 2 more"));
+}
+
+TEST_F(ReportPage, HasNoPicturesWithoutBytes)
+{
+    EXPECT_THAT(make(), SizeIs(1));
+    EXPECT_EQ(page().error(), "");
+    add("empty", 0);
+    EXPECT_THAT(make(), SizeIs(1));
+}
+
+TEST_F(ReportPage, FoldsALongTableButNothingThatARegionLeadsTo)
+{
+    for (int i = 0; i < 150; ++i)
+        add("file" + std::to_string(i), 1000);
+    const std::string html = make()[0].bytes;
+    const std::string unfolded = html.substr(0, html.find("<details>"));
+    EXPECT_EQ(page().error(), "");
+    EXPECT_NE(unfolded.size(), html.size());
+    const auto areas = page().all("area");
+    for (const HtmlElement& area : areas) {
+        if (area["href"].rfind("#child", 0) == 0) {
+            EXPECT_THAT(unfolded, HasSubstr("id=\"" + area["href"].substr(1) + '"'));
+        }
+    }
+}
+
+TEST_F(ReportPage, LeadsBackToTheFoldersAbove)
+{
+    const auto links = page().all("a");
+    ASSERT_THAT(links, SizeIs(1));
+    EXPECT_EQ(links[0]["href"], "index.html");
+}
+
+} // namespace
+} // namespace tovangl::program
