@@ -141,8 +141,12 @@ TEST_F(DiskUsageReport, LeavesOutOtherFileSystemsWhereItIsTold)
 {
     if (runShell(m_folder, "test $(stat -c %d /dev) -ne $(stat -c %d /dev/shm)").status != 0)
         GTEST_SKIP() << "/dev/shm is no file system of its own here";
+    const ShellResult file = runShell(
+        m_folder, "file=$(mktemp /dev/shm/tovangl-test-XXXXXX) && echo bytes >$file && echo $file");
+    ASSERT_EQ(file.status, 0);
     EXPECT_EQ(run("/dev -o all").status, 0);
     EXPECT_EQ(run("/dev -x -o one").status, 0);
+    runShell(m_folder, "rm " + file.output);
     EXPECT_THAT(m_folder.read("all/index.html"), HasSubstr("shm/"));
     EXPECT_THAT(m_folder.read("one/index.html"), Not(HasSubstr("shm/")));
 }
@@ -182,6 +186,24 @@ TEST_F(DiskUsageReport, HelpTeaches)
     EXPECT_THAT(result.output, HasSubstr("tovangl-du /usr/share -o report"));
     EXPECT_THAT(run("--version").output, MatchesRegex("tovangl-du [0-9.]+\n"));
 }
+
+class DiskUsageHelp : public ::testing::TestWithParam<const char*>
+{};
+
+TEST_P(DiskUsageHelp, NamesTheOptionsOfTheProgram)
+{
+    const CTemporaryFolder apps;
+    const std::string text =
+        runShell(apps, std::string("sed 's/\\\\-/-/g' '" TOVANGL_APPS_FOLDER "'/") + GetParam())
+            .output;
+    for (const char* option : {"output", "pages", "depth", "one-file-system", "help", "version"})
+        EXPECT_THAT(text, HasSubstr(option));
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, DiskUsageHelp,
+                         ::testing::Values("man/tovangl-du.1", "completions/tovangl-du.bash",
+                                           "completions/_tovangl-du",
+                                           "completions/tovangl-du.fish"));
 
 } // namespace
 } // namespace tovangl::program
