@@ -76,7 +76,7 @@ TEST_F(DiskUsageFailure, FilesMayNotGrow)
 
 TEST_F(DiskUsageFailure, IsInterrupted)
 {
-    EXPECT_THAT(lineOf("timeout -s INT 0.5 tovangl-du / -o report --pages 100000 || exit 2"),
+    EXPECT_THAT(lineOf("timeout -s INT 2 tovangl-du / -o report --pages 100000 || exit 2"),
                 HasSubstr("interrupted"));
 }
 
