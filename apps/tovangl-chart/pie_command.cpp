@@ -21,6 +21,10 @@ constexpr const char* kExamples =
 
 Slices run clockwise from nine o'clock. Only numbers above 0 are drawn.)";
 
+// What the library draws while no colours are set. An unset colour of the lines would follow the
+// outlines, and be white on a white ground.
+constexpr Color kDefaultLineColor = {0, 0, 0};
+
 struct PieOptions
 {
     CommonOptions common;
@@ -74,7 +78,7 @@ void runPie(const PieOptions& options)
     applyCommonOptions(chart, options.common);
     chart.setProperty(propertiesOf(options));
     chart.setColors(options.outline.value_or(kNoColor), options.text.value_or(kNoColor),
-                    options.line.value_or(kNoColor));
+                    options.line.value_or(kDefaultLineColor));
     addSlices(chart, items);
     const std::string_view picture = renderPicture(chart, options.common);
     ChartRegions regions = captionRegions(chart, options.common);

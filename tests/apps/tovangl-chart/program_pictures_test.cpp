@@ -166,6 +166,12 @@ struct OptionCase
     const char* option;
 };
 
+// Names a case where a test is listed.
+void PrintTo(const OptionCase& optionCase, std::ostream* stream)
+{
+    *stream << optionCase.chart << ' ' << optionCase.option;
+}
+
 class EveryOption : public ::testing::TestWithParam<OptionCase>
 {};
 
@@ -203,6 +209,12 @@ INSTANTIATE_TEST_SUITE_P(
                       OptionCase{"BarsTextColor", "bars", "--text-color '#ff0000'"},
                       OptionCase{"HbarsTextColor", "hbars", "--text-color '#ff0000'"}),
     [](const auto& info) { return info.param.name; });
+
+TEST(Pictures, APieWithoutColourOptionsHasTheDefaultColours)
+{
+    EXPECT_EQ(draw("pie"), draw("pie --outline-color '#ffffff' --text-color '#000000' "
+                                "--line-color '#000000'"));
+}
 
 TEST(Pictures, OverlapsAreKeptOnRequest)
 {
