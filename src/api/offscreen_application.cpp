@@ -13,6 +13,7 @@
 
 #include <clocale>
 #include <mutex>
+#include <pthread.h>
 #include <string>
 
 namespace tovangl {
@@ -108,8 +109,18 @@ bool ensureApplication()
 
 namespace {
 
+// A forked child has the pool of painting threads, but not its threads, and would wait for them for
+// ever. It starts its own where the pool is empty.
+bool endPaintThreadsBeforeForks()
+{
+    if constexpr (qt::kPaintsInThreads)
+        return pthread_atfork(&qt::endPaintThreads, nullptr, nullptr) == 0;
+    return true;
+}
+
 // Makes the object when the library is loaded, so that it belongs to no later thread by chance.
 [[maybe_unused]] const bool madeAtLoad = ensureApplication();
+[[maybe_unused]] const bool preparedForForks = endPaintThreadsBeforeForks();
 
 } // namespace
 

@@ -18,6 +18,8 @@
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 #include "core/whole_pixel_text.h"
+
+#include <QThreadPool>
 #endif
 
 namespace tovangl {
@@ -91,6 +93,24 @@ inline void makeApplication()
     static char platform[] = "offscreen";
     static char* arguments[] = {empty, option, platform, nullptr};
     new QGuiApplication(count, arguments);
+}
+#endif
+
+// --- threads that paint
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+inline constexpr bool kPaintsInThreads = false;
+inline void endPaintThreads() {}
+#else
+inline constexpr bool kPaintsInThreads = true;
+
+/// Ends the idle threads of the pool that antialiased fills are handed to; the next fill starts new
+/// ones. A thread that has just done its share is waited for, one that works for the host is not.
+inline void endPaintThreads()
+{
+    constexpr int kTimeToBecomeIdle = 100; // milliseconds
+    if (QThreadPool* pool = QThreadPool::globalInstance())
+        pool->waitForDone(kTimeToBecomeIdle);
 }
 #endif
 
