@@ -12,6 +12,7 @@ namespace tovangl::program {
 
 namespace {
 
+constexpr const char* kName = "bars";
 constexpr const char* kDescription = "Bars standing on an axis, with a scale at the left";
 
 constexpr const char* kExamples =
@@ -49,8 +50,7 @@ void runBars(const UprightBarOptions& options)
     applyAxes(chart, options);
     applyBarOptions(chart, items, options.bars);
     const std::string_view picture = renderPicture(chart, common);
-    ChartRegions regions = captionAndBarRegions(chart, common);
-    regions.kind = "bars";
+    const ChartRegions regions = captionAndBarRegions(chart, kName, common);
     writeChart(picture, items, regions, common);
 }
 
@@ -59,7 +59,7 @@ void runBars(const UprightBarOptions& options)
 void addBarsCommand(CLI::App& program)
 {
     static const std::string teaching = std::string(kExamples) + kAxisTeaching;
-    CLI::App* command = addChartCommand(program, "bars", kDescription, teaching.c_str());
+    CLI::App* command = addChartCommand(program, kName, kDescription, teaching.c_str());
     const auto options = std::make_shared<UprightBarOptions>();
     addCommonOptions(*command, options->bars.common);
     addBarOptions(*command, options->bars);

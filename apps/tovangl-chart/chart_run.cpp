@@ -68,9 +68,11 @@ std::string_view renderPicture(Graph& chart, const CommonOptions& options)
     return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
 }
 
-ChartRegions captionRegions(Graph& chart, const CommonOptions& options)
+ChartRegions captionRegions(Graph& chart, const char* kind, const CommonOptions& options)
 {
     ChartRegions regions;
+    regions.kind = kind;
+    regions.description = chart.describe();
     regions.size.width = options.size.width * factorOf(options);
     regions.size.height = options.size.height * factorOf(options);
     regions.captions = *chart.getRectangle();

@@ -21,15 +21,19 @@ void checkOutputs(const CommonOptions& options);
 /// @return the bytes, which the chart owns
 [[nodiscard]] std::string_view renderPicture(Graph& chart, const CommonOptions& options);
 
-/// The regions of the chart rendered last.
-[[nodiscard]] ChartRegions captionRegions(Graph& chart, const CommonOptions& options);
+/// What every chart tells of itself after a rendering.
+///
+/// @param kind  name of the chart's command
+[[nodiscard]] ChartRegions captionRegions(Graph& chart, const char* kind,
+                                          const CommonOptions& options);
 
 /// The same for a bar chart.
 template <typename BarChart>
-[[nodiscard]] ChartRegions captionAndBarRegions(BarChart& chart, const CommonOptions& options)
+[[nodiscard]] ChartRegions captionAndBarRegions(BarChart& chart, const char* kind,
+                                                const CommonOptions& options)
 {
-    ChartRegions regions = captionRegions(chart, options);
-    regions.bars = DrawnBars{*chart.getBarRectangle(), chart.threshold()};
+    ChartRegions regions = captionRegions(chart, kind, options);
+    regions.bars = *chart.getItemBarRectangle();
     return regions;
 }
 

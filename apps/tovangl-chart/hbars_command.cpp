@@ -12,6 +12,7 @@ namespace tovangl::program {
 
 namespace {
 
+constexpr const char* kName = "hbars";
 constexpr const char* kDescription = "Bars lying one below the other, each with its value";
 
 constexpr const char* kExamples =
@@ -37,8 +38,7 @@ void runHbars(const BarOptions& options)
     applyAxis(chart, options.categoryAxis);
     applyBarOptions(chart, items, options);
     const std::string_view picture = renderPicture(chart, options.common);
-    ChartRegions regions = captionAndBarRegions(chart, options.common);
-    regions.kind = "hbars";
+    const ChartRegions regions = captionAndBarRegions(chart, kName, options.common);
     writeChart(picture, items, regions, options.common);
 }
 
@@ -47,7 +47,7 @@ void runHbars(const BarOptions& options)
 void addHbarsCommand(CLI::App& program)
 {
     static const std::string teaching = std::string(kExamples) + kAxisTeaching;
-    CLI::App* command = addChartCommand(program, "hbars", kDescription, teaching.c_str());
+    CLI::App* command = addChartCommand(program, kName, kDescription, teaching.c_str());
     const auto options = std::make_shared<BarOptions>();
     addCommonOptions(*command, options->common);
     addBarOptions(*command, *options);

@@ -11,6 +11,7 @@ namespace tovangl::program {
 
 namespace {
 
+constexpr const char* kName = "pie";
 constexpr const char* kDescription = "A pie with caption and size beside each slice";
 
 constexpr const char* kExamples =
@@ -81,8 +82,8 @@ void runPie(const PieOptions& options)
                     options.line.value_or(kDefaultLineColor));
     addSlices(chart, items);
     const std::string_view picture = renderPicture(chart, options.common);
-    ChartRegions regions = captionRegions(chart, options.common);
-    regions.kind = "pie";
+    ChartRegions regions = captionRegions(chart, kName, options.common);
+    regions.slices = *chart.getSlice();
     writeChart(picture, items, regions, options.common);
 }
 
@@ -90,7 +91,7 @@ void runPie(const PieOptions& options)
 
 void addPieCommand(CLI::App& program)
 {
-    CLI::App* command = addChartCommand(program, "pie", kDescription, kExamples);
+    CLI::App* command = addChartCommand(program, kName, kDescription, kExamples);
     const auto options = std::make_shared<PieOptions>();
     addCommonOptions(*command, options->common);
     addPieOptions(*command, *options);

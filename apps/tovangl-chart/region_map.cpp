@@ -2,7 +2,6 @@
 // Where each item was drawn, as JSON.
 #include "tovangl-chart/region_map.h"
 
-#include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace tovangl::program {
@@ -14,15 +13,7 @@ using Json = nlohmann::ordered_json;
 
 constexpr int kIndent = 2;
 
-__extension__ using WideUnsigned = unsigned __int128;
-
-WideUnsigned magnitudeOf(long value)
-{
-    const auto bits = static_cast<unsigned long>(value);
-    return value < 0 ? 0UL - bits : bits;
-}
-
-Json rectangleJson(const Rectangle& rectangle)
+Json regionJson(const Rectangle& rectangle)
 {
     if (rectangle.width == 0 || rectangle.height == 0)
         return nullptr;
@@ -32,51 +23,43 @@ Json rectangleJson(const Rectangle& rectangle)
             {"height", rectangle.height}};
 }
 
-Json itemJson(const ChartItem& item, const Rectangle& caption)
+Json regionJson(const Slice& slice)
 {
-    return {{"value", item.value},
-            {"caption", item.caption},
-            {"captionRectangle", rectangleJson(caption)}};
+    if (slice.span == 0.0)
+        return nullptr;
+    return {{"x", slice.x},           {"y", slice.y},         {"width", slice.width},
+            {"height", slice.height}, {"start", slice.start}, {"span", slice.span}};
 }
 
-void addBars(Json& itemList, const ChartItems& items, const DrawnBars& bars)
+Json itemsJson(const ChartItems& items)
 {
-    const std::vector<Rectangle> rectangles = barsOfItems(items, bars);
-    for (std::size_t i = 0; i < items.size(); ++i)
-        itemList[i]["barRectangle"] = rectangleJson(rectangles[i]);
+    Json result = Json::array();
+    for (const ChartItem& item : items)
+        result.push_back({{"value", item.value}, {"caption", item.caption}});
+    return result;
+}
+
+/// Gives every item its region.
+template <typename Regions>
+void addRegions(Json& items, const char* key, const Regions& regions)
+{
+    auto region = regions.begin();
+    for (Json& item : items)
+        item[key] = regionJson(*region++);
 }
 
 } // namespace
 
-// The library leaves the bars below the threshold out of its list, so its rule is needed to know
-// whose they are.
-std::vector<Rectangle> barsOfItems(const ChartItems& items, const DrawnBars& bars)
-{
-    WideUnsigned total = 0;
-    for (const ChartItem& item : items)
-        total += magnitudeOf(item.value);
-    const double threshold = bars.threshold < 0 ? 0 : bars.threshold;
-
-    std::vector<Rectangle> result(items.size(), Rectangle{0, 0, 0, 0});
-    auto next = bars.rectangles.begin();
-    for (std::size_t i = 0; i < items.size() && next != bars.rectangles.end(); ++i) {
-        const auto magnitude = static_cast<double>(magnitudeOf(items[i].value));
-        const double share = total == 0 ? 0 : magnitude * 100.0 / static_cast<double>(total);
-        if (share >= threshold)
-            result[i] = *next++;
-    }
-    return result;
-}
-
 std::string regionMapJson(const ChartItems& items, const ChartRegions& regions)
 {
-    Json itemList = Json::array();
-    auto caption = regions.captions.begin();
-    for (const ChartItem& item : items)
-        itemList.push_back(itemJson(item, *caption++));
+    Json itemList = itemsJson(items);
+    addRegions(itemList, "captionRectangle", regions.captions);
     if (regions.bars)
-        addBars(itemList, items, *regions.bars);
+        addRegions(itemList, "barRectangle", *regions.bars);
+    if (regions.slices)
+        addRegions(itemList, "slice", *regions.slices);
     const Json map = {{"chart", regions.kind},
+                      {"description", regions.description},
                       {"width", regions.size.width},
                       {"height", regions.size.height},
                       {"items", std::move(itemList)}};

@@ -7,6 +7,7 @@
 #include "tovangl-chart/ChartItem.h"
 #include "tovangl-chart/option_values.h"
 #include <tovangl/Rectangle.h>
+#include <tovangl/Slice.h>
 
 #include <list>
 #include <optional>
@@ -14,27 +15,19 @@
 
 namespace tovangl::program {
 
-/// The bars of a chart as the library tells them: one for each item that the threshold left in.
-struct DrawnBars
-{
-    std::list<Rectangle> rectangles;
-    double threshold = 0; ///< per cent
-};
-
-/// What a map is made from.
+/// What a rendered chart tells of itself. Every list has one record for each item.
 struct ChartRegions
 {
-    std::string kind;              ///< name of the chart's command
-    PictureSize size;              ///< in pixels of the picture
-    std::list<Rectangle> captions; ///< one for each item
-    std::optional<DrawnBars> bars; ///< a pie has none
+    std::string kind;        ///< name of the chart's command
+    std::string description; ///< one sentence, for an alternative text
+    PictureSize size;        ///< in pixels of the picture
+    std::list<Rectangle> captions;
+    std::optional<std::list<Rectangle>> bars; ///< a pie has none
+    std::optional<std::list<Slice>> slices;   ///< only a pie has them
 };
 
-/// One rectangle for each item; all zero where the item has no bar.
-[[nodiscard]] std::vector<Rectangle> barsOfItems(const ChartItems& items, const DrawnBars& bars);
-
-/// An object with the chart's kind and size, and for each item its value, its caption and the
-/// rectangles, null where nothing was drawn.
+/// An object with the chart's kind, description and size, and for each item its value, its caption
+/// and its regions, null where nothing was drawn.
 [[nodiscard]] std::string regionMapJson(const ChartItems& items, const ChartRegions& regions);
 
 } // namespace tovangl::program

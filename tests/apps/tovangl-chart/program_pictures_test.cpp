@@ -11,6 +11,7 @@
 namespace tovangl::program {
 namespace {
 
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using Json = nlohmann::json;
 
@@ -131,6 +132,12 @@ TEST_P(EveryChart, MapsEveryCaption)
     EXPECT_GT(map["items"][1]["captionRectangle"]["width"], 0);
 }
 
+TEST_P(EveryChart, IsDescribedInItsMap)
+{
+    const Json map = drawWithMap(chart(), kItems).second;
+    EXPECT_THAT(map["description"].get<std::string>(), HasSubstr("first"));
+}
+
 TEST_P(EveryChart, MapsThePixelsOfThePrint)
 {
     const auto [picture, map] = drawWithMap(chart() + " --print 2", kItems);
@@ -157,6 +164,16 @@ TEST_P(BarCharts, MapEveryBarToItsItem)
 TEST_P(BarCharts, OutlineTheirBars)
 {
     EXPECT_TRUE(showsColor(draw(chart(), "5 a\t#ffff00\t#123456\n"), qRgb(0x12, 0x34, 0x56)));
+}
+
+TEST(Pictures, MapsTheSlices)
+{
+    const auto [picture, map] = drawWithMap("pie", "3 a\t#ff0000\n1 b\t#0000ff\n0 none\n");
+    const Json& slice = map["items"][0]["slice"];
+    EXPECT_DOUBLE_EQ(slice["span"], 270.0);
+    const double centre = slice["x"].get<double>() + slice["width"].get<double>() / 2;
+    EXPECT_EQ(picture.pixel(int(centre), slice["y"].get<int>() + 20), qRgb(255, 0, 0));
+    EXPECT_TRUE(map["items"][2]["slice"].is_null());
 }
 
 struct OptionCase

@@ -20,53 +20,6 @@ ChartItems itemsOf(std::initializer_list<long> values)
     return items;
 }
 
-/// The left edges of the items' bars.
-std::vector<int> barPositions(std::initializer_list<long> values, double threshold,
-                              std::list<Rectangle> bars)
-{
-    std::vector<int> result;
-    for (const Rectangle& bar : barsOfItems(itemsOf(values), {std::move(bars), threshold}))
-        result.push_back(bar.x);
-    return result;
-}
-
-TEST(BarsOfItems, WithoutAThresholdEveryItemHasItsBar)
-{
-    EXPECT_EQ(barPositions({1, 0, 3}, 0, {kFirst, kNone, kSecond}), (std::vector<int>{1, 0, 5}));
-}
-
-TEST(BarsOfItems, ItemsBelowTheThresholdHaveNone)
-{
-    EXPECT_EQ(barPositions({10, 80, 10, 100}, 10, {kFirst, kSecond}),
-              (std::vector<int>{0, 1, 0, 5}));
-}
-
-TEST(BarsOfItems, AShareAtTheThresholdCounts)
-{
-    EXPECT_EQ(barPositions({25, 75}, 25, {kFirst, kSecond}), (std::vector<int>{1, 5}));
-}
-
-TEST(BarsOfItems, NegativeValuesCountByTheirMagnitude)
-{
-    EXPECT_EQ(barPositions({-90, 10}, 50, {kFirst}), (std::vector<int>{1, 0}));
-}
-
-TEST(BarsOfItems, ANegativeThresholdActsAsNone)
-{
-    EXPECT_EQ(barPositions({0, 1}, -5, {kFirst, kSecond}), (std::vector<int>{1, 5}));
-}
-
-TEST(BarsOfItems, ExtremeValuesDoNotWrap)
-{
-    const long least = std::numeric_limits<long>::min();
-    EXPECT_EQ(barPositions({least, least, 1}, 1, {kFirst, kSecond}), (std::vector<int>{1, 5, 0}));
-}
-
-TEST(BarsOfItems, AChartThatDidNotFitHasNoBars)
-{
-    EXPECT_EQ(barPositions({1, 2}, 0, {}), (std::vector<int>{0, 0}));
-}
-
 TEST(RegionMap, HoldsEveryItemWithItsRectangles)
 {
     const ChartItems items{{7, "a \"b\"", std::nullopt, std::nullopt},
@@ -75,10 +28,11 @@ TEST(RegionMap, HoldsEveryItemWithItsRectangles)
     regions.kind = "bars";
     regions.size = {640, 480};
     regions.captions = {kFirst, kNone};
-    regions.bars = DrawnBars{{kSecond, kNone}, 0};
+    regions.description = "Bar chart.";
+    regions.bars = std::list<Rectangle>{kSecond, kNone};
     const auto map = nlohmann::json::parse(regionMapJson(items, regions));
     EXPECT_EQ(map, nlohmann::json::parse(R"({
-        "chart": "bars", "width": 640, "height": 480,
+        "chart": "bars", "description": "Bar chart.", "width": 640, "height": 480,
         "items": [
             {"value": 7, "caption": "a \"b\"",
              "captionRectangle": {"x": 1, "y": 2, "width": 3, "height": 4},
@@ -88,12 +42,25 @@ TEST(RegionMap, HoldsEveryItemWithItsRectangles)
         ]})"));
 }
 
-TEST(RegionMap, APieHasNoBars)
+TEST(RegionMap, APieHasSlicesAndNoBars)
+{
+    ChartRegions regions;
+    regions.captions = {kFirst, kNone};
+    regions.slices = {{1.5, 2.0, 300.0, 300.25, 180.0, 90.5}, {0, 0, 0, 0, 0, 0}};
+    const auto map = nlohmann::json::parse(regionMapJson(itemsOf({1, 0}), regions));
+    EXPECT_FALSE(map["items"][0].contains("barRectangle"));
+    EXPECT_EQ(map["items"][0]["slice"], nlohmann::json::parse(R"({
+        "x": 1.5, "y": 2.0, "width": 300.0, "height": 300.25, "start": 180.0, "span": 90.5})"));
+    EXPECT_TRUE(map["items"][1]["slice"].is_null());
+}
+
+TEST(RegionMap, BarsHaveNoSlices)
 {
     ChartRegions regions;
     regions.captions = {kFirst};
+    regions.bars = std::list<Rectangle>{kSecond};
     const auto map = nlohmann::json::parse(regionMapJson(itemsOf({1}), regions));
-    EXPECT_FALSE(map["items"][0].contains("barRectangle"));
+    EXPECT_FALSE(map["items"][0].contains("slice"));
 }
 
 TEST(RegionMap, AnEmptyChartHasNoItems)
