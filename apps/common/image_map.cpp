@@ -70,4 +70,13 @@ void CImageMap::addArea(const char* shape, const std::string& coordinates, const
                attribute("alt", link.text) + ">\n";
 }
 
+std::string mappedPictureHtml(const MappedPicture& picture, const CImageMap& map)
+{
+    return "<div class=\"picture\"><img" + attribute("src", picture.source) +
+           attribute("width", std::to_string(picture.width)) +
+           attribute("height", std::to_string(picture.height)) +
+           attribute("usemap", '#' + map.name()) + attribute("alt", picture.description) +
+           "></div>\n" + map.html();
+}
+
 } // namespace tovangl::program

@@ -40,6 +40,18 @@ private:
     std::string m_areas;
 };
 
+/// A picture that a map belongs to.
+struct MappedPicture
+{
+    std::string source; ///< address of the picture
+    int width;          ///< in pixels, as it is shown: a map does not scale with its picture
+    int height;
+    std::string description; ///< read in the picture's place; plain text
+};
+
+/// The picture with its map.
+[[nodiscard]] std::string mappedPictureHtml(const MappedPicture& picture, const CImageMap& map);
+
 } // namespace tovangl::program
 
 #endif

@@ -3,9 +3,11 @@
 #include "tovangl-chart/chart_run.h"
 
 #include "common/output_files.h"
+#include "tovangl-chart/chart_page.h"
 
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 
 namespace tovangl::program {
 
@@ -44,12 +46,35 @@ CFailure noPicture(const CommonOptions& options)
                     ": too little memory, or the offscreen platform plugin is not installed");
 }
 
+bool makesPage(const CommonOptions& options)
+{
+    return isPageName(options.map);
+}
+
+/// Where the picture goes; empty: nowhere, as it is in the page.
+std::string pictureOutput(const CommonOptions& options)
+{
+    return options.output.value_or(makesPage(options) ? "" : kStandardOutput);
+}
+
+std::string makeMap(std::string_view picture, const ChartItems& items, const ChartRegions& regions,
+                    const CommonOptions& options)
+{
+    if (!makesPage(options))
+        return regionMapJson(items, regions);
+    const std::string title = std::filesystem::path(options.map).stem();
+    return chartPageHtml(title, picture, items, regions);
+}
+
 } // namespace
 
 void checkOutputs(const CommonOptions& options)
 {
-    refuseTerminal(options.output);
-    if (!options.map.empty() && isSamePlace(options.output, options.map))
+    const std::string output = pictureOutput(options);
+    if (output.empty())
+        return;
+    refuseTerminal(output);
+    if (!options.map.empty() && isSamePlace(output, options.map))
         throw CFailure("the picture and the map cannot both go to " +
                        (options.map == kStandardOutput ? "standard output" : options.map));
 }
@@ -82,10 +107,12 @@ ChartRegions captionRegions(Graph& chart, const char* kind, const CommonOptions&
 void writeChart(std::string_view picture, const ChartItems& items, const ChartRegions& regions,
                 const CommonOptions& options)
 {
-    std::vector<Output> outputs{{options.output, picture}};
+    std::vector<Output> outputs;
+    if (const std::string output = pictureOutput(options); !output.empty())
+        outputs.push_back({output, picture});
     std::string map;
     if (!options.map.empty()) {
-        map = regionMapJson(items, regions);
+        map = makeMap(picture, items, regions, options);
         outputs.push_back({options.map, map});
     }
     writeOutputs(outputs);

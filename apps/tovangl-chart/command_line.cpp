@@ -21,6 +21,7 @@ Examples:
   du -b -d1 /usr | tovangl-chart pie -o usr.png
   tovangl-chart bars sales.txt --value-title Euros -o sales.png
   sort -n sizes.txt | tovangl-chart hbars --size 600x900 >sizes.png
+  du -b -d1 /usr | tovangl-chart pie --map usr.html
 
 Each chart has its own help: tovangl-chart pie --help)";
 

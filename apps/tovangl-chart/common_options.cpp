@@ -22,12 +22,14 @@ void addFileOptions(CLI::App& command, CommonOptions& options)
     addOption(command, "FILE", options.input, parsePath,
               "Items, one a line; without it, standard input")
         ->type_name("");
-    addOption(command, "-o,--output", options.output, parsePath,
-              "Write the picture (PNG) here; without it, to standard output")
+    addOption(
+        command, "-o,--output", options.output, parsePath,
+        "Write the picture (PNG) here; without it, to standard output, unless there is a page")
         ->type_name("FILE");
     addOption(command, "--map", options.map, parsePath,
-              "Write where each item was drawn (JSON) here")
-        ->type_name("FILE.json");
+              "Write where each item was drawn here: a page with the picture and its regions "
+              "where FILE ends in .html, JSON otherwise")
+        ->type_name("FILE");
 }
 
 void addLookOptions(CLI::App& command, CommonOptions& options)

@@ -20,7 +20,7 @@ namespace tovangl::program {
 struct CommonOptions
 {
     std::string input = "-";
-    std::string output = "-";
+    std::optional<std::string> output;
     std::string map; // empty: none
     PictureSize size;
     std::optional<int> printFactor;

@@ -19,6 +19,7 @@ constexpr const char* kExamples =
   du -b -d1 /usr | tovangl-chart pie -o usr.png
   tovangl-chart pie --threshold 2 --without-sizes --background votes.txt -o votes.png
   tovangl-chart pie --size 400x300 --print 4 sizes.txt -o page.png --map page.json
+  du -b -d1 /usr | tovangl-chart pie --map usr.html      (one page, with regions to point at)
 
 Slices run clockwise from nine o'clock. Only numbers above 0 are drawn.)";
 

@@ -69,14 +69,6 @@ std::string foldedTable(const ReportRows& rows, long total, const char* heading)
            "</table>\n</details>\n";
 }
 
-std::string image(const ReportPicture& picture, const std::string& fileName)
-{
-    return "<div class=\"picture\"><img src=\"" + fileName + "\" width=\"" +
-           std::to_string(picture.width) + "\" height=\"" + std::to_string(picture.height) +
-           "\" usemap=\"#" + picture.map.name() + "\" alt=\"" + escapeHtml(picture.description) +
-           "\"></div>\n" + picture.map.html();
-}
-
 /// Puts the page together, and gathers its pictures.
 class CPage
 {
@@ -156,7 +148,9 @@ private:
     void addSection(const char* title, ReportPicture picture, const std::string& rows)
     {
         const std::string fileName = m_contents.pictureStem + picture.map.name() + ".png";
-        m_html += std::string("<section>\n<h2>") + title + "</h2>\n" + image(picture, fileName) +
+        m_html += std::string("<section>\n<h2>") + title + "</h2>\n" +
+                  mappedPictureHtml({fileName, picture.width, picture.height, picture.description},
+                                    picture.map) +
                   rows + "</section>\n";
         m_files.push_back({fileName, std::move(picture.png)});
     }

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Bytes as they can stand in an address.
+#ifndef TOVANGL_COMMON_BASE64_H
+#define TOVANGL_COMMON_BASE64_H
+
+#include <string>
+#include <string_view>
+
+namespace tovangl::program {
+
+/// The bytes in base 64 with the alphabet of RFC 4648, section 4, filled up to groups of four.
+[[nodiscard]] std::string encodeBase64(std::string_view bytes);
+
+} // namespace tovangl::program
+
+#endif

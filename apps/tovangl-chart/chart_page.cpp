@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// A chart as one page.
+#include "tovangl-chart/chart_page.h"
+
+#include "common/base64.h"
+#include "common/html_text.h"
+#include "common/image_map.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace tovangl::program {
+
+namespace {
+
+constexpr const char* kGenerator = "tovangl-chart";
+constexpr const char* kMapName = "chart";
+
+constexpr const char* kStyle =
+    R"(body { margin: 0 auto; max-width: 832px; padding: 0 16px; color: #222; background: #fff;
+       font: 15px/1.45 sans-serif; }
+h1 { font-size: 22px; overflow-wrap: anywhere; }
+.picture { overflow-x: auto; }
+.picture img { display: block; border: 0; }
+table { border-collapse: collapse; width: 100%; margin: 16px 0; font-size: 14px; }
+th, td { padding: 2px 8px; text-align: right; border-bottom: 1px solid #e4e4e4; }
+th { font-weight: normal; color: #666; }
+th:first-child, td:first-child { width: 99%; text-align: left; overflow-wrap: anywhere; }
+tr:target { background: #fff3c4; }
+)";
+
+bool endsWith(std::string_view name, std::string_view ending)
+{
+    return name.size() >= ending.size() &&
+           std::equal(ending.rbegin(), ending.rend(), name.rbegin(), [](char expected, char found) {
+               return std::tolower(static_cast<unsigned char>(found)) == expected;
+           });
+}
+
+std::string anchorOf(std::size_t index)
+{
+    return "item-" + std::to_string(index + 1);
+}
+
+RegionLink linkOf(const ChartItems& items, std::size_t index)
+{
+    const std::string text =
+        displayName(items[index].caption) + ": " + std::to_string(items[index].value);
+    return {'#' + anchorOf(index), text, text};
+}
+
+// Where regions overlap the first one wins: a caption on a bar or a slice is what the reader points
+// at.
+CImageMap imageMap(const ChartItems& items, const ChartRegions& regions)
+{
+    CImageMap map(kMapName);
+    const auto addAll = [&](const auto& list, auto add) {
+        std::size_t index = 0;
+        for (const auto& region : list)
+            (map.*add)(region, linkOf(items, index++));
+    };
+    addAll(regions.captions, &CImageMap::addRectangle);
+    if (regions.bars)
+        addAll(*regions.bars, &CImageMap::addRectangle);
+    if (regions.slices)
+        addAll(*regions.slices, &CImageMap::addSlice);
+    return map;
+}
+
+std::string headHtml(const std::string& title)
+{
+    return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+           "<meta name=\"generator\" content=\"" +
+           std::string(kGenerator) +
+           "\">\n<meta name=\"viewport\" content=\"width=device-width\">\n<title>" + title +
+           "</title>\n<style>\n" + kStyle + "</style>\n</head>\n";
+}
+
+std::string tableHtml(const ChartItems& items)
+{
+    std::string html = "<table>\n<thead><tr><th>Item</th><th>Value</th></tr></thead>\n<tbody>\n";
+    for (std::size_t i = 0; i < items.size(); ++i)
+        html += "<tr id=\"" + anchorOf(i) + "\"><td><bdi>" +
+                escapeHtml(displayName(items[i].caption)) + "</bdi></td><td>" +
+                std::to_string(items[i].value) + "</td></tr>\n";
+    return html + "</tbody>\n</table>\n";
+}
+
+} // namespace
+
+bool isPageName(std::string_view name)
+{
+    return endsWith(name, ".html") || endsWith(name, ".htm");
+}
+
+std::string chartPageHtml(const std::string& title, std::string_view picture,
+                          const ChartItems& items, const ChartRegions& regions)
+{
+    const std::string heading = escapeHtml(displayName(title));
+    const MappedPicture mapped = {"data:image/png;base64," + encodeBase64(picture),
+                                  regions.size.width, regions.size.height, regions.description};
+    return headHtml(heading) + "<body>\n<h1>" + heading + "</h1>\n" +
+           mappedPictureHtml(mapped, imageMap(items, regions)) + tableHtml(items) +
+           "</body>\n</html>\n";
+}
+
+} // namespace tovangl::program

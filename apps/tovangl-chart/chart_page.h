@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// A chart as one page.
+#ifndef TOVANGL_CHART_CHART_PAGE_H
+#define TOVANGL_CHART_CHART_PAGE_H
+
+#include "tovangl-chart/ChartItem.h"
+#include "tovangl-chart/region_map.h"
+
+#include <string>
+#include <string_view>
+
+namespace tovangl::program {
+
+/// Whether a file of this name is meant to be a page: it ends in ".html" or ".htm", in any case.
+[[nodiscard]] bool isPageName(std::string_view name);
+
+/// A page that needs no other file: the picture, the regions of its items, and a table of the items
+/// that the regions lead to.
+///
+/// @param title    of the page; plain text
+/// @param picture  PNG
+[[nodiscard]] std::string chartPageHtml(const std::string& title, std::string_view picture,
+                                        const ChartItems& items, const ChartRegions& regions);
+
+} // namespace tovangl::program
+
+#endif
