@@ -57,6 +57,12 @@ struct CLabelGeometry<QRect>
                      QPoint(clampToInt(edges.left + edges.width - 1),
                             clampToInt(edges.top + edges.height - 1)));
     }
+    // A rectangle with that corner, whose width and height are exchanged.
+    static QRect transposed(const QPoint& corner, const QRect& rect)
+    {
+        const CEdges<Number> old = edges(rect);
+        return pixelRect({corner.x(), corner.y(), old.height, old.width});
+    }
     static Number extent(Number first, Number last) { return last - first + kInclusive; }
 };
 
@@ -74,6 +80,10 @@ struct CLabelGeometry<QRectF>
     {
         return CLabelGeometry<QRect>::pixelRect(
             {nearest(edges.left), nearest(edges.top), nearest(edges.width), nearest(edges.height)});
+    }
+    static QRectF transposed(const QPointF& corner, const QRectF& rect)
+    {
+        return QRectF(corner, QSizeF(rect.height(), rect.width()));
     }
     // Halves away from zero.
     static std::int64_t nearest(double value) { return truncateToInt(std::round(value)); }
@@ -96,13 +106,6 @@ QRect movedPixelRect(const R& rect, int dx, int dy)
     using Geometry = CLabelGeometry<R>;
     const auto edges = Geometry::edges(rect);
     return Geometry::pixelRect({edges.left + dx, edges.top + dy, edges.width, edges.height});
-}
-
-// Width and height exchanged.
-template <typename S>
-S transposedSize(const S& size)
-{
-    return S(size.height(), size.width());
 }
 
 } // namespace
@@ -203,7 +206,7 @@ void CTextLabel<P, R>::draw(QPainter& painter, const R& rect, const QTextOption&
         return;
     initBoundingRect(painter);
     if (m_rotated)
-        drawRotated(painter, R(rect.topLeft(), transposedSize(rect.size())), option);
+        drawRotated(painter, CLabelGeometry<R>::transposed(rect.topLeft(), rect), option);
     else
         drawNormally(painter, rect, option);
 }
@@ -242,7 +245,7 @@ void CTextLabel<P, R>::drawRotated(QPainter& painter, const R& rect, const QText
     const CPainterSaver saver(painter);
     painter.translate(rect.topLeft());
     painter.rotate(kReadingUpward);
-    drawNormally(painter, R(P(0, 0), transposedSize(rect.size())), option);
+    drawNormally(painter, CLabelGeometry<R>::transposed(P(0, 0), rect), option);
 }
 
 template <typename P, typename R>

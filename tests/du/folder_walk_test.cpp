@@ -258,7 +258,7 @@ TEST_F(FolderWalk, FailsWhereTheRootCannotBeRead)
     WalkOptions options;
     for (const char* name : {"none", "file"}) {
         options.root = m_tree.pathOf(name);
-        EXPECT_THROW(walkFolder(options, [](const WalkProgress&) {}), CFailure);
+        EXPECT_THROW(static_cast<void>(walkFolder(options, [](const WalkProgress&) {})), CFailure);
     }
 }
 
@@ -267,8 +267,8 @@ TEST_F(FolderWalk, StopsWhereTheReportStopsIt)
     makeFile("file", 5);
     WalkOptions options;
     options.root = m_tree.path();
-    EXPECT_THROW(walkFolder(options, [](const WalkProgress&) { throw CFailure("enough"); }),
-                 CFailure);
+    const auto stop = [](const WalkProgress&) { throw CFailure("enough"); };
+    EXPECT_THROW(static_cast<void>(walkFolder(options, stop)), CFailure);
 }
 
 } // namespace

@@ -29,9 +29,9 @@ std::unique_ptr<CModule> openModule()
 bool drawInLoop(const CModule& module, const std::string& folder)
 {
     bool isDrawn = false;
-    QTimer::singleShot(0, qApp, [&] {
+    QTimer::singleShot(0, QCoreApplication::instance(), [&] {
         isDrawn = module.draw(folder, "loop");
-        qApp->quit();
+        QCoreApplication::quit();
     });
     return QCoreApplication::exec() == 0 && isDrawn;
 }

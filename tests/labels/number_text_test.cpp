@@ -155,10 +155,11 @@ TEST(NumberText, TheNextValueIsScaledAsAnyOther)
 TEST(NumberText, EachPrefixFollowsTheOneBefore)
 {
     const char* prefixes[] = {"", " K", " M", " G", " T", " P", " E"};
-    long long value = 1;
+    constexpr int kBitsOfAKilo = 10;
+    int bits = 0;
     for (const char* prefix : prefixes) {
-        EXPECT_EQ(written(value, PrefixedWhole), std::string("1") + prefix);
-        value *= 1024;
+        EXPECT_EQ(written(1LL << bits, PrefixedWhole), std::string("1") + prefix);
+        bits += kBitsOfAKilo;
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <string>
+#include <type_traits>
 
 namespace tovangl {
 namespace {
@@ -28,8 +30,17 @@ protected:
     BarChart m_chart{false};
 };
 
+struct CChartNames
+{
+    template <typename Chart>
+    static std::string GetName(int)
+    {
+        return std::is_same_v<Chart, VerticalBarGraph> ? "Upright" : "Lying";
+    }
+};
+
 using BarCharts = ::testing::Types<VerticalBarGraph, HorizontalBarGraph>;
-TYPED_TEST_SUITE(ItemBarRectangle, BarCharts);
+TYPED_TEST_SUITE(ItemBarRectangle, BarCharts, CChartNames);
 
 TYPED_TEST(ItemBarRectangle, IsZeroBeforeAnyRendering)
 {
