@@ -51,7 +51,7 @@ class Region:
         self.corners = list(zip(numbers[::2], numbers[1::2]))
 
     def inside(self):
-        """The middle of a rectangle; of a slice, the middle between the pie's centre and its arc."""
+        """The middle of a rectangle; of a slice, the middle between its tip and its arc."""
         first, last = self.corners[0], self.corners[len(self.corners) // 2]
         return int((first[0] + last[0]) / 2), int((first[1] + last[1]) / 2)
 
