@@ -16,6 +16,7 @@ using tovangl::Color;
 using tovangl::HorizontalBarGraph;
 using tovangl::PieGraph;
 using tovangl::Rectangle;
+using tovangl::Slice;
 using tovangl::VerticalBarGraph;
 
 using Items = std::vector<std::pair<long, std::string>>;
@@ -312,7 +313,7 @@ void writeFrames(std::ostream& page, const std::list<Rectangle>& regions, const 
 }
 
 // The frames are laid over the picture by the page, where the lists say.
-void regions(PictureFolder& folder)
+void regionsOfBars(PictureFolder& folder)
 {
     VerticalBarGraph chart(false);
     addAll(chart, kMonths);
@@ -320,10 +321,41 @@ void regions(PictureFolder& folder)
     std::ostringstream page;
     page << "<div style=\"position:relative;width:420px;margin:1em auto\">\n"
          << "<img src=\"regions.png\" alt=\"A bar chart with its regions\">\n";
-    writeFrames(page, *chart.getBarRectangle(), "#d63031");
+    writeFrames(page, *chart.getItemBarRectangle(), "#d63031");
     writeFrames(page, *chart.getRectangle(), "#27ae60");
     page << "</div>\n";
     folder.write("regions.html", page.str());
+}
+
+void writeOutline(std::ostream& page, const Slice& slice, const char* color)
+{
+    page << "<polygon style=\"fill:none;stroke:" << color << "\" points=\"";
+    for (const tovangl::Point& corner : getPolygon(slice))
+        page << corner.x << ',' << corner.y << ' ';
+    page << "\"/>\n";
+}
+
+void regionsOfSlices(PictureFolder& folder)
+{
+    PieGraph chart(false);
+    addAll(chart, {{4 * kGiga, "/usr"}, {2 * kGiga, "/home"}, {kGiga, "/var"}});
+    folder.draw(chart, "regions_pie", 420, 220);
+    std::ostringstream page;
+    page << "<div style=\"position:relative;width:420px;margin:1em auto\">\n"
+         << "<img src=\"regions_pie.png\" alt=\"A pie with its regions\">\n"
+         << "<svg width=\"420\" height=\"220\" style=\"position:absolute;left:0;top:0\">\n";
+    for (const Slice& slice : *chart.getSlice())
+        writeOutline(page, slice, "#d63031");
+    page << "</svg>\n";
+    writeFrames(page, *chart.getRectangle(), "#27ae60");
+    page << "</div>\n";
+    folder.write("regions_pie.html", page.str());
+}
+
+void regions(PictureFolder& folder)
+{
+    regionsOfBars(folder);
+    regionsOfSlices(folder);
 }
 
 } // namespace

@@ -1,22 +1,35 @@
 // SPDX-License-Identifier: MIT
-// A page whose bars can be clicked: image_map [FOLDER]
+// A page whose slices and captions can be clicked: image_map [FOLDER]
 #include <tovangl/tovangl.h>
 
 #include <fstream>
-#include <string>
+#include <sstream>
+#include <utility>
 
 namespace {
 
-const char* const kNames[] = {"north", "east", "south", "west"};
-const long kSales[] = {5200, 3100, 7400, 4600};
+const std::pair<const char*, long> kSales[] = {{"north", 5200}, {"south", 7400}, {"west", 100}};
 
-// One region of the map: the bar itself, or the caption below it.
-void writeArea(std::ostream& page, const tovangl::Rectangle& r, const std::string& name)
+std::string cornersOf(const tovangl::Rectangle& r)
 {
-    if (r.width == 0 || r.height == 0) // nothing was drawn for this item
-        return;
-    page << "<area shape=\"rect\" coords=\"" << r.x << ',' << r.y << ',' << r.x + r.width << ','
-         << r.y + r.height << "\" href=\"" << name << ".html\" alt=\"" << name << "\">\n";
+    std::ostringstream text;
+    text << r.x << ',' << r.y << ',' << r.x + r.width << ',' << r.y + r.height;
+    return r.width == 0 || r.height == 0 ? std::string() : text.str(); // empty: nothing was drawn
+}
+
+std::string cornersOf(const tovangl::Slice& slice)
+{
+    std::ostringstream text;
+    for (const tovangl::Point& corner : getPolygon(slice))
+        text << (text.tellp() > 0 ? "," : "") << corner.x << ',' << corner.y;
+    return text.str();
+}
+
+void writeArea(std::ostream& page, const char* shape, const std::string& corners, const char* name)
+{
+    if (!corners.empty())
+        page << "<area shape=\"" << shape << "\" coords=\"" << corners << "\" href=\"" << name
+             << ".html\" title=\"" << name << "\" alt=\"" << name << "\">\n";
 }
 
 } // namespace
@@ -24,27 +37,24 @@ void writeArea(std::ostream& page, const tovangl::Rectangle& r, const std::strin
 int main(int count, char** arguments)
 {
     const std::string folder = count > 1 ? arguments[1] : ".";
-    tovangl::VerticalBarGraph chart(true);
-    for (int i = 0; i < 4; ++i)
-        chart.addItem(kSales[i], kNames[i]);
-
+    tovangl::PieGraph chart(true);
+    chart.setThreshold(1.0); // per cent: the west is too small for a slice
+    for (const auto& [name, sales] : kSales)
+        chart.addItem(sales, name);
     unsigned char* data = nullptr;
     int size = 0;
     chart.createPixmap(400, 250, &data, &size);
     std::ofstream picture(folder + "/sales.png", std::ios::binary);
     picture.write(reinterpret_cast<const char*>(data), size);
-
-    // Both lists are in the order of adding; nothing is left out here, as there is no threshold.
     std::ofstream page(folder + "/sales.html");
-    page << "<!DOCTYPE html>\n<title>Sales</title>\n"
-         << "<img src=\"sales.png\" usemap=\"#sales\" alt=\"Sales by region\">\n"
-         << "<map name=\"sales\">\n";
-    const char* const* name = kNames;
-    for (const tovangl::Rectangle& bar : *chart.getBarRectangle())
-        writeArea(page, bar, *name++);
-    name = kNames;
-    for (const tovangl::Rectangle& caption : *chart.getRectangle())
-        writeArea(page, caption, *name++);
-    page << "</map>\n";
-    return picture.flush() && page.flush() ? 0 : 1;
+    page << "<!DOCTYPE html>\n<title>Sales</title>\n<img src=\"sales.png\" usemap=\"#sales\" alt=\""
+         << chart.describe() << "\">\n<map name=\"sales\">\n";
+    auto caption = chart.getRectangle()->begin(); // both lists are in the order of adding
+    auto slice = chart.getSlice()->begin();
+    for (const auto& [name, sales] : kSales) {
+        writeArea(page, "rect", cornersOf(*caption++), name);
+        writeArea(page, "poly", cornersOf(*slice++), name);
+    }
+    page << "</map>\n" << std::flush;
+    return page && picture.flush() ? 0 : 1;
 }
