@@ -123,8 +123,9 @@ class Reader:
         actions = ActionChains(self.driver, duration=0)
         actions.w3c_actions.pointer_action.move_to_location(round(left + x), round(top + y))
         actions.perform()
-        return self.run(
-            "return Array.from(document.querySelectorAll('area:hover')).map(area => area.title)")
+        return self.wait(lambda _: self.run(
+            "return Array.from(document.querySelectorAll('area:hover')).map(area => area.title)"),
+            f"the pointer to rest on {region.title}")
 
     def click(self, element=None):
         """Clicks the element, or where the pointer rests, and waits for where that leads."""
