@@ -17,52 +17,15 @@ namespace tovangl {
 
 namespace {
 
-CFaultCounter counter;
-
 bool isOutOfMemory()
 {
-    if (!counter.failsNext())
+    if (!faultCounter.failsNext())
         return false;
     errno = ENOMEM;
     return true;
 }
 
 } // namespace
-
-CAllocationFaults::CAllocationFaults(FaultPattern pattern, long failing)
-{
-    counter.restart(pattern, failing);
-}
-
-CAllocationFaults::~CAllocationFaults()
-{
-    pause();
-}
-
-void CAllocationFaults::resume()
-{
-    counter.isCounting = true;
-}
-
-void CAllocationFaults::pause()
-{
-    counter.isCounting = false;
-}
-
-void CAllocationFaults::end()
-{
-    counter.failing = 0;
-}
-
-long CAllocationFaults::count()
-{
-    return counter.counted;
-}
-
-bool CAllocationFaults::hasFailed()
-{
-    return counter.hasFailed;
-}
 
 long CAllocationFaults::liveCount()
 {

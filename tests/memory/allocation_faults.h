@@ -2,8 +2,8 @@
 /// @file
 /// Makes allocations fail on purpose.
 ///
-/// Two sources implement it. library_allocations.cpp replaces operator new and counts what the
-/// library's own code asks for; all_allocations.cpp replaces malloc and counts everything, Qt's
+/// One of two sources goes with it: library_allocations.cpp replaces operator new and counts what
+/// the library's own code asks for; all_allocations.cpp replaces malloc and counts everything, Qt's
 /// allocations included.
 #ifndef TOVANGL_MEMORY_ALLOCATION_FAULTS_H
 #define TOVANGL_MEMORY_ALLOCATION_FAULTS_H

@@ -10,7 +10,6 @@
 
 namespace tovangl {
 
-/// It is there before any initialiser, because allocations come before main().
 struct CFaultCounter
 {
     std::atomic<bool> isCounting{false};
@@ -40,6 +39,10 @@ struct CFaultCounter
         counted = 0;
     }
 };
+
+/// The one of the process. It is there before any initialiser, because allocations come before
+/// main().
+extern CFaultCounter faultCounter;
 
 } // namespace tovangl
 

@@ -15,7 +15,6 @@ namespace tovangl {
 
 namespace {
 
-CFaultCounter counter;
 std::atomic<long> liveAllocations{0};
 
 // Where the library's code lies.
@@ -109,7 +108,7 @@ struct alignas(alignof(std::max_align_t)) CBlockHeader
 
 void* allocate(std::size_t size, bool isOwn)
 {
-    if (isOwn && counter.failsNext())
+    if (isOwn && faultCounter.failsNext())
         return nullptr;
     void* const block = std::malloc(sizeof(CBlockHeader) + size);
     if (!block)
@@ -136,41 +135,6 @@ void release(void* memory) noexcept
 }
 
 } // namespace
-
-CAllocationFaults::CAllocationFaults(FaultPattern pattern, long failing)
-{
-    counter.restart(pattern, failing);
-}
-
-CAllocationFaults::~CAllocationFaults()
-{
-    pause();
-}
-
-void CAllocationFaults::resume()
-{
-    counter.isCounting = true;
-}
-
-void CAllocationFaults::pause()
-{
-    counter.isCounting = false;
-}
-
-void CAllocationFaults::end()
-{
-    counter.failing = 0;
-}
-
-long CAllocationFaults::count()
-{
-    return counter.counted;
-}
-
-bool CAllocationFaults::hasFailed()
-{
-    return counter.hasFailed;
-}
 
 long CAllocationFaults::liveCount()
 {
