@@ -89,8 +89,9 @@ public:
     /// The bytes stay owned by this object: do not free them. They live until the next export,
     /// freePixmap() or the destructor. A picture that cannot be made gives a non-null pointer with
     /// *size 0: a width or height below 1 or above 1,000,000, more than 2^31 - 1 bytes at four
-    /// bytes a pixel, no memory for the picture, or no offscreen platform plugin of Qt on the
-    /// machine.
+    /// bytes a pixel, no memory for the picture, no offscreen platform plugin of Qt on the machine,
+    /// or a process that is ending. Exit handlers registered after the first picture may still
+    /// draw; older ones, and the destructors of static objects, come too late.
     ///
     /// @param width, height  picture size in pixels
     /// @param data           receives the first byte; not null

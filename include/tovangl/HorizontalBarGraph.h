@@ -38,8 +38,8 @@ public:
     ///
     /// @param x  distance of the vertical axis line from the picture's left edge, in pixels before
     ///           the print factor
-    /// @param y  distance of the horizontal axis line from the top edge, likewise; a negative or
-    ///           too large value leaves that line where the layout puts it
+    /// @param y  distance of the horizontal axis line from the top edge, likewise. A negative or
+    ///           too large x or y leaves that line where the layout puts it
     void setPosition(int x, int y);
 
     /// Sets the width of every bar.

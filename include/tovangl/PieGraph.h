@@ -25,11 +25,10 @@ public:
     /// The bits of setProperty().
     enum Property
     {
-        BoldLabels = 0x08,      ///< labels in bold type
-        ShortenFromLeft = 0x40, ///< long captions lose their beginning, not their end
-        RemoveLabelOverlaps =
-            0x80, ///< colliding labels are moved apart, and hidden where they cannot all fit
-        ShowSizes = 0x100, ///< labels end in the value as a size in bytes, such as [1.5 KB]
+        BoldLabels = 0x08,          ///< labels in bold type
+        ShortenFromLeft = 0x40,     ///< long captions lose their beginning, not their end
+        RemoveLabelOverlaps = 0x80, ///< colliding labels are moved apart, surplus ones hidden
+        ShowSizes = 0x100,          ///< labels end in the value as a size in bytes: [1.5 KB]
         DefaultProperties = RemoveLabelOverlaps | ShowSizes
     };
 

@@ -22,9 +22,8 @@ struct Slice
     double y;      ///< top edge of the pie
     double width;  ///< width of the pie
     double height; ///< height of the pie
-    double
-        start;   ///< degrees counter-clockwise from three o'clock, from 0 up to, not including, 360
-    double span; ///< degrees counter-clockwise, above 0 and up to 360
+    double start;  ///< degrees counter-clockwise from three o'clock, at least 0 and below 360
+    double span;   ///< degrees counter-clockwise, above 0 and up to 360
 };
 
 /// The outline of a slice, for an image map.

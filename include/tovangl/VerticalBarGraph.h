@@ -39,8 +39,9 @@ public:
     ///
     /// @param x  distance of the vertical axis line from the picture's left edge, in pixels before
     ///           the print factor
-    /// @param y  distance of the horizontal axis line from the top edge, likewise; a negative or
-    ///           too large value leaves that line where the layout puts it
+    /// @param y  distance from the top edge of the row above the horizontal axis line, likewise:
+    ///           the line of one pixel stands in row y + 1. A negative or too large x or y leaves
+    ///           that line where the layout puts it
     void setPosition(int x, int y);
 
     /// Sets the width of every bar.

@@ -76,8 +76,8 @@ public:
     /// An invalid colour leaves the texts black.
     void setTextColor(const QColor& color) { m_textColor = color; }
     [[nodiscard]] const QColor& textColor() const { return m_textColor; }
-    /// @param width  pixels before scaling; 0 or less lets the bars share the axis, and is kept as
-    /// 0
+    /// @param width  pixels before scaling; 0 lets the bars share the axis, and a negative number
+    ///               is kept as 0
     void setBarWidth(int width);
     [[nodiscard]] int barWidth() const { return m_barWidth; }
 

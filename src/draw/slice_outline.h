@@ -21,8 +21,7 @@ inline constexpr double kOutlineError = 0.25;
 ///
 /// @param ellipse      its bounding box
 /// @param start, span  degrees counter-clockwise from three o'clock; a negative span runs
-/// clockwise,
-///                     and one beyond a full turn is a full turn
+///                     clockwise, and one beyond a full turn is a full turn
 [[nodiscard]] std::vector<QPointF> outlineSlice(const QRectF& ellipse, double start, double span);
 
 } // namespace cdraw
