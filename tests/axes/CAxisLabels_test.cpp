@@ -173,6 +173,11 @@ struct CTitleStart
     int along; // on an axis of 100 by 100 pixels
 };
 
+void PrintTo(const CTitleStart& start, std::ostream* stream)
+{
+    *stream << nameOf(start.orientation);
+}
+
 class TitleStartTable : public CAxisPicture, public ::testing::WithParamInterface<CTitleStart>
 {};
 

@@ -22,6 +22,11 @@ struct CGeometry
     CAxis::LegendLocation defaultLocation;
 };
 
+void PrintTo(const CGeometry& geometry, std::ostream* stream)
+{
+    *stream << nameOf(geometry.orientation);
+}
+
 class OrientationTable : public ::testing::TestWithParam<CGeometry>
 {};
 
@@ -238,6 +243,11 @@ struct CStart
     QPoint start; // in the rectangle from (10, 20) to (109, 219)
 };
 
+void PrintTo(const CStart& start, std::ostream* stream)
+{
+    *stream << nameOf(start.orientation) << ' ' << nameOf(start.location);
+}
+
 class StartTable : public ::testing::TestWithParam<CStart>
 {};
 
@@ -297,6 +307,12 @@ struct CShifts
     int toLabels;
     int toTitle; // title 14 pixels high
 };
+
+void PrintTo(const CShifts& shifts, std::ostream* stream)
+{
+    *stream << nameOf(shifts.orientation) << ' ' << nameOf(shifts.location) << ' ' << shifts.labels
+            << " labels";
+}
 
 class ShiftTable : public CAxisPicture, public ::testing::WithParamInterface<CShifts>
 {};

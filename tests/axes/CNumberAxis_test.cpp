@@ -77,6 +77,12 @@ struct CExample
     std::vector<int> ticks; // of all labels, on 399 pixels
 };
 
+void PrintTo(const CExample& example, std::ostream* stream)
+{
+    *stream << example.least << " to " << example.greatest
+            << (example.kilo == CGlobal::Base1024 ? " base 1024" : " base 1000");
+}
+
 class NumberAxisExamples : public CAxisPicture, public ::testing::WithParamInterface<CExample>
 {};
 

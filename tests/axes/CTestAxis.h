@@ -16,6 +16,18 @@
 
 namespace tovangl {
 
+[[nodiscard]] inline const char* nameOf(CAxis::Orientation orientation)
+{
+    constexpr const char* kNames[] = {"LeftToRight", "RightToLeft", "BottomToTop", "TopToBottom"};
+    return kNames[orientation];
+}
+
+[[nodiscard]] inline const char* nameOf(CAxis::LegendLocation location)
+{
+    constexpr const char* kNames[] = {"Top", "Bottom", "Left", "Right"};
+    return kNames[location];
+}
+
 /// A label that says it has a certain size.
 class CSizedLabel : public CBarTextLabel
 {

@@ -13,6 +13,11 @@ struct CShare
     int bottomOrRight;
 };
 
+void PrintTo(const CShare& share, std::ostream* stream)
+{
+    *stream << share.lineWidth;
+}
+
 class LineShareTable : public ::testing::TestWithParam<CShare>
 {};
 

@@ -18,6 +18,11 @@ struct CMapping
     int coord;
 };
 
+void PrintTo(const CMapping& mapping, std::ostream* stream)
+{
+    *stream << mapping.value << " on " << mapping.scale.min << " to " << mapping.scale.max;
+}
+
 class ValueScaleTable : public ::testing::TestWithParam<CMapping>
 {};
 

@@ -16,6 +16,11 @@ struct CArcCase
     int normalized;
 };
 
+void PrintTo(const CArcCase& arc, std::ostream* stream)
+{
+    *stream << arc.angle;
+}
+
 class NormalizeArc : public ::testing::TestWithParam<CArcCase>
 {};
 

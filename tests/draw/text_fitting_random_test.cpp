@@ -206,6 +206,11 @@ struct CFontCase
     bool isBold;
 };
 
+void PrintTo(const CFontCase& font, std::ostream* stream)
+{
+    *stream << font.family << ' ' << font.pixelSize << (font.isBold ? " bold" : "");
+}
+
 class FitTextOverThePainter : public ::testing::TestWithParam<CFontCase>
 {
 protected:

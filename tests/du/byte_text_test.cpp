@@ -33,6 +33,11 @@ struct BytesCase
     const char* text;
 };
 
+void PrintTo(const BytesCase& bytesCase, std::ostream* stream)
+{
+    *stream << bytesCase.bytes;
+}
+
 class FormatBytes : public ::testing::TestWithParam<BytesCase>
 {};
 

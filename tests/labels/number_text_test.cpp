@@ -36,6 +36,11 @@ struct CWorkedNumber
     const char* oneDecimal1000;
 };
 
+void PrintTo(const CWorkedNumber& number, std::ostream* stream)
+{
+    *stream << number.value;
+}
+
 class WorkedNumber : public ::testing::TestWithParam<CWorkedNumber>
 {};
 

@@ -85,6 +85,11 @@ struct PropertyCase
     int properties;
 };
 
+void PrintTo(const PropertyCase& property, std::ostream* stream)
+{
+    *stream << property.text;
+}
+
 class AxisPropertyNames : public ::testing::TestWithParam<PropertyCase>
 {};
 
