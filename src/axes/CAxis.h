@@ -193,6 +193,12 @@ protected:
     /// Half of it, with the sign of the axis's direction.
     [[nodiscard]] int halfLabelSigned() const;
     [[nodiscard]] QPoint originOnPicture() const;
+    /// Puts the labels at their ticks, the visible ones in two rows by turns. Hidden ones stay in
+    /// the first row.
+    ///
+    /// @param ticks      along the axis, one for each label
+    /// @param secondRow  pixels across the axis from the first row; 0 makes it the same one
+    void placeInRows(const std::vector<int>& ticks, bool isRotated, int secondRow);
 
     std::vector<CBarTextLabel*> m_labels; // owned, in axis order
 

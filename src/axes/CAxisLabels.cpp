@@ -100,6 +100,21 @@ bool CAxis::checkRealDistance(int step) const
     return labelExtentAlong() <= std::abs(first - m_labels[index]->tickCoord());
 }
 
+void CAxis::placeInRows(const std::vector<int>& ticks, bool isRotated, int secondRow)
+{
+    bool isInFirstRow = true;
+    auto tick = ticks.begin();
+    for (CBarTextLabel* label : m_labels) {
+        const int across = label->isHidden() || isInFirstRow ? 0 : secondRow;
+        label->setTickCoord(*tick);
+        label->setOrientedPos(COrientedCoord(*tick, across));
+        label->setRotated(isRotated);
+        if (!label->isHidden())
+            isInFirstRow = !isInFirstRow;
+        ++tick;
+    }
+}
+
 void CAxis::clearLabels()
 {
     qDeleteAll(m_labels);

@@ -35,13 +35,7 @@ void CCategoryAxis::initAfterAxisLength()
 
 void CCategoryAxis::placeAcrossLabels()
 {
-    const double distance = pitch();
-    int index = 0;
-    for (CBarTextLabel* label : m_labels) {
-        label->setTickCoord(truncateToInt(index++ * distance));
-        label->setRotated(isHorizontal());
-        label->setOrientedPos(COrientedCoord(label->tickCoord(), 0));
-    }
+    placeInRows(ticksApart(pitch()), isHorizontal(), 0);
 }
 
 void CCategoryAxis::placeAlongLabels()
@@ -49,16 +43,7 @@ void CCategoryAxis::placeAlongLabels()
     const double distance = labelDirection() == Across ? 0.0 : pitch();
     // Deliberate: the second row has a negative offset here and a positive one on a value axis.
     const int secondRow = labelDirection() == AlongTwoRows ? -getElementHeight(SecondRowOffset) : 0;
-    bool isInFirstRow = true;
-    int index = 0;
-    for (CBarTextLabel* label : m_labels) {
-        label->setTickCoord(truncateToInt(index++ * distance));
-        label->setRotated(!isHorizontal());
-        const bool isShifted = !label->isHidden() && !isInFirstRow;
-        label->setOrientedPos(COrientedCoord(label->tickCoord(), isShifted ? secondRow : 0));
-        if (!label->isHidden())
-            isInFirstRow = !isInFirstRow;
-    }
+    placeInRows(ticksApart(distance), !isHorizontal(), secondRow);
 }
 
 int CCategoryAxis::labelShiftAtBegin() const
@@ -128,6 +113,16 @@ std::int64_t CCategoryAxis::coveredLength() const
 double CCategoryAxis::pitch() const
 {
     return categoryPitch(usableSpan(), categories());
+}
+
+// Where the categories stand, from the first one on.
+std::vector<int> CCategoryAxis::ticksApart(double distance) const
+{
+    std::vector<int> ticks;
+    ticks.reserve(m_labels.size());
+    for (std::size_t i = 0; i < m_labels.size(); ++i)
+        ticks.push_back(truncateToInt(static_cast<double>(i) * distance));
+    return ticks;
 }
 
 // Bars and value labels start at the axis line, whatever stands on the other side of it.

@@ -56,6 +56,7 @@ private:
     [[nodiscard]] std::int64_t categories() const;
     [[nodiscard]] std::int64_t coveredLength() const;
     [[nodiscard]] double pitch() const;
+    [[nodiscard]] std::vector<int> ticksApart(double distance) const;
     [[nodiscard]] CBarOrigins barOrigins() const;
     [[nodiscard]] QRect barRect(const CBarTextLabel& label, const CNumberAxis& valueAxis,
                                 int valueCoord, const QPoint& origin) const;

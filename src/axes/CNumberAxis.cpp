@@ -14,29 +14,14 @@ CNumberAxis::~CNumberAxis() = default;
 
 void CNumberAxis::placeAcrossLabels()
 {
-    const CValueScale scale = valueScale();
-    for (CBarTextLabel* label : m_labels) {
-        label->setTickCoord(scale.coord(label->getValue()));
-        label->setRotated(isHorizontal());
-        label->setOrientedPos(COrientedCoord(label->tickCoord(), 0));
-    }
+    placeInRows(valueTicks(), isHorizontal(), 0);
 }
 
 void CNumberAxis::placeAlongLabels()
 {
-    const CValueScale scale = valueScale();
+    // Deliberate: the second row has a positive offset here and a negative one on a category axis.
     const int secondRow = labelDirection() == AlongTwoRows ? getElementHeight(SecondRowOffset) : 0;
-    bool isInFirstRow = true;
-    for (CBarTextLabel* label : m_labels) {
-        label->setTickCoord(scale.coord(label->getValue()));
-        label->setRotated(!isHorizontal());
-        // Deliberate: the second row has a positive offset here and a negative one on a category
-        // axis.
-        const bool isShifted = !label->isHidden() && !isInFirstRow;
-        label->setOrientedPos(COrientedCoord(label->tickCoord(), isShifted ? secondRow : 0));
-        if (!label->isHidden())
-            isInFirstRow = !isInFirstRow;
-    }
+    placeInRows(valueTicks(), !isHorizontal(), secondRow);
 }
 
 int CNumberAxis::labelShiftAtBegin() const
@@ -150,6 +135,16 @@ CTickRules CNumberAxis::tickRules() const
 {
     return {properties().testFlag(ShowLabels), properties().testFlag(UnitPrefixes),
             properties().testFlag(ShiftLastLabel)};
+}
+
+std::vector<int> CNumberAxis::valueTicks() const
+{
+    const CValueScale scale = valueScale();
+    std::vector<int> ticks;
+    ticks.reserve(m_labels.size());
+    for (const CBarTextLabel* label : m_labels)
+        ticks.push_back(scale.coord(label->getValue()));
+    return ticks;
 }
 
 CValueScale CNumberAxis::valueScale() const

@@ -60,6 +60,8 @@ private:
     void appendTick(const CTick& tick);
     [[nodiscard]] CTickRules tickRules() const;
     [[nodiscard]] CValueScale valueScale() const;
+    /// Where the labels' values stand, in pixels from the axis start.
+    [[nodiscard]] std::vector<int> valueTicks() const;
 
     long long m_scaleMin = 0;
     long long m_scaleMax = 0;
