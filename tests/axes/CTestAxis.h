@@ -6,8 +6,8 @@
 
 #include "axes/CAxis.h"
 #include "labels/CBarTextLabel.h"
+#include "support/chart_font.h"
 
-#include <QFont>
 #include <QImage>
 #include <QLocale>
 #include <QPainter>
@@ -110,10 +110,7 @@ protected:
     {
         image.fill(kWhite);
         painter.begin(&image);
-        QFont font(QString("Tahoma"));
-        font.setPixelSize(11);
-        font.setStyleStrategy(QFont::NoAntialias);
-        painter.setFont(font);
+        painter.setFont(chartFont("Tahoma", 11));
     }
 
     static constexpr QRgb kWhite = 0xffffffff;

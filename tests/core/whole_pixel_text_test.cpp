@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Whole-pixel texts held against the painter of a Qt that rounds by itself.
 #include "core/whole_pixel_text.h"
+#include "support/chart_font.h"
 
 #include <QFont>
 #include <QImage>
@@ -92,11 +93,9 @@ public:
 
     QFont font()
     {
-        QFont font(QString(from(0, 1) ? "Tahoma" : "DejaVu Sans"));
-        font.setPixelSize(from(5, 40));
-        font.setBold(from(0, 3) == 0);
-        font.setStyleStrategy(QFont::NoAntialias);
-        return font;
+        const char* const family = from(0, 1) ? "Tahoma" : "DejaVu Sans";
+        const int pixelSize = from(5, 40);
+        return chartFont(family, pixelSize, from(0, 3) == 0);
     }
 
     QString text(const Alphabet& pieces, int mostPieces)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What fitting a huge text costs, counted in characters that are measured.
 #include "draw/text_fitting.h"
+#include "support/chart_font.h"
 
-#include <QFont>
 #include <QImage>
 #include <QPainter>
 
@@ -37,13 +37,7 @@ QString hugeText(const CHugeCase& huge)
 class HugeText : public ::testing::TestWithParam<CHugeCase>
 {
 protected:
-    HugeText()
-    {
-        QFont font(QString("DejaVu Sans"));
-        font.setPixelSize(12);
-        font.setStyleStrategy(QFont::NoAntialias);
-        m_painter.setFont(font);
-    }
+    HugeText() { m_painter.setFont(chartFont("DejaVu Sans", 12)); }
 
     double measure(const QString& text)
     {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The fast text fitting held against the plain one, on seeded random texts.
 #include "draw/plain_text_fitting.h"
+#include "support/chart_font.h"
 
-#include <QFont>
 #include <QImage>
 #include <QPainter>
 
@@ -216,11 +216,7 @@ class FitTextOverThePainter : public ::testing::TestWithParam<CFontCase>
 protected:
     FitTextOverThePainter()
     {
-        QFont font(QString::fromLatin1(GetParam().family));
-        font.setPixelSize(GetParam().pixelSize);
-        font.setBold(GetParam().isBold);
-        font.setStyleStrategy(QFont::NoAntialias);
-        m_painter.setFont(font);
+        m_painter.setFont(chartFont(GetParam().family, GetParam().pixelSize, GetParam().isBold));
     }
 
     void compareTexts(const Alphabet& alphabet, int mostPieces)

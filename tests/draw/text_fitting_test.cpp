@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "draw/text_fitting.h"
+#include "support/chart_font.h"
 
-#include <QFont>
 #include <QImage>
 #include <QPainter>
 
@@ -169,13 +169,7 @@ TEST(FitText, AnInfiniteWidthFitsEverything)
 class ShortenText : public ::testing::Test
 {
 protected:
-    ShortenText()
-    {
-        QFont font(QString("DejaVu Sans"));
-        font.setPixelSize(12);
-        font.setStyleStrategy(QFont::NoAntialias);
-        m_painter.setFont(font);
-    }
+    ShortenText() { m_painter.setFont(chartFont("DejaVu Sans", 12)); }
 
     double widthOf(const QString& text)
     {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What a label puts on the picture.
 #include "labels/CTextLabel.h"
+#include "support/chart_font.h"
 
-#include <QFont>
 #include <QImage>
 #include <QLocale>
 #include <QPainter>
@@ -21,20 +21,12 @@ const QLocale kLocale(QLocale::English, QLocale::UnitedStates);
 using PixelLabel = CTextLabel<QPoint, QRect>;
 using PieLabel = CTextLabel<QPointF, QRectF>;
 
-QFont testFont()
-{
-    QFont font(QString("DejaVu Sans"));
-    font.setPixelSize(12);
-    font.setStyleStrategy(QFont::NoAntialias);
-    return font;
-}
-
 QImage painted(const std::function<void(QPainter&)>& paint)
 {
     QImage image(120, 120, QImage::Format_ARGB32);
     image.fill(kWhite);
     QPainter painter(&image);
-    painter.setFont(testFont());
+    painter.setFont(chartFont("DejaVu Sans", 12));
     paint(painter);
     return image;
 }

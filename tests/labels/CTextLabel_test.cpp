@@ -4,8 +4,8 @@
 #include "core/qt_versions.h"
 #include "draw/CPainterSaver.h"
 #include "labels/CTextLabel.h"
+#include "support/chart_font.h"
 
-#include <QFont>
 #include <QImage>
 #include <QLocale>
 #include <QPainter>
@@ -33,13 +33,7 @@ using PieLabel = CLabel<QPointF, QRectF>;
 class TextLabel : public ::testing::Test
 {
 protected:
-    TextLabel()
-    {
-        QFont font(QString("DejaVu Sans"));
-        font.setPixelSize(12);
-        font.setStyleStrategy(QFont::NoAntialias);
-        m_painter.setFont(font);
-    }
+    TextLabel() { m_painter.setFont(chartFont("DejaVu Sans", 12)); }
 
     template <typename Label, typename R>
     QRect recorded(const R& rect, bool rotated)

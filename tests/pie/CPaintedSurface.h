@@ -4,8 +4,9 @@
 #ifndef TOVANGL_PIE_CPAINTEDSURFACE_H
 #define TOVANGL_PIE_CPAINTEDSURFACE_H
 
+#include "support/chart_font.h"
+
 #include <QColor>
-#include <QFont>
 #include <QImage>
 #include <QPainter>
 
@@ -23,10 +24,7 @@ public:
         m_image.fill(0xffffffff);
         m_painter.begin(&m_image);
         m_painter.translate(kHalf, kHalf);
-        QFont font(QString(QLatin1String("DejaVu Sans")));
-        font.setPixelSize(11);
-        font.setStyleStrategy(QFont::NoAntialias);
-        m_painter.setFont(font);
+        m_painter.setFont(chartFont("DejaVu Sans", 11));
     }
 
     QPainter& painter() { return m_painter; }
