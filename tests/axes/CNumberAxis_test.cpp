@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "axes/CNumberAxis.h"
-#include "axes/CTestAxis.h"
+#include "axes/CScaleAxis.h"
 #include "axes/kilo_guard.h"
 
 #include <gmock/gmock.h>
@@ -17,54 +16,6 @@ using ::testing::SizeIs;
 
 constexpr long long kGreatest = std::numeric_limits<long long>::max();
 constexpr long long kLeast = std::numeric_limits<long long>::min();
-const CAxis::Properties kLineAndLabels = CAxis::ShowLine | CAxis::ShowLabels;
-
-// A value axis with its scale, from the left or from the bottom.
-struct CScaleAxis : CNumberAxis
-{
-    explicit CScaleAxis(long long least, long long greatest,
-                        CAxis::Properties properties = kLineAndLabels, int endShift = 0,
-                        CAxis::Orientation orientation = CAxis::LeftToRight)
-        : CNumberAxis(orientation, CAxis::Top, properties, &CTestAxis::locale(), QString())
-    {
-        setNumbers(least, greatest, false, endShift);
-    }
-
-    // Fits the axis so that its length is a number of pixels, and it is thick enough for all.
-    void fit(QPainter& painter, int length)
-    {
-        fitToRect(painter,
-                  isHorizontal() ? QRect(0, 0, length + 1, 100) : QRect(0, 0, 100, length + 1));
-    }
-    [[nodiscard]] std::vector<long long> values() const
-    {
-        std::vector<long long> result;
-        for (const CBarTextLabel* label : labels())
-            result.push_back(label->getValue());
-        return result;
-    }
-    [[nodiscard]] std::vector<std::string> texts() const
-    {
-        std::vector<std::string> result;
-        for (const CBarTextLabel* label : labels())
-            result.push_back(label->getText().toStdString());
-        return result;
-    }
-    [[nodiscard]] std::vector<bool> hidden() const
-    {
-        std::vector<bool> result;
-        for (const CBarTextLabel* label : labels())
-            result.push_back(label->isHidden());
-        return result;
-    }
-    [[nodiscard]] std::vector<int> ticks() const
-    {
-        std::vector<int> result;
-        for (const CBarTextLabel* label : labels())
-            result.push_back(label->tickCoord());
-        return result;
-    }
-};
 
 using CNumberAxisTest = CAxisPicture;
 
@@ -339,91 +290,6 @@ TEST_F(CNumberAxisTest, HasRoomForBarsWhileItsSpanIsPositive)
     EXPECT_TRUE(axis.canDrawBarLabel());
     axis.fit(painter, 50);
     EXPECT_FALSE(axis.canDrawBarLabel());
-}
-
-// --- grid lines
-
-const QColor kFirst(100, 0, 0);
-const QColor kLast(200, 0, 0);
-
-// The colour of the left-most pixel of every row that holds a line.
-struct CGridLine
-{
-    int row;
-    int red;
-    bool operator==(const CGridLine& other) const { return row == other.row && red == other.red; }
-};
-
-std::vector<CGridLine> gridLines(const QImage& image, int column)
-{
-    std::vector<CGridLine> lines;
-    for (int y = 0; y < image.height(); ++y) {
-        if (qGreen(image.pixel(column, y)) == 0)
-            lines.push_back({y, qRed(image.pixel(column, y))});
-    }
-    return lines;
-}
-
-TEST_F(CNumberAxisTest, GridLinesStandAtTheVisibleTicksAndNeverReachTheLastColour)
-{
-    CScaleAxis axis(0, 37, kLineAndLabels, 0, CAxis::BottomToTop);
-    axis.fitToRect(painter, QRect(10, 0, 50, 201));
-    axis.drawLabelLines(painter, 100, kFirst, kLast);
-    // From the top: 40, 30, 20 and 10 at quarters of the colours' way; zero is hidden.
-    EXPECT_THAT(gridLines(image, 100), ElementsAre(CGridLine{0, 175}, CGridLine{50, 150},
-                                                   CGridLine{100, 125}, CGridLine{150, 100}));
-}
-
-TEST_F(CNumberAxisTest, GridLinesOfMixedDataReachTheLastColour)
-{
-    CScaleAxis axis(-10, 10, kLineAndLabels, 0, CAxis::BottomToTop);
-    axis.fitToRect(painter, QRect(10, 0, 50, 201));
-    axis.drawLabelLines(painter, 100, kFirst, kLast);
-    const std::vector<CGridLine> lines = gridLines(image, 100);
-    EXPECT_EQ(lines.size(), axis.labels().size());
-    EXPECT_EQ(lines.front().red, 200);
-    EXPECT_EQ(lines.back().red, 100);
-}
-
-TEST_F(CNumberAxisTest, GridLinesStartOnePixelOffTheAxis)
-{
-    CScaleAxis axis(0, 37, kLineAndLabels, 0, CAxis::BottomToTop);
-    axis.fitToRect(painter, QRect(10, 0, 50, 201));
-    axis.drawLabelLines(painter, 100, kFirst, kFirst);
-    const QRect lines = extentOf(kFirst.rgb());
-    // The axis line stands at 59.
-    EXPECT_EQ(lines.left(), 60);
-    EXPECT_EQ(lines.right(), 159);
-}
-
-TEST_F(CNumberAxisTest, GridLinesOfAHorizontalAxisRunDownFromIt)
-{
-    CScaleAxis axis(0, 37);
-    axis.fitToRect(painter, QRect(10, 0, 201, 40));
-    axis.drawLabelLines(painter, 100, kFirst, kFirst);
-    const QRect lines = extentOf(kFirst.rgb());
-    EXPECT_EQ(lines, QRect(QPoint(60, 40), QPoint(210, 139)));
-}
-
-TEST_F(CNumberAxisTest, GridLinesAreAsWideAsTheAxisLine)
-{
-    CScaleAxis axis(0, 37, kLineAndLabels, 0, CAxis::BottomToTop);
-    axis.setLineWidth(3);
-    axis.fitToRect(painter, QRect(10, 0, 50, 201));
-    axis.drawLabelLines(painter, 100, kFirst, kLast);
-    EXPECT_EQ(gridLines(image, 100).size(), 2U + 3U + 3U + 3U);
-}
-
-TEST_F(CNumberAxisTest, NoGridLinesWithoutLengthOrWithOneLabel)
-{
-    CScaleAxis axis(0, 37, kLineAndLabels, 0, CAxis::BottomToTop);
-    axis.fitToRect(painter, QRect(10, 0, 50, 201));
-    axis.drawLabelLines(painter, -1, kFirst, kLast);
-    CScaleAxis alone(0, kGreatest, kLineAndLabels, 0, CAxis::BottomToTop);
-    alone.fitToRect(painter, QRect(10, 0, 50, 201));
-    alone.drawLabelLines(painter, 100, kFirst, kLast);
-    EXPECT_EQ(extentOf(kWhite), image.rect());
-    EXPECT_TRUE(gridLines(image, 100).empty());
 }
 
 } // namespace
