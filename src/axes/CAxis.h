@@ -109,6 +109,8 @@ public:
     [[nodiscard]] virtual bool isGraphEmpty() const;
     /// A place for a listing of the labels while debugging; it does nothing.
     virtual void debugLabels() const;
+    /// A place for layout aids while debugging; it paints nothing.
+    void debugDraw(QPainter&) const {}
 
     void initLabelDirection();
     /// The sum of the elements' extents across the axis, in pixels.
