@@ -15,6 +15,11 @@ struct Utf8Case
     std::size_t broken;
 };
 
+void PrintTo(const Utf8Case& utf8, std::ostream* stream)
+{
+    *stream << utf8.name;
+}
+
 class Utf8 : public ::testing::TestWithParam<Utf8Case>
 {};
 

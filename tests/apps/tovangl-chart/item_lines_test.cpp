@@ -112,6 +112,11 @@ struct BadLine
     const char* reason;
 };
 
+void PrintTo(const BadLine& line, std::ostream* stream)
+{
+    *stream << line.name;
+}
+
 class BadItemLines : public ::testing::TestWithParam<BadLine>
 {};
 

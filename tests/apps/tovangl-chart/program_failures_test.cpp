@@ -39,6 +39,11 @@ struct FailingCommand
     const char* message;
 };
 
+void PrintTo(const FailingCommand& command, std::ostream* stream)
+{
+    *stream << command.name;
+}
+
 class Failure : public ::testing::TestWithParam<FailingCommand>
 {};
 
