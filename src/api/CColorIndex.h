@@ -52,7 +52,9 @@ public:
     }
 
 private:
-    static constexpr std::size_t kSlots = 1024;
+    static constexpr unsigned kHashBits = 10;
+    static constexpr std::size_t kSlots = 1U << kHashBits;
+    static_assert(kSlots == 4 * kMaxColors);
     static constexpr std::int16_t kFree = kFull;
 
     struct CSlot
@@ -61,8 +63,14 @@ private:
         std::int16_t number = kFree;
     };
 
-    // Multiplicative hashing by the golden ratio (Knuth, The Art of Computer Programming, 6.4).
-    [[nodiscard]] static std::size_t hash(QRgb color) { return (color * 2654435769U) >> 22U; }
+    // Multiplicative hashing by the golden ratio (Knuth, The Art of Computer Programming, 6.4): the
+    // upper bits of the product.
+    [[nodiscard]] static std::size_t hash(QRgb color)
+    {
+        constexpr unsigned kGoldenRatio = 2654435769U; // 2^32 times its inverse
+        constexpr unsigned kColorBits = 32;
+        return (color * kGoldenRatio) >> (kColorBits - kHashBits);
+    }
 
     // The colour's slot, or the free one where it belongs.
     [[nodiscard]] std::size_t findSlot(QRgb color) const

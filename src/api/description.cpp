@@ -16,13 +16,16 @@ namespace tovangl {
 namespace {
 
 constexpr int kLongestCaption = 256; // characters
+constexpr ushort kEllipsis = 0x2026;
+constexpr ushort kOpeningQuote = 0x201c;
+constexpr ushort kClosingQuote = 0x201d;
 
 QString shortened(const QString& caption)
 {
     if (caption.size() <= kLongestCaption)
         return caption;
     const bool isPairCut = caption.at(kLongestCaption - 1).isHighSurrogate();
-    return caption.left(isPairCut ? kLongestCaption - 1 : kLongestCaption) + QChar(0x2026);
+    return caption.left(isPairCut ? kLongestCaption - 1 : kLongestCaption) + QChar(kEllipsis);
 }
 
 // One line without control characters.
@@ -46,7 +49,7 @@ QString mention(const CGraph1dItem& item, const QLocale& locale)
     const QString caption = readable(shortened(item.text()));
     if (caption.isEmpty())
         return number;
-    return QChar(0x201c) + caption + QChar(0x201d) + QLatin1String(" with ") + number;
+    return QChar(kOpeningQuote) + caption + QChar(kClosingQuote) + QLatin1String(" with ") + number;
 }
 
 // Of several items with the greatest value the first is told, of the least ones the last.

@@ -13,7 +13,6 @@ namespace tovangl {
 
 namespace {
 
-constexpr double kUnitsPerDegree = 16;
 constexpr Slice kNoSlice = {0, 0, 0, 0, 0, 0};
 
 // The angle at which a slice begins when it is followed counter-clockwise, in [0, full circle).
@@ -24,14 +23,19 @@ int counterClockwiseStart(const CPieBaseItem& item)
     return rest < 0 ? rest + cdraw::kFullCircle : rest;
 }
 
+double inDegrees(int angle)
+{
+    return angle / double{cdraw::kUnitsPerDegree};
+}
+
 Slice toSlice(const CPieBaseItem& item, const QRectF& pie)
 {
     return Slice{pie.x(),
                  pie.y(),
                  pie.width(),
                  pie.height(),
-                 counterClockwiseStart(item) / kUnitsPerDegree,
-                 std::abs(item.spanAngle()) / kUnitsPerDegree};
+                 inDegrees(counterClockwiseStart(item)),
+                 inDegrees(std::abs(item.spanAngle()))};
 }
 
 } // namespace

@@ -9,8 +9,9 @@ class QPointF;
 namespace tovangl {
 namespace cdraw {
 
-/// Sixteenths of a degree, the unit of arc angles.
-inline constexpr int kFullCircle = 360 * 16;
+/// Arc angles are in sixteenths of a degree.
+inline constexpr int kUnitsPerDegree = 16;
+inline constexpr int kFullCircle = 360 * kUnitsPerDegree;
 inline constexpr int kHalfCircle = kFullCircle / 2;
 inline constexpr int kQuarterCircle = kFullCircle / 4;
 static_assert(kFullCircle == 5760);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The pie chart: everything about it that has a place.
 #include "core/pixel_arithmetic.h"
+#include "draw/circle_geometry.h"
 #include "pie/CPieGraph.h"
 #include "pie/CPieTextLabel.h"
 #include "pie/CZoneArranger.h"
@@ -17,7 +18,6 @@ namespace tovangl {
 
 namespace {
 
-constexpr int kUnitsPerDegree = 16;
 constexpr int kCounterClockwise = 1;
 
 QRectF placedRect(const CPieTextLabel& label)
@@ -50,7 +50,8 @@ void CPieGraph::initSliceAngles()
     for (const CPieBaseItem* item : m_selectedItems)
         values.push_back(item->value());
 
-    const auto slices = computeSliceAngles(values, m_startAngle * kUnitsPerDegree, m_direction);
+    const auto slices =
+        computeSliceAngles(values, m_startAngle * cdraw::kUnitsPerDegree, m_direction);
     auto slice = slices.begin();
     for (CPieBaseItem* item : m_selectedItems) {
         item->setStartAngle(slice->start);

@@ -16,7 +16,6 @@ namespace tovangl {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
-constexpr int kUnitsOfHalfTurn = 16 * 180;
 
 // The text's top stands this much above the place that would centre it on its line; pixels at
 // every scale.
@@ -25,7 +24,7 @@ constexpr double kLabelRaise = 1.0;
 // Deliberate: the angle is negated, because y grows downward on the picture.
 double screenRadians(int arc)
 {
-    return -arc * kPi / kUnitsOfHalfTurn;
+    return -arc * kPi / cdraw::kHalfCircle;
 }
 
 QLatin1String unitName()
