@@ -54,7 +54,7 @@ public:
 private:
     static constexpr unsigned kHashBits = 10;
     static constexpr std::size_t kSlots = 1U << kHashBits;
-    static_assert(kSlots == 4 * kMaxColors);
+    static_assert(kSlots / 4 == kMaxColors);
     static constexpr std::int16_t kFree = kFull;
 
     struct CSlot

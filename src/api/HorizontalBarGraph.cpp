@@ -15,7 +15,8 @@ HorizontalBarGraph::HorizontalBarGraph(bool background)
 {
     auto graph = std::make_unique<CLabeledBarGraph>(background);
     auto barRectangles = std::make_unique<std::list<Rectangle>>();
-    m_itemBarRectangles = new std::list<Rectangle>;
+    auto itemBarRectangles = std::make_unique<std::list<Rectangle>>();
+    m_itemBarRectangles = itemBarRectangles.release();
     m_barRectangles = barRectangles.release();
     m_graph = graph.release();
 }

@@ -19,7 +19,8 @@ PieGraph::PieGraph(bool background)
     : m_slices(nullptr)
 {
     auto graph = std::make_unique<CPieGraph>(background);
-    m_slices = new std::list<Slice>;
+    auto slices = std::make_unique<std::list<Slice>>();
+    m_slices = slices.release();
     m_graph = graph.release();
 }
 

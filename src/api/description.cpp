@@ -45,7 +45,7 @@ QString numberOf(long long value, const QLocale& locale)
 
 QString mention(const CGraph1dItem& item, const QLocale& locale)
 {
-    const QString number = numberOf(item.value(), locale);
+    QString number = numberOf(item.value(), locale);
     const QString caption = readable(shortened(item.text()));
     if (caption.isEmpty())
         return number;

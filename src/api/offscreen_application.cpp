@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QPluginLoader>
 
+#include <algorithm>
 #include <clocale>
 #include <mutex>
 #include <pthread.h>
@@ -29,7 +30,7 @@ public:
     CLocaleKeeper()
         : m_locale(std::setlocale(LC_ALL, nullptr))
     {}
-    ~CLocaleKeeper() { std::setlocale(LC_ALL, m_locale.c_str()); }
+    ~CLocaleKeeper() { (void)std::setlocale(LC_ALL, m_locale.c_str()); }
     Q_DISABLE_COPY(CLocaleKeeper)
 
 private:
@@ -41,11 +42,9 @@ private:
 bool hasPluginsBesideExecutable()
 {
     const QDir folder = QFileInfo(QFile::symLinkTarget(QLatin1String("/proc/self/exe"))).dir();
-    for (const char* name : {"qt.conf", "qt6.conf", "platforms"}) {
-        if (folder.exists(QLatin1String(name)))
-            return true;
-    }
-    return false;
+    const auto names = {"qt.conf", "qt6.conf", "platforms"};
+    return std::any_of(names.begin(), names.end(),
+                       [&folder](const char* name) { return folder.exists(QLatin1String(name)); });
 }
 
 QStringList libraryPathsOfAnApplication()

@@ -39,11 +39,11 @@ CLineMetrics wholePixelMetrics(const QFont& font)
 // The painter's own treatment of control characters.
 QString printableText(QString text)
 {
-    for (int i = 0; i < text.size(); ++i) {
-        if (text.at(i) == QLatin1Char('\n'))
-            text[i] = QChar(QChar::LineSeparator);
-        else if (text.at(i) == QLatin1Char('\r') || text.at(i) == QLatin1Char('\t'))
-            text[i] = QLatin1Char(' ');
+    for (QChar& character : text) {
+        if (character == QLatin1Char('\n'))
+            character = QChar(QChar::LineSeparator);
+        else if (character == QLatin1Char('\r') || character == QLatin1Char('\t'))
+            character = QLatin1Char(' ');
     }
     return text;
 }

@@ -218,7 +218,7 @@ void stripWhiteSpaces(QString& text, bool fromLeft, bool fromRight)
 CFittedText fitText(const QString& text, double maxWidth, bool fromLeft, bool strip,
                     const TextMeasure& wholeMeasure)
 {
-    const CFittedText unfit{false, text};
+    CFittedText unfit{false, text};
     if (maxWidth < 0)
         return unfit;
 

@@ -105,7 +105,7 @@ bool CZoneArranger::processZonesBackward()
     return false;
 }
 
-void CZoneArranger::updateLabels(double radius)
+void CZoneArranger::updateLabels(double radius) const
 {
     for (CZone* zone : m_zones)
         updateLabel(zone, zone->block().top(m_height), radius);
@@ -113,7 +113,7 @@ void CZoneArranger::updateLabels(double radius)
 
 // Hands a block down to its labels, slot by slot. The zones that wait are kept beside, not in the
 // calls: merged zones may be nested as deep as there are labels.
-void CZoneArranger::updateLabel(CZone* zone, double top, double radius)
+void CZoneArranger::updateLabel(CZone* zone, double top, double radius) const
 {
     std::vector<std::pair<CZone*, double>> waiting{{zone, top}};
     while (!waiting.empty()) {

@@ -44,8 +44,8 @@ private:
     void reduceZones();
     bool processZonesForward();
     bool processZonesBackward();
-    void updateLabels(double radius);
-    void updateLabel(CZone* zone, double top, double radius);
+    void updateLabels(double radius) const;
+    void updateLabel(CZone* zone, double top, double radius) const;
 
     void checkAllPairs();
     [[nodiscard]] bool isOverlapAt(Zones::const_iterator upper) const;
