@@ -17,8 +17,8 @@ namespace {
 /// process, which could neither say so nor clean up.
 void ignoreWriteSignals()
 {
-    std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
 }
 
 void requirePrinted()

@@ -4,7 +4,7 @@
 
 #include "common/text_checks.h"
 
-#include <cstdio>
+#include <iostream>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -41,7 +41,7 @@ CProgressLine::CProgressLine()
 CProgressLine::~CProgressLine()
 {
     if (m_isShown)
-        std::fputs(kClearLine, stderr);
+        std::cerr << kClearLine << std::flush;
 }
 
 void CProgressLine::show(const std::function<std::string()>& text)
@@ -53,8 +53,7 @@ void CProgressLine::show(const std::function<std::string()>& text)
         return;
     m_next = now + kInterval;
     m_isShown = true;
-    std::fprintf(stderr, "%s%s", kClearLine, fitted(text()).c_str());
-    std::fflush(stderr);
+    std::cerr << kClearLine << fitted(text()) << std::flush;
 }
 
 } // namespace tovangl::program

@@ -30,7 +30,7 @@ public:
     CLocaleKeeper()
         : m_locale(std::setlocale(LC_ALL, nullptr))
     {}
-    ~CLocaleKeeper() { (void)std::setlocale(LC_ALL, m_locale.c_str()); }
+    ~CLocaleKeeper() { static_cast<void>(std::setlocale(LC_ALL, m_locale.c_str())); }
     Q_DISABLE_COPY(CLocaleKeeper)
 
 private:

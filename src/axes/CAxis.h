@@ -82,9 +82,11 @@ public:
     };
     Q_DECLARE_FLAGS(Elements, Element)
 
+    // NOLINTBEGIN(readability-identifier-naming): the enumerators, by their own names
     static constexpr LabelDirection Across = LabelDirection::Across;
     static constexpr LabelDirection Along = LabelDirection::Along;
     static constexpr LabelDirection AlongTwoRows = LabelDirection::AlongTwoRows;
+    // NOLINTEND(readability-identifier-naming)
 
     /// A location that does not suit the orientation becomes Bottom or Left.
     ///

@@ -67,7 +67,8 @@ inline void makeApplication()
     static char empty[] = "";
     static char* arguments[] = {empty, nullptr};
     constexpr bool kWithoutGui = false;
-    new QApplication(count, arguments, kWithoutGui);
+    [[maybe_unused]] static QApplication* application = nullptr; // where leak checkers find it
+    application = new QApplication(count, arguments, kWithoutGui);
 }
 #else
 inline constexpr bool kNeedsPlatformPlugin = true;
@@ -92,7 +93,8 @@ inline void makeApplication()
     static char option[] = "-platform";
     static char platform[] = "offscreen";
     static char* arguments[] = {empty, option, platform, nullptr};
-    new QGuiApplication(count, arguments);
+    [[maybe_unused]] static QGuiApplication* application = nullptr; // where leak checkers find it
+    application = new QGuiApplication(count, arguments);
 }
 #endif
 
