@@ -83,6 +83,9 @@ void fitByRule(const QString& text, const CFit& fit)
     const auto plain =
         cdraw::plainlyFitText(text, fit.width, fit.fromLeft, fit.strip, measureByRule);
     require(isSameFit(fast, plain), "the fast form of text fitting gives what the plain one gives");
+    require(cdraw::canFitText(text, fit.width, fit.fromLeft, fit.strip, measureByRule) ==
+                plain.fits,
+            "whether a text can be fitted is told as the plain form tells it");
 }
 
 void fitByPainter(const QString& text, const CFit& fit)

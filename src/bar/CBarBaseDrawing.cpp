@@ -3,6 +3,7 @@
 #include "axes/aligned_text_option.h"
 #include "bar/CBarBase.h"
 #include "core/pixel_arithmetic.h"
+#include "draw/CShortTextWidths.h"
 #include "draw/aliased_shapes.h"
 #include "draw/gradient_shapes.h"
 #include "labels/CBarTextLabel.h"
@@ -36,6 +37,7 @@ void CBarBase::initPainter(QPainter& painter) const
 
 void CBarBase::drawContents(QPainter& painter)
 {
+    const cdraw::CShortTextWidths widths;
     createAxes(painter);
     if (!computeLayout(painter))
         return;

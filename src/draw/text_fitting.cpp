@@ -2,6 +2,8 @@
 // Fits a text into a width.
 #include "draw/text_fitting.h"
 
+#include "draw/CShortTextWidths.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -28,11 +30,6 @@ constexpr int kMostMarks = 256;
 // The painter shows one of several variants of a text that holds this character: in no room, the
 // one behind the last separator.
 constexpr ushort kVariantSeparator = 0x9c;
-
-QString ellipsis()
-{
-    return QString(QLatin1String("..."));
-}
 
 // The part that is kept after a cut.
 QString keptPart(const QString& text, int length, bool fromLeft)
@@ -196,7 +193,17 @@ QString withoutExcessMarks(QString text)
     return text;
 }
 
+TextMeasure measureWith(QPainter& painter)
+{
+    return [&painter](const QString& text) { return CShortTextWidths::widthOf(text, painter); };
+}
+
 } // namespace
+
+QString ellipsis()
+{
+    return QString(QLatin1String("..."));
+}
 
 QString measuredPart(const QString& text)
 {
@@ -243,15 +250,31 @@ CFittedText fitText(const QString& text, double maxWidth, bool fromLeft, bool st
     return {true, fromLeft ? ellipsis() + part : part + ellipsis()};
 }
 
+bool canFitText(const QString& text, double maxWidth, bool fromLeft, bool strip,
+                const TextMeasure& measure)
+{
+    QString copy = text;
+    if (strip)
+        stripWhiteSpaces(copy, fromLeft, !fromLeft);
+    // The shortest cut: where it fits, so does some cut or the whole text.
+    if (maxWidth >= 0 && copy.size() > 1 &&
+        measure(keptPart(copy, 1, fromLeft)) + measureEllipsis(measure) <= maxWidth)
+        return true;
+    return fitText(text, maxWidth, fromLeft, strip, measure).fits;
+}
+
 bool shortenText(QString& text, double maxWidth, QPainter& painter, bool fromLeft, bool strip)
 {
-    const CFittedText fitted =
-        fitText(text, maxWidth, fromLeft, strip, [&painter](const QString& candidate) {
-            return painter.boundingRect(QRectF(), 0, candidate).width();
-        });
+    const CFittedText fitted = fitText(text, maxWidth, fromLeft, strip, measureWith(painter));
     if (fitted.fits)
         text = fitted.text;
     return fitted.fits;
+}
+
+bool canShortenText(const QString& text, double maxWidth, QPainter& painter, bool fromLeft,
+                    bool strip)
+{
+    return canFitText(text, maxWidth, fromLeft, strip, measureWith(painter));
 }
 
 } // namespace cdraw

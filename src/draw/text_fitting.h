@@ -34,6 +34,9 @@ struct CFittedText
 /// far wider than any picture, and the time that one takes stays bounded.
 inline constexpr int kLongestMeasuredText = 1 << 16;
 
+/// What marks a cut.
+[[nodiscard]] QString ellipsis();
+
 /// The part of a text that is measured and drawn: its first kLongestMeasuredText units, and of the
 /// combining marks on one character the first 256.
 [[nodiscard]] QString measuredPart(const QString& text);
@@ -58,8 +61,17 @@ void stripWhiteSpaces(QString& text, bool fromLeft, bool fromRight);
 [[nodiscard]] CFittedText fitText(const QString& text, double maxWidth, bool fromLeft, bool strip,
                                   const TextMeasure& measure);
 
+/// Whether fitText() would succeed. Costs the least where a text has to be cut: one character and
+/// the ellipsis tell.
+[[nodiscard]] bool canFitText(const QString& text, double maxWidth, bool fromLeft, bool strip,
+                              const TextMeasure& measure);
+
 /// fitText() over the painter's font. The text is changed only where the result is true.
 bool shortenText(QString& text, double maxWidth, QPainter& painter, bool fromLeft, bool strip);
+
+/// canFitText() over the painter's font.
+[[nodiscard]] bool canShortenText(const QString& text, double maxWidth, QPainter& painter,
+                                  bool fromLeft, bool strip);
 
 } // namespace cdraw
 } // namespace tovangl

@@ -283,8 +283,7 @@ bool CTextLabel<P, R>::canFit(double width, QPainter& painter) const
         return true;
     const CPainterSaver saver(painter);
     applyBold(painter, m_bold);
-    QString copy = getText();
-    return cdraw::shortenText(copy, width, painter, m_shortFromLeft, cdraw::kStripSpaces);
+    return cdraw::canShortenText(getText(), width, painter, m_shortFromLeft, cdraw::kStripSpaces);
 }
 
 template <typename P, typename R>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The pie chart, painted.
 #include "draw/CPainterSaver.h"
+#include "draw/CShortTextWidths.h"
 #include "draw/gradient_shapes.h"
 #include "pie/CPieGraph.h"
 #include "pie/CPieTextLabel.h"
@@ -13,6 +14,7 @@ namespace tovangl {
 void CPieGraph::drawContents(QPainter& painter)
 {
     const CPainterSaver saver(painter);
+    const cdraw::CShortTextWidths widths;
     if (!computeLayout(painter))
         return;
     drawBackground(painter);

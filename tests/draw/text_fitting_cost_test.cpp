@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QStringList>
 
 #include <gtest/gtest.h>
 
@@ -73,6 +74,18 @@ TEST_P(HugeText, CutAtTheEndMeasuresABoundedPart)
 TEST_P(HugeText, CutAtTheBeginningMeasuresABoundedPart)
 {
     fitIntoSeveralRooms(kFromLeft);
+}
+
+// A scale may have a hundred thousand numbers, of which none fits whole.
+TEST(CanFitText, MeasuresOneCharacterAndTheEllipsisWhereACutFits)
+{
+    QStringList measured;
+    const auto measure = [&measured](const QString& text) {
+        measured << text;
+        return 10.0 * text.size();
+    };
+    EXPECT_TRUE(canFitText(QString("-99,990"), 40, kFromRight, kStripSpaces, measure));
+    EXPECT_EQ(measured, QStringList({"-", "..."}));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -73,6 +73,8 @@ void compareOnce(CCases& cases, const QString& text, const TextMeasure& measure)
     const CFittedText plain = plainlyFitText(text, room, fromLeft, strip, measure);
     const CFittedText fast = fitText(text, room, fromLeft, strip, measure);
     ASSERT_EQ(fast.fits, plain.fits) << shown(text) << " into " << room;
+    ASSERT_EQ(canFitText(text, room, fromLeft, strip, measure), plain.fits)
+        << shown(text) << " into " << room;
     ASSERT_EQ(shown(fast.text), shown(plain.text)) << shown(text) << " into " << room;
 }
 

@@ -210,6 +210,16 @@ TEST_F(ShortenText, LeavesATextThatCannotFit)
     EXPECT_EQ(text, QString("Hello world "));
 }
 
+TEST_F(ShortenText, CanSucceedWhereOneCharacterAndTheEllipsisFit)
+{
+    const QString text = QString("Hello world");
+    const double room = widthOf(QString("H")) + widthOf(QString("..."));
+    EXPECT_TRUE(canShortenText(text, room, m_painter, kFromRight, kStripSpaces));
+    EXPECT_FALSE(canShortenText(text, room - 1, m_painter, kFromRight, kStripSpaces));
+    EXPECT_FALSE(canShortenText(text, -1, m_painter, kFromRight, kStripSpaces));
+    EXPECT_TRUE(canShortenText(QString(), 0, m_painter, kFromRight, kStripSpaces));
+}
+
 TEST_F(ShortenText, DropsATrailingSpaceWithoutAnEllipsis)
 {
     QString text = QString("ab ");
