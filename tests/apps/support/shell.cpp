@@ -2,7 +2,10 @@
 // Runs commands as a user types them.
 #include "apps/support/shell.h"
 
+#include <cstdlib>
+#include <fcntl.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace tovangl::program {
 
@@ -29,6 +32,14 @@ ShellResult runShell(const CTemporaryFolder& folder, const std::string& command)
                                "'\ncd '" + folder.path() + "'\n" + command + '\n';
     const int waitStatus = std::system(script.c_str());
     return {shellStatus(waitStatus), streams.read("output"), streams.read("errors")};
+}
+
+bool hasTerminals()
+{
+    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
+    if (terminal >= 0)
+        ::close(terminal);
+    return terminal >= 0;
 }
 
 } // namespace tovangl::program

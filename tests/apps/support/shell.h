@@ -23,6 +23,9 @@ struct ShellResult
 /// @param folder  where it runs
 ShellResult runShell(const CTemporaryFolder& folder, const std::string& command);
 
+/// Whether a terminal can be opened. A system's folder that is entered by chroot may have none.
+bool hasTerminals();
+
 } // namespace tovangl::program
 
 #endif
