@@ -281,9 +281,16 @@ bool CTextLabel<P, R>::canFit(double width, QPainter& painter) const
 {
     if (fitsAsMeasured(width))
         return true;
+    const auto canShorten = [&] {
+        return cdraw::canShortenText(getText(), width, painter, m_shortFromLeft,
+                                     cdraw::kStripSpaces);
+    };
+    // Saving costs more than a plain label's answer, which a scale wants for each of its numbers.
+    if (!m_bold)
+        return canShorten();
     const CPainterSaver saver(painter);
     applyBold(painter, m_bold);
-    return cdraw::canShortenText(getText(), width, painter, m_shortFromLeft, cdraw::kStripSpaces);
+    return canShorten();
 }
 
 template <typename P, typename R>
