@@ -45,15 +45,16 @@ bool isInside(const Rectangle& rectangle, std::int64_t width, std::int64_t heigh
            std::int64_t{rectangle.y} + rectangle.height <= height;
 }
 
-// The outline of a slice stays within half a pixel of the arc.
-void checkPolygon(const Slice& slice, std::int64_t width, std::int64_t height)
+// The outline of a slice stays within half a pixel of the arc. The pie itself may be wider than a
+// narrow picture.
+void checkPolygon(const Slice& slice)
 {
     constexpr double kNear = 0.5; // pixels
     for (const Point& corner : getPolygon(slice)) {
-        const bool isNear = corner.x >= -kNear && corner.y >= -kNear &&
-                            corner.x <= static_cast<double>(width) + kNear &&
-                            corner.y <= static_cast<double>(height) + kNear;
-        require(isNear, "a slice lies inside the picture");
+        const bool isNear = corner.x >= slice.x - kNear && corner.y >= slice.y - kNear &&
+                            corner.x <= slice.x + slice.width + kNear &&
+                            corner.y <= slice.y + slice.height + kNear;
+        require(isNear, "a slice lies inside the pie");
     }
 }
 
@@ -191,7 +192,7 @@ void CWatchedChart::checkRegions(std::int64_t width, std::int64_t height)
         require(isInvisible(bar) || isInside(bar, width, height),
                 "a bar that the layout has placed lies inside the picture");
     for (const Slice& slice : m_chart.slices())
-        checkPolygon(slice, width, height);
+        checkPolygon(slice);
 }
 
 } // namespace tovangl

@@ -116,6 +116,17 @@ TEST_F(PieSlices, ShareOneSquareInsideThePicture)
     }
 }
 
+TEST_F(PieSlices, HaveOutlinesInsideTheirSquareThoughANarrowPictureCutsIt)
+{
+    addThree();
+    render(m_pie, 60, 400);
+    for (const Slice& slice : slices()) {
+        const QRectF square(slice.x, slice.y, slice.width, slice.height);
+        for (const Point& point : getPolygon(slice))
+            EXPECT_TRUE(square.adjusted(-0.5, -0.5, 0.5, 0.5).contains(point.x, point.y));
+    }
+}
+
 TEST_F(PieSlices, AloneIsTheWholePie)
 {
     m_pie.addItem(7, "caption", kRed);

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <malloc.h>
 #include <unistd.h>
 
 namespace tovangl {
@@ -30,6 +31,8 @@ long readResidentKilobytes()
 
 CProcessFigures readProcessFigures()
 {
+    // The allocator keeps up to some megabytes of what was freed last; how much is chance.
+    ::malloc_trim(0);
     return {readResidentKilobytes(), countEntries("/proc/self/fd"),
             countEntries("/proc/self/task")};
 }

@@ -13,7 +13,8 @@ struct CProcessFigures
     long threads = 0;
 };
 
-/// The figures of this process, from the /proc file system.
+/// The figures of this process, from the /proc file system, without memory that is free but kept by
+/// the allocator.
 [[nodiscard]] CProcessFigures readProcessFigures();
 
 } // namespace tovangl
