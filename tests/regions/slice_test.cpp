@@ -116,11 +116,14 @@ TEST_F(PieSlices, ShareOneSquareInsideThePicture)
     }
 }
 
-TEST_F(PieSlices, HaveOutlinesInsideTheirSquareThoughANarrowPictureCutsIt)
+TEST_F(PieSlices, StayInTheirPieWhereItIsWiderThanANarrowPicture)
 {
-    addThree();
-    render(m_pie, 60, 400);
+    m_pie.setProperty(0);
+    m_pie.addItem(100, "", kRed);
+    m_pie.addItem(101, "", kBlue);
+    render(m_pie, 104, 400);
     for (const Slice& slice : slices()) {
+        EXPECT_GT(slice.width, 104);
         const QRectF square(slice.x, slice.y, slice.width, slice.height);
         for (const Point& point : getPolygon(slice))
             EXPECT_TRUE(square.adjusted(-0.5, -0.5, 0.5, 0.5).contains(point.x, point.y));
