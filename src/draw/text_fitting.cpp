@@ -104,9 +104,10 @@ private:
         if (known != m_widths.end())
             return known->second;
         m_budget -= length;
-        const double width = m_budget < 0 ? std::numeric_limits<double>::infinity()
-                                          : m_measure(keptPart(m_text, length, m_fromLeft));
-        return m_widths[length] = width + m_ellipsisWidth;
+        double width = std::numeric_limits<double>::infinity();
+        if (m_budget >= 0)
+            width = m_measure(keptPart(m_text, length, m_fromLeft)) + m_ellipsisWidth;
+        return m_widths[length] = width;
     }
 
     [[nodiscard]] bool fits(int length) { return widthOf(length) <= m_maxWidth; }
@@ -165,15 +166,30 @@ double measureEllipsis(const TextMeasure& measure)
     return widthOrZero(measure(ellipsis()));
 }
 
+bool isBeginningTooWide(const QString& text, double maxWidth, const TextMeasure& measure)
+{
+    const double slack = slackOf(measureEllipsis(measure));
+    return measure(text.left(kLongText)) > maxWidth + slack;
+}
+
 // A long text whose beginning alone is too wide need not be measured to its end.
 bool fitsWhole(const QString& text, double maxWidth, const TextMeasure& measure)
 {
     if (text.isEmpty())
         return true;
-    if (text.size() > kLongText && !text.contains(QChar(kVariantSeparator)) &&
-        measure(text.left(kLongText)) > maxWidth + slackOf(measureEllipsis(measure)))
+    const bool isJudgedByBeginning =
+        text.size() > kLongText && !text.contains(QChar(kVariantSeparator));
+    if (isJudgedByBeginning && isBeginningTooWide(text, maxWidth, measure))
         return false;
     return maxWidth >= widthOrZero(measure(text));
+}
+
+// One character with the ellipsis.
+bool fitsShortestCut(const QString& text, double maxWidth, bool fromLeft,
+                     const TextMeasure& measure)
+{
+    const double width = measure(keptPart(text, 1, fromLeft));
+    return width + measureEllipsis(measure) <= maxWidth;
 }
 
 // The time that shaping takes grows with the square of the marks on one character.
@@ -247,7 +263,9 @@ CFittedText fitText(const QString& text, double maxWidth, bool fromLeft, bool st
     if (kept == kNothingFits)
         return unfit;
     const QString part = keptPart(copy, kept, fromLeft);
-    return {true, fromLeft ? ellipsis() + part : part + ellipsis()};
+    if (fromLeft)
+        return {true, ellipsis() + part};
+    return {true, part + ellipsis()};
 }
 
 bool canFitText(const QString& text, double maxWidth, bool fromLeft, bool strip,
@@ -256,9 +274,8 @@ bool canFitText(const QString& text, double maxWidth, bool fromLeft, bool strip,
     QString copy = text;
     if (strip)
         stripWhiteSpaces(copy, fromLeft, !fromLeft);
-    // The shortest cut: where it fits, so does some cut or the whole text.
-    if (maxWidth >= 0 && copy.size() > 1 &&
-        measure(keptPart(copy, 1, fromLeft)) + measureEllipsis(measure) <= maxWidth)
+    // Where the shortest cut fits, so does some cut or the whole text.
+    if (maxWidth >= 0 && copy.size() > 1 && fitsShortestCut(copy, maxWidth, fromLeft, measure))
         return true;
     return fitText(text, maxWidth, fromLeft, strip, measure).fits;
 }

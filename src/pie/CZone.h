@@ -34,7 +34,8 @@ public:
     [[nodiscard]] int count() const { return m_count; }
     /// The label of a label's zone; null for a merged zone.
     [[nodiscard]] CPieTextLabel* label() const { return m_label; }
-    [[nodiscard]] bool isMerged() const { return m_parent1 && m_parent2; }
+    /// A zone has both parts or none.
+    [[nodiscard]] bool isMerged() const { return m_parent1 != nullptr; }
     /// The parts of a merged zone, the upper one first; null for a label's zone.
     [[nodiscard]] CZone* parent1() const { return m_parent1; }
     [[nodiscard]] CZone* parent2() const { return m_parent2; }

@@ -123,7 +123,8 @@ void CZoneArranger::updateLabel(CZone* zone, double top, double radius) const
             const double middle = partTop + part->parent1()->count() * m_height;
             waiting.emplace_back(part->parent2(), middle);
             waiting.emplace_back(part->parent1(), partTop);
-        } else if (CPieTextLabel* label = part->label()) {
+        } else {
+            CPieTextLabel* label = part->label();
             const double y = partTop + 0.5 * m_height;
             const double x = circleX(radius, y);
             label->updateArrangedPosition(label->isOnRightHalf() ? x : -x, y);

@@ -166,6 +166,19 @@ TEST(FitText, AnInfiniteWidthFitsEverything)
     EXPECT_EQ(fitted("abc", INFINITY).text, QString("abc"));
 }
 
+// The painter shows the variant of a text that follows its last separator.
+TEST(FitText, ALongTextIsCutToItsLastVariant)
+{
+    const QChar separator(0x9c);
+    const auto measure = [&](const QString& text) {
+        return tenPixelsEach(text.mid(text.lastIndexOf(separator) + 1));
+    };
+    const QString text = QString(70000, QLatin1Char('w')) + separator + QString("short");
+    const CFittedText result = fitText(text, 100, kFromLeft, kKeepSpaces, measure);
+    EXPECT_TRUE(result.fits);
+    EXPECT_EQ(result.text, QString("...") + text.right(kLongestMeasuredText));
+}
+
 class ShortenText : public ::testing::Test
 {
 protected:

@@ -168,6 +168,12 @@ TEST(NumberText, EachPrefixFollowsTheOneBefore)
     }
 }
 
+TEST(NumberText, NothingIsScaledBeyondTheLastPrefix)
+{
+    constexpr CKilo kSmallKilo{0, 2};
+    EXPECT_EQ(written(1LL << 62, PrefixedWhole, kSmallKilo), "18,014,398,509,481,984 Y");
+}
+
 TEST(NumberText, RoundingMayLeaveAWholeKiloUnscaledDeliberately)
 {
     EXPECT_EQ(written(1048575, PrefixedWhole, kKilo1024), "1,024 K");

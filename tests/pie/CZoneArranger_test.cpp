@@ -56,6 +56,20 @@ TEST_F(ZoneArranger, DoesNothingWithoutLabels)
     EXPECT_EQ(labels.size(), 0u);
 }
 
+TEST_F(ZoneArranger, ListsItsZonesForDiagnosis)
+{
+    CZoneArranger arranger(nullptr, -200, 200, kSlot);
+    for (const double y : {-50, 0, 4})
+        arranger.addZoneBack(&labels.addAtHeight(y));
+    arranger.arrange(kRadius);
+    testing::internal::CaptureStderr();
+    arranger.debugZones();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "debugZones()\n"
+                                                      "0: avg -50, weight 1\n"
+                                                      "1: avg 2, weight 0\n"
+                                                      "parent zone: avg 0\nparent zone: avg 4\n");
+}
+
 TEST_F(ZoneArranger, KeepsTheHeightOfLabelsThatAreApart)
 {
     CZoneArranger arranger(nullptr, -200, 200, kSlot);
