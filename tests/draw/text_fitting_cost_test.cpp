@@ -82,7 +82,7 @@ TEST(CanFitText, MeasuresOneCharacterAndTheEllipsisWhereACutFits)
     QStringList measured;
     const auto measure = [&measured](const QString& text) {
         measured << text;
-        return 10.0 * text.size();
+        return 10.0 * static_cast<double>(text.size());
     };
     EXPECT_TRUE(canFitText(QString("-99,990"), 40, kFromRight, kStripSpaces, measure));
     EXPECT_EQ(measured, QStringList({"-", "..."}));
