@@ -1,7 +1,7 @@
 # Finds the Qt that TOVANGL_QT asks for and defines tovangl_qt, the target that everything which
 # uses Qt links. Unset, Qt 5 is taken where it is found and Qt 6 otherwise.
-set(TOVANGL_QT "" CACHE STRING "Qt major version to build on: 5, 6 or 4; empty: 5, else 6")
-set_property(CACHE TOVANGL_QT PROPERTY STRINGS "" 5 6 4)
+set(TOVANGL_QT "" CACHE STRING "Qt major version to build on: 5 or 6; empty: 5, else 6")
+set_property(CACHE TOVANGL_QT PROPERTY STRINGS "" 5 6)
 
 if(TOVANGL_QT STREQUAL "")
     find_package(Qt5 5.15 QUIET COMPONENTS Core Gui)
@@ -10,29 +10,23 @@ if(TOVANGL_QT STREQUAL "")
     else()
         set(tovangl_qt_major 6)
     endif()
-elseif(TOVANGL_QT MATCHES "^[456]$")
+elseif(TOVANGL_QT MATCHES "^[56]$")
     set(tovangl_qt_major ${TOVANGL_QT})
 else()
-    message(FATAL_ERROR "TOVANGL_QT is '${TOVANGL_QT}': it takes 5, 6 or 4")
+    message(FATAL_ERROR "TOVANGL_QT is '${TOVANGL_QT}': it takes 5 or 6")
 endif()
 
 # The same choice as a package, its components and targets, for those who link a static library.
-if(tovangl_qt_major EQUAL 4)
-    set(tovangl_qt_package Qt4)
-    set(tovangl_qt_least 4.8)
-    set(tovangl_qt_components QtCore QtGui)
-    set(tovangl_qt_pkgconfig "QtCore >= 4.8, QtGui >= 4.8")
-elseif(tovangl_qt_major EQUAL 5)
-    set(tovangl_qt_package Qt5)
+set(tovangl_qt_package Qt${tovangl_qt_major})
+set(tovangl_qt_components Core Gui)
+if(tovangl_qt_major EQUAL 5)
     set(tovangl_qt_least 5.15)
-    set(tovangl_qt_components Core Gui)
-    set(tovangl_qt_pkgconfig "Qt5Core >= 5.15, Qt5Gui >= 5.15")
 else()
-    set(tovangl_qt_package Qt6)
     set(tovangl_qt_least 6.4)
-    set(tovangl_qt_components Core Gui)
-    set(tovangl_qt_pkgconfig "Qt6Core >= 6.4, Qt6Gui >= 6.4")
 endif()
+string(CONCAT tovangl_qt_pkgconfig
+    "${tovangl_qt_package}Core >= ${tovangl_qt_least}, "
+    "${tovangl_qt_package}Gui >= ${tovangl_qt_least}")
 find_package(${tovangl_qt_package} ${tovangl_qt_least} REQUIRED
     COMPONENTS ${tovangl_qt_components})
 list(TRANSFORM tovangl_qt_components PREPEND ${tovangl_qt_package}::

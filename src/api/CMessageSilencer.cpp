@@ -2,8 +2,6 @@
 // Keeps Qt's messages about the library's own doings out of the host's output.
 #include "api/CMessageSilencer.h"
 
-#include "core/qt_versions.h"
-
 #include <atomic>
 #include <mutex>
 
@@ -13,16 +11,14 @@ namespace {
 
 std::mutex silencerMutex;
 int silencerCount = 0;
-std::atomic<qt::MessageHandler> hostHandler{nullptr};
+std::atomic<QtMessageHandler> hostHandler{nullptr};
 thread_local int silencedDepth = 0;
 
-// The types behind the message's own differ between versions of Qt.
-template <typename... Message>
-void filterMessage(QtMsgType type, Message... message)
+void filterMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    const qt::MessageHandler handler = hostHandler;
+    const QtMessageHandler handler = hostHandler;
     if (silencedDepth == 0 && handler)
-        handler(type, message...);
+        handler(type, context, message);
 }
 
 } // namespace
@@ -32,7 +28,7 @@ CMessageSilencer::CMessageSilencer()
     ++silencedDepth;
     const std::lock_guard<std::mutex> lock(silencerMutex);
     if (silencerCount++ == 0)
-        hostHandler = qt::installMessageHandler(filterMessage);
+        hostHandler = qInstallMessageHandler(filterMessage);
 }
 
 CMessageSilencer::~CMessageSilencer()
@@ -42,10 +38,9 @@ CMessageSilencer::~CMessageSilencer()
     if (--silencerCount > 0)
         return;
     // A handler that the host installed meanwhile stays.
-    const qt::MessageHandler own = filterMessage;
-    const qt::MessageHandler current = qt::installMessageHandler(hostHandler);
-    if (current != own)
-        qt::installMessageHandler(current);
+    const QtMessageHandler current = qInstallMessageHandler(hostHandler);
+    if (current != filterMessage)
+        qInstallMessageHandler(current);
 }
 
 } // namespace tovangl

@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
 // Silences the process's Qt messages.
-#include "core/qt_versions.h"
 #include <tovangl/MessageHandler.h>
+
+#include <QtGlobal>
 
 namespace tovangl {
 
+namespace {
+
+void discardMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+} // namespace
+
 void installEmptyMsgHandler()
 {
-    qt::installMessageHandler(qt::discardMessage);
+    qInstallMessageHandler(discardMessage);
 }
 
 } // namespace tovangl

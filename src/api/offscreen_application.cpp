@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QPluginLoader>
 
 #include <algorithm>
@@ -91,19 +92,38 @@ bool canLoadOffscreenPlugin()
     return false;
 }
 
+// Whether fonts and painting work: there is an application object with a platform.
+bool canPaint()
+{
+    return !QGuiApplication::platformName().isEmpty();
+}
+
+// Makes the application object, which lasts until the process ends. Its arguments win over
+// QT_QPA_PLATFORM.
+void makeApplication()
+{
+    static int count = 3;
+    static char empty[] = "";
+    static char option[] = "-platform";
+    static char platform[] = "offscreen";
+    static char* arguments[] = {empty, option, platform, nullptr};
+    [[maybe_unused]] static QGuiApplication* application = nullptr; // where leak checkers find it
+    application = new QGuiApplication(count, arguments);
+}
+
 } // namespace
 
 bool ensureApplication()
 {
     const std::lock_guard<std::mutex> lock(applicationMutex);
-    if (qt::canPaint())
+    if (canPaint())
         return true;
     const CMessageSilencer silencer;
     const CLocaleKeeper keeper;
-    if (qt::kNeedsPlatformPlugin && !canLoadOffscreenPlugin())
+    if (!canLoadOffscreenPlugin())
         return false;
-    qt::makeApplication();
-    return qt::canPaint();
+    makeApplication();
+    return canPaint();
 }
 
 namespace {

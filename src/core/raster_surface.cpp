@@ -2,8 +2,6 @@
 // Makes the picture that a chart is drawn into.
 #include "core/raster_surface.h"
 
-#include "core/qt_versions.h"
-
 #include <QImage>
 #include <QPixmap>
 
@@ -36,7 +34,7 @@ QImage makeRasterSurface<QImage>(int width, int height)
 template <>
 QPixmap makeRasterSurface<QPixmap>(int width, int height)
 {
-    return isRasterSize(width, height) && qt::hasPixmaps() ? QPixmap(width, height) : QPixmap();
+    return isRasterSize(width, height) ? QPixmap(width, height) : QPixmap();
 }
 
 } // namespace tovangl

@@ -11,7 +11,7 @@ namespace tovangl {
 [[nodiscard]] bool isRasterSize(int width, int height);
 
 /// A new picture in ARGB32 (QImage) or in the platform's format (QPixmap), not yet painted. Null
-/// where isRasterSize() says no, where there is no memory, or where the platform has no pixmaps.
+/// where isRasterSize() says no, or where there is no memory.
 template <typename Surface>
 [[nodiscard]] Surface makeRasterSurface(int width, int height);
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "api/CMessageSilencer.h"
-#include "core/qt_versions.h"
 
 #include <QtDebug>
 
@@ -15,14 +14,12 @@ namespace {
 std::atomic<int> seenByHost{0};
 std::atomic<int> seenByLaterHost{0};
 
-template <typename... Message>
-void countForHost(QtMsgType, Message...)
+void countForHost(QtMsgType, const QMessageLogContext&, const QString&)
 {
     ++seenByHost;
 }
 
-template <typename... Message>
-void countForLaterHost(QtMsgType, Message...)
+void countForLaterHost(QtMsgType, const QMessageLogContext&, const QString&)
 {
     ++seenByLaterHost;
 }
@@ -34,9 +31,9 @@ protected:
     {
         seenByHost = 0;
         seenByLaterHost = 0;
-        qt::installMessageHandler(countForHost);
+        qInstallMessageHandler(countForHost);
     }
-    ~MessageSilencer() override { qt::installMessageHandler(nullptr); }
+    ~MessageSilencer() override { qInstallMessageHandler(nullptr); }
 };
 
 TEST_F(MessageSilencer, DiscardsTheMessagesOfItsThread)
@@ -97,7 +94,7 @@ TEST_F(MessageSilencer, LeavesAHandlerThatTheHostInstalledMeanwhile)
 {
     {
         const CMessageSilencer silencer;
-        qt::installMessageHandler(countForLaterHost);
+        qInstallMessageHandler(countForLaterHost);
     }
     qWarning("seen");
     EXPECT_EQ(seenByLaterHost, 1);

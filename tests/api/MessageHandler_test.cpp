@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "core/qt_versions.h"
 #include <tovangl/MessageHandler.h>
 
 #include <QtDebug>
@@ -12,8 +11,8 @@ namespace {
 class EmptyMessageHandler : public ::testing::Test
 {
 protected:
-    EmptyMessageHandler() { qt::installMessageHandler(nullptr); }
-    ~EmptyMessageHandler() override { qt::installMessageHandler(nullptr); }
+    EmptyMessageHandler() { qInstallMessageHandler(nullptr); }
+    ~EmptyMessageHandler() override { qInstallMessageHandler(nullptr); }
 };
 
 std::string messages()
