@@ -72,6 +72,12 @@ void CAnyChart::setProperties(int properties, const std::string& title)
     withBars([&](auto& bars) { bars.setVerticalAxis(properties, title); });
 }
 
+void CAnyChart::setValueAxis(int properties, const std::string& title)
+{
+    if (m_vertical)
+        m_vertical->setVerticalAxis(properties, title);
+}
+
 void CAnyChart::setPosition(int x, int y)
 {
     withBars([&](auto& bars) { bars.setPosition(x, y); });

@@ -52,6 +52,8 @@ public:
     void setColors(const Color& outline, const Color& text, const Color& line);
     /// The options of a pie, or the properties of every axis that can be set, with their titles.
     void setProperties(int properties, const std::string& title);
+    /// The properties of the value axis alone, where they can be set.
+    void setValueAxis(int properties, const std::string& title);
     void setPosition(int x, int y);
     void setBarWidth(int width);
     /// -1 where there are no bars.

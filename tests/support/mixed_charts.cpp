@@ -2,8 +2,9 @@
 // Charts of every kind and many settings, each told by a number.
 #include "support/mixed_charts.h"
 
+#include "support/CDice.h"
+
 #include <array>
-#include <random>
 
 namespace tovangl {
 
@@ -20,41 +21,6 @@ constexpr std::array<const char*, 8> kCaptions = {"",
 constexpr std::array<const char*, 4> kFamilies = {"Tahoma", "DejaVu Sans", "no such family", ""};
 constexpr std::array<const char*, 5> kLanguages = {"de", "en", "fr", "hi", "zz"};
 constexpr std::array<const char*, 5> kCountries = {"at", "us", "fr", "in", "ZZ"};
-
-// Draws numbers that depend on the seed alone.
-class CDice
-{
-public:
-    explicit CDice(unsigned seed)
-        : m_engine(seed)
-    {}
-
-    // A number from least to greatest.
-    int roll(int least, int greatest)
-    {
-        const auto choices = static_cast<unsigned>(greatest - least) + 1;
-        return least + static_cast<int>(m_engine() % choices);
-    }
-    bool oneIn(int chances) { return roll(1, chances) == 1; }
-    // As many small values as large ones; one in eight is negative.
-    long rollValue()
-    {
-        const int digits = roll(0, 18);
-        long value = roll(0, 9);
-        for (int i = 1; i < digits; ++i)
-            value = value * 10 + roll(0, 9);
-        return oneIn(8) ? -value : value;
-    }
-    Color rollColor() { return Color{roll(0, 255), roll(0, 255), roll(0, 255)}; }
-    template <std::size_t N>
-    const char* pick(const std::array<const char*, N>& choices)
-    {
-        return choices[static_cast<std::size_t>(roll(0, static_cast<int>(N) - 1))];
-    }
-
-private:
-    std::mt19937 m_engine;
-};
 
 void applySettings(CAnyChart& chart, CDice& dice)
 {
