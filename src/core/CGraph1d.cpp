@@ -6,6 +6,7 @@
 #include "core/CPieBaseItem.h"
 #include "core/item_selection.h"
 #include "core/pixel_arithmetic.h"
+#include "core/qt_versions.h"
 #include "core/raster_surface.h"
 
 #include <QFont>
@@ -190,6 +191,8 @@ void CGraph1d<T>::initPainter(QPainter& painter) const
     const int pixelSize = std::min(scalePixels(m_fontSize, m_scale), kLargestFontSize);
     if (pixelSize > 0)
         font.setPixelSize(pixelSize);
+    else
+        qt::setDefaultSize(font, *painter.device());
     // Deliberate: texts are not antialiased. The render hint alone does not reach raster text; the
     // font's strategy does.
     font.setStyleStrategy(QFont::NoAntialias);

@@ -4,8 +4,10 @@
 #ifndef TOVANGL_CORE_QT_VERSIONS_H
 #define TOVANGL_CORE_QT_VERSIONS_H
 
+#include <QFont>
 #include <QFontMetrics>
 #include <QLocale>
+#include <QPaintDevice>
 #include <QPainter>
 #include <QString>
 #include <QTextOption>
@@ -13,6 +15,7 @@
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 #include "core/whole_pixel_text.h"
 
+#include <QGuiApplication>
 #include <QThreadPool>
 #endif
 
@@ -34,6 +37,23 @@ inline void endPaintThreads()
     constexpr int kTimeToBecomeIdle = 100; // milliseconds
     if (QThreadPool* pool = QThreadPool::globalInstance())
         pool->waitForDone(kTimeToBecomeIdle);
+}
+#endif
+
+// --- fonts
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+inline void setDefaultSize(QFont&, const QPaintDevice&) {}
+#else
+/// Gives the font the size that Qt 5 has by default on the offscreen platform: 12 points at 100
+/// dots per inch, 16 2/3 pixels. The default of Qt 6 there is 12 pixels. On any other platform the
+/// desktop chooses the size.
+inline void setDefaultSize(QFont& font, const QPaintDevice& device)
+{
+    constexpr qreal kPoints = 12;
+    constexpr qreal kDotsPerInch = 100;
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        font.setPointSizeF(kPoints * kDotsPerInch / device.logicalDpiY());
 }
 #endif
 

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QTextLayout>
 #include <QTextOption>
+#include <QTransform>
 
 #include <cmath>
 
@@ -99,6 +100,20 @@ void drawLines(QPainter& painter, const QRectF& rect, const QTextLayout& layout,
     }
 }
 
+// Clips to all pixels that the rectangle touches. The painter's own clip is rounded to the nearest
+// pixels since Qt 6, which would cut the first column of a text that begins in half a pixel.
+void clipToTouchedPixels(QPainter& painter, const QRectF& rect)
+{
+    const QTransform transform = painter.worldTransform();
+    if (transform.type() > QTransform::TxScale) {
+        painter.setClipRect(rect, Qt::IntersectClip);
+        return;
+    }
+    painter.setWorldTransform(QTransform());
+    painter.setClipRect(transform.mapRect(rect).toAlignedRect(), Qt::IntersectClip);
+    painter.setWorldTransform(transform);
+}
+
 // Draws one variant; where there is another one to try, only if this one fits.
 bool drawVariant(QPainter& painter, const QRectF& rect, const QString& text,
                  const QTextOption& option, bool isLast)
@@ -127,7 +142,7 @@ bool drawVariant(QPainter& painter, const QRectF& rect, const QString& text,
 
     if (!fits) {
         painter.save();
-        painter.setClipRect(rect, Qt::IntersectClip);
+        clipToTouchedPixels(painter, rect);
     }
     drawLines(painter, rect, layout, top, alignment);
     if (!fits)

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QTextOption>
+#include <QTransform>
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -155,16 +156,21 @@ std::string described(const QString& text, const QFont& font)
     return result;
 }
 
-void expectEqualPicture(CCases& cases, const Alphabet& pieces, int mostPieces)
+void expectEqualPicture(CCases& cases, const Alphabet& pieces, int mostPieces,
+                        const QTransform& transform = QTransform())
 {
     const QFont font = cases.font();
     const QString text = cases.text(pieces, mostPieces);
     const QRectF rect = cases.rect();
     const QTextOption option = cases.option();
-    const QImage own =
-        painted(font, [&](QPainter& painter) { drawWholePixelText(painter, rect, text, option); });
-    const QImage painters =
-        painted(font, [&](QPainter& painter) { painter.drawText(rect, text, option); });
+    const QImage own = painted(font, [&](QPainter& painter) {
+        painter.setTransform(transform);
+        drawWholePixelText(painter, rect, text, option);
+    });
+    const QImage painters = painted(font, [&](QPainter& painter) {
+        painter.setTransform(transform);
+        painter.drawText(rect, text, option);
+    });
     EXPECT_EQ(own, painters) << described(text, font) << " in " << rect.x() << ' ' << rect.y()
                              << ' ' << rect.width() << ' ' << rect.height() << " aligned "
                              << int(option.alignment()) << " wrap " << option.wrapMode();
@@ -228,6 +234,24 @@ TEST(WholePixelText, DrawsTextsFromRightToLeftAsThePainterDoes)
     CCases cases(6);
     for (int round = 0; round < 3000; ++round)
         expectEqualPicture(cases, rightToLeftPieces(), 12);
+}
+
+TEST(WholePixelText, DrawsTranslatedTextsAsThePainterDoes)
+{
+    CCases cases(8);
+    for (int round = 0; round < 3000; ++round) {
+        const double fraction = cases.from(0, 9) / 10.0;
+        expectEqualPicture(cases, textPieces(), 12, QTransform::fromTranslate(fraction, 0.5));
+    }
+}
+
+TEST(WholePixelText, DrawsTextsThatAreReadUpwardAsThePainterDoes)
+{
+    CCases cases(9);
+    for (int round = 0; round < 1000; ++round) {
+        QTransform transform = QTransform::fromTranslate(cases.from(0, 9) / 10.0, kImageSide);
+        expectEqualPicture(cases, textPieces(), 12, transform.rotate(-90));
+    }
 }
 
 TEST(WholePixelText, AnEmptyVariantEndsTheDrawingDeliberately)
