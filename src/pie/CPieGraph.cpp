@@ -47,9 +47,9 @@ QColor CPieGraph::getLabelLineColor() const
 void CPieGraph::debugLabels() const
 {
     qDebug("debugLabels()");
+    qDebug("------------");
     for (const CPieTextLabel* label : m_labels)
         qDebug("%s", label->debug().toUtf8().constData());
-    qDebug("------------");
 }
 
 } // namespace tovangl

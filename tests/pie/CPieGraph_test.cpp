@@ -2,6 +2,7 @@
 // The pie chart: its settings and what it owns.
 #include "pie/CTestPie.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace tovangl {
@@ -106,6 +107,19 @@ TEST(PieGraphChart, CanBeFilledAgainAfterClear)
     pie.addEqual(2);
     ASSERT_TRUE(pie.fitsInto(kWidth, kHeight));
     EXPECT_EQ(pie.labels().size(), 2u);
+}
+
+TEST(PieGraphChart, ListsItsLabelsForDiagnosisUnderTwoHeadings)
+{
+    CTestPie pie;
+    pie.add(3, "home");
+    pie.add(1, "usr");
+    ASSERT_TRUE(pie.fitsInto(kWidth, kHeight));
+    testing::internal::CaptureStderr();
+    pie.debugLabels();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(),
+                testing::MatchesRegex("debugLabels\\(\\)\n------------\n"
+                                      "home [^\n]*\nusr [^\n]*\n"));
 }
 
 } // namespace
