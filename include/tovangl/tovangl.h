@@ -15,5 +15,6 @@
 #include <tovangl/Rectangle.h>
 #include <tovangl/Slice.h>
 #include <tovangl/VerticalBarGraph.h>
+#include <tovangl/Version.h>
 
 #endif

@@ -92,6 +92,7 @@ int main()
 {
     tovangl::installEmptyMsgHandler();
     drawPie();
+    expect(std::strcmp(tovangl::version(), TOVANGL_VERSION_STRING) == 0, "version");
     tovangl::VerticalBarGraph upright(true);
     upright.setHorizontalAxis(tovangl::AxisProperty::ShowLabels, "across");
     drawBars(upright, "upright bars");

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The version of the headers, and that of the library.
+#ifndef TOVANGL_VERSION_H
+#define TOVANGL_VERSION_H
+
+#include <tovangl/Export.h>
+
+/// The version that a host is compiled with, in three numbers and as a string.
+#define TOVANGL_VERSION_MAJOR 1
+#define TOVANGL_VERSION_MINOR 0        ///< see TOVANGL_VERSION_MAJOR
+#define TOVANGL_VERSION_PATCH 0        ///< see TOVANGL_VERSION_MAJOR
+#define TOVANGL_VERSION_STRING "1.0.0" ///< see TOVANGL_VERSION_MAJOR
+
+namespace tovangl {
+
+/// The version of the library that the process has loaded, such as "1.0.0". It may be later than
+/// TOVANGL_VERSION_STRING, which the host was compiled with.
+///
+/// @return a string that is never freed; nothing leaves the call
+TOVANGL_EXPORT const char* version() noexcept;
+
+} // namespace tovangl
+
+#endif
