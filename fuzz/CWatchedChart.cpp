@@ -178,6 +178,8 @@ void CWatchedChart::checkPicture(std::int64_t width, std::int64_t height) const
     constexpr std::size_t kHeightOffset = 20;
     require(m_export.data != nullptr, "an export always gives a pointer");
     require(isPictureMade(width, height) == !m_bytes.empty(), "a picture that can be made is made");
+    const bool isOutOfRange = m_chart.graph().problem() == Problem::SizeOutOfRange;
+    require(isOutOfRange == m_bytes.empty(), "a chart says why there is no picture");
     if (m_bytes.empty())
         return;
     require(headerNumber(m_bytes, kWidthOffset) == width, "a picture is as wide as asked for");

@@ -52,6 +52,7 @@ void runBars(const UprightBarOptions& options)
     const std::string_view picture = renderPicture(chart, common);
     const ChartRegions regions = captionAndBarRegions(chart, kName, common);
     writeChart(picture, items, regions, common);
+    tellProblem(chart, common);
 }
 
 } // namespace

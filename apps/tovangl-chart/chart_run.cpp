@@ -6,15 +6,12 @@
 #include "tovangl-chart/chart_page.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <filesystem>
+#include <iostream>
 
 namespace tovangl::program {
 
 namespace {
-
-constexpr std::int64_t kMaxSide = 1'000'000;
-constexpr std::int64_t kMaxPixels = ((std::int64_t{1} << 31) - 1) / 4;
 
 int factorOf(const CommonOptions& options)
 {
@@ -30,20 +27,11 @@ std::string sizeText(const CommonOptions& options)
     return text;
 }
 
-bool isPossibleSize(const CommonOptions& options)
+CFailure noPicture(const Graph& chart, const CommonOptions& options)
 {
-    const std::int64_t width = std::int64_t{options.size.width} * factorOf(options);
-    const std::int64_t height = std::int64_t{options.size.height} * factorOf(options);
-    return width >= 1 && height >= 1 && width <= kMaxSide && height <= kMaxSide &&
-           width <= kMaxPixels / height;
-}
-
-CFailure noPicture(const CommonOptions& options)
-{
-    if (!isPossibleSize(options))
+    if (chart.problem() == Problem::SizeOutOfRange)
         return CFailure("no picture can measure " + sizeText(options));
-    return CFailure("cannot draw a picture of " + sizeText(options) +
-                    ": too little memory, or the offscreen platform plugin is not installed");
+    return CFailure("cannot draw a picture of " + sizeText(options) + ": " + chart.problemText());
 }
 
 bool makesPage(const CommonOptions& options)
@@ -89,7 +77,7 @@ std::string_view renderPicture(Graph& chart, const CommonOptions& options)
     else
         chart.createPixmap(options.size.width, options.size.height, &bytes, &size);
     if (size == 0)
-        throw noPicture(options);
+        throw noPicture(chart, options);
     return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
 }
 
@@ -116,6 +104,12 @@ void writeChart(std::string_view picture, const ChartItems& items, const ChartRe
         outputs.push_back({options.map, map});
     }
     writeOutputs(outputs);
+}
+
+void tellProblem(const Graph& chart, const CommonOptions& options)
+{
+    if (chart.problem() != Problem::None)
+        std::cerr << "tovangl-chart: " << sizeText(options) << ": " << chart.problemText() << '\n';
 }
 
 } // namespace tovangl::program

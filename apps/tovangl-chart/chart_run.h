@@ -41,6 +41,9 @@ template <typename BarChart>
 void writeChart(std::string_view picture, const ChartItems& items, const ChartRegions& regions,
                 const CommonOptions& options);
 
+/// Says on standard error what is wrong with the picture that was written, if anything is.
+void tellProblem(const Graph& chart, const CommonOptions& options);
+
 } // namespace tovangl::program
 
 #endif

@@ -40,6 +40,7 @@ void runHbars(const BarOptions& options)
     const std::string_view picture = renderPicture(chart, options.common);
     const ChartRegions regions = captionAndBarRegions(chart, kName, options.common);
     writeChart(picture, items, regions, options.common);
+    tellProblem(chart, options.common);
 }
 
 } // namespace

@@ -86,6 +86,7 @@ void runPie(const PieOptions& options)
     ChartRegions regions = captionRegions(chart, kName, options.common);
     regions.slices = *chart.getSlice();
     writeChart(picture, items, regions, options.common);
+    tellProblem(chart, options.common);
 }
 
 } // namespace

@@ -49,8 +49,7 @@ ReportPicture render(Graph& chart, int height, const char* name)
     int size = 0;
     chart.createPixmap(kWidth, height, &bytes, &size);
     if (size == 0)
-        throw CFailure("cannot draw: too little memory, or the offscreen platform plugin is not "
-                       "installed");
+        throw CFailure("cannot draw: " + chart.problemText());
     return {std::string(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)),
             kWidth, height, chart.describe(), CImageMap(name)};
 }

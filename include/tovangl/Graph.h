@@ -5,6 +5,7 @@
 #define TOVANGL_GRAPH_H
 
 #include <tovangl/Export.h>
+#include <tovangl/Problem.h>
 #include <tovangl/Rectangle.h>
 
 #include <list>
@@ -84,6 +85,16 @@ public:
     /// @return UTF-8; empty where there is no chart
     std::string describe() const;
 
+    /// What was wrong with the last rendering: why it gave no picture, or a picture without the
+    /// chart. Problem::None where the chart was drawn, before the first rendering, and where there
+    /// is no chart.
+    Problem problem() const;
+
+    /// The same in one English sentence, such as: The picture has no room for the chart.
+    ///
+    /// @return empty where nothing was wrong
+    std::string problemText() const;
+
     /// Renders the chart as a PNG image.
     ///
     /// The bytes stay owned by this object: do not free them. They live until the next export,
@@ -91,7 +102,8 @@ public:
     /// *size 0: a width or height below 1 or above 1,000,000, more than 2^31 - 1 bytes at four
     /// bytes a pixel, no memory for the picture, no offscreen platform plugin of Qt on the machine,
     /// or a process that is ending. Exit handlers registered after the first picture may still
-    /// draw; older ones, and the destructors of static objects, come too late.
+    /// draw; older ones, and the destructors of static objects, come too late. A picture that is
+    /// too small for its chart is white. problem() says which of these it was.
     ///
     /// @param width, height  picture size in pixels
     /// @param data           receives the first byte; not null

@@ -12,9 +12,10 @@
 #include <tovangl/MessageHandler.h>
 #include <tovangl/PieGraph.h>
 #include <tovangl/Point.h>
+#include <tovangl/Problem.h>
 #include <tovangl/Rectangle.h>
 #include <tovangl/Slice.h>
-#include <tovangl/VerticalBarGraph.h>
 #include <tovangl/Version.h>
+#include <tovangl/VerticalBarGraph.h>
 
 #endif

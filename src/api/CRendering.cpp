@@ -18,10 +18,18 @@ void noteEnd()
     processEnds = true;
 }
 
+CGraph1dBase::Problem findObstacle()
+{
+    using Problem = CGraph1dBase::Problem;
+    if (processEnds)
+        return Problem::ProcessEnding;
+    return ensureApplication() ? Problem::None : Problem::NoPlatformPlugin;
+}
+
 } // namespace
 
 CRendering::CRendering()
-    : m_canPaint(!processEnds && ensureApplication())
+    : m_obstacle(findObstacle())
 {}
 
 // Qt makes its tables at the first painting and has them destroyed at the process's end. A handler

@@ -5,6 +5,7 @@
 #define TOVANGL_API_CRENDERING_H
 
 #include "api/CMessageSilencer.h"
+#include "core/CGraph1dBase.h"
 
 namespace tovangl {
 
@@ -16,14 +17,14 @@ public:
     ~CRendering();
     Q_DISABLE_COPY(CRendering)
 
-    /// False where Qt's offscreen plugin is missing, and in a process that has begun to end: Qt
-    /// destroys what painting needs before the exit handlers that are older than the first
-    /// rendering.
-    [[nodiscard]] bool canPaint() const { return m_canPaint; }
+    /// Why nothing can be painted: Qt's offscreen plugin is missing, or the process has begun to
+    /// end, as Qt destroys what painting needs before the exit handlers that are older than the
+    /// first rendering.
+    [[nodiscard]] CGraph1dBase::Problem obstacle() const { return m_obstacle; }
 
 private:
     const CMessageSilencer m_silencer;
-    bool m_canPaint;
+    CGraph1dBase::Problem m_obstacle;
 };
 
 } // namespace tovangl

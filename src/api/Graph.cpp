@@ -4,6 +4,7 @@
 #include "api/conversions.h"
 #include "api/description.h"
 #include "api/image_narrowing.h"
+#include "api/problem_text.h"
 #include "core/CGraph1dBase.h"
 #include <tovangl/Graph.h>
 
@@ -15,6 +16,32 @@
 #include <memory>
 
 namespace tovangl {
+
+namespace {
+
+using ChartProblem = CGraph1dBase::Problem;
+
+constexpr bool isSame(Problem problem, ChartProblem ofChart)
+{
+    return static_cast<int>(problem) == static_cast<int>(ofChart);
+}
+static_assert(isSame(Problem::None, ChartProblem::None));
+static_assert(isSame(Problem::SizeOutOfRange, ChartProblem::SizeOutOfRange));
+static_assert(isSame(Problem::NoMemory, ChartProblem::NoMemory));
+static_assert(isSame(Problem::NoPlatformPlugin, ChartProblem::NoPlatformPlugin));
+static_assert(isSame(Problem::ProcessEnding, ChartProblem::ProcessEnding));
+static_assert(isSame(Problem::TooSmallForChart, ChartProblem::TooSmallForChart));
+
+// Whether anything can be painted. The chart keeps the reason where nothing can.
+bool canRender(CGraph1dBase& graph, const CRendering& rendering)
+{
+    if (rendering.obstacle() == ChartProblem::None)
+        return true;
+    graph.setProblem(rendering.obstacle());
+    return false;
+}
+
+} // namespace
 
 Graph::Graph()
     : m_graph(nullptr)
@@ -77,13 +104,23 @@ std::string Graph::describe() const
     return describeChart(m_graph);
 }
 
+Problem Graph::problem() const
+{
+    return m_graph ? static_cast<Problem>(m_graph->problem()) : Problem::None;
+}
+
+std::string Graph::problemText() const
+{
+    return problemSentence(problem());
+}
+
 void Graph::createPixmap(int width, int height, unsigned char** data, int* size)
 {
     if (!m_graph)
         return;
     m_graph->forgetDrawing();
     const CRendering rendering;
-    QImage image = rendering.canPaint() ? m_graph->getImage(width, height) : QImage();
+    QImage image = canRender(*m_graph, rendering) ? m_graph->getImage(width, height) : QImage();
     paintDevice2Bytes(image, data, size);
 }
 
@@ -94,8 +131,9 @@ void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned c
         return;
     m_graph->forgetDrawing();
     const CRendering rendering;
-    QImage image =
-        rendering.canPaint() ? m_graph->getImageForPrinter(width, height, factor) : QImage();
+    QImage image = canRender(*m_graph, rendering)
+                       ? m_graph->getImageForPrinter(width, height, factor)
+                       : QImage();
     paintDevice2Bytes(image, data, size);
 }
 
@@ -103,6 +141,8 @@ template <typename Surface>
 void Graph::paintDevice2Bytes(Surface& surface, unsigned char** data, int* size)
 {
     constexpr int kDefaultQuality = -1;
+    const ChartProblem ofDrawing = m_graph->problem();
+    m_graph->setProblem(ChartProblem::NoMemory); // in case that it runs out from here on
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -116,6 +156,8 @@ void Graph::paintDevice2Bytes(Surface& surface, unsigned char** data, int* size)
     m_pixmapData = pixmapData.release();
     *data = m_pixmapData;
     *size = length;
+    if (length > 0 || surface.isNull())
+        m_graph->setProblem(ofDrawing);
 }
 
 } // namespace tovangl

@@ -210,7 +210,10 @@ Surface CGraph1d<T>::getSurface(int width, int height)
     m_width = scalePixels(width, m_scale);
     m_height = scalePixels(height, m_scale);
     Surface device = makeRasterSurface<Surface>(m_width, m_height);
-    drawGraph(device);
+    if (!device.isNull())
+        drawGraph(device);
+    else if (!isRasterSize(m_width, m_height))
+        m_problem = Problem::SizeOutOfRange;
     return device;
 }
 
@@ -218,8 +221,6 @@ template <typename T>
 template <typename Surface>
 void CGraph1d<T>::drawGraph(Surface& device)
 {
-    if (device.isNull())
-        return;
     selectItems();
     for (T* item : m_selectedItems)
         item->setItemRect(QRect());
@@ -229,6 +230,7 @@ void CGraph1d<T>::drawGraph(Surface& device)
     painter.fillRect(device.rect(), QColor(255, 255, 255));
     drawContents(painter);
     painter.end();
+    m_problem = m_isDrawn ? Problem::None : Problem::TooSmallForChart;
 }
 
 template class CGraph1d<CBarGraphItem>;

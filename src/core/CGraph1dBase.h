@@ -29,6 +29,17 @@ public:
         PrinterDevice = 1
     };
 
+    /// What was wrong with a rendering.
+    enum class Problem
+    {
+        None = 0,
+        SizeOutOfRange = 1,
+        NoMemory = 2,
+        NoPlatformPlugin = 3,
+        ProcessEnding = 4,
+        TooSmallForChart = 5
+    };
+
     CGraph1dBase();
     virtual ~CGraph1dBase();
     Q_DISABLE_COPY(CGraph1dBase)
@@ -64,8 +75,16 @@ public:
     [[nodiscard]] int scale() const { return m_scale; }
     /// Whether the last rendering drew the chart: the picture could be made and had room for it.
     [[nodiscard]] bool isDrawn() const { return m_isDrawn; }
-    /// Makes isDrawn() false until the next rendering, for one that cannot even begin.
-    void forgetDrawing() { m_isDrawn = false; }
+    /// What was wrong with the last rendering.
+    [[nodiscard]] Problem problem() const { return m_problem; }
+    void setProblem(Problem problem) { m_problem = problem; }
+    /// Begins a rendering that has drawn nothing so far. Where an exception ends it, it is for lack
+    /// of memory.
+    void forgetDrawing()
+    {
+        m_isDrawn = false;
+        m_problem = Problem::NoMemory;
+    }
 
     /// The colour to fill with on the current device: for print, 60 % of the way toward white.
     [[nodiscard]] QColor getOutputDeviceColor(const QColor& color) const;
@@ -77,6 +96,7 @@ protected:
     int m_height = -1;
     int m_scale = 1;        // device pixels for each pixel of a setting
     bool m_isDrawn = false; // set at the end of drawContents()
+    Problem m_problem = Problem::None;
     QString m_fontFamily;
     int m_fontSize;                    // pixels before scaling
     std::unique_ptr<QLocale> m_locale; // borrowed by labels and axes

@@ -156,6 +156,13 @@ INSTANTIATE_TEST_SUITE_P(Graph, SizeOfNoPicture,
                                            std::pair(1000001, 1), std::pair(40000, 40000),
                                            std::pair(kMost, kMost)));
 
+TEST_P(SizeOfNoPicture, IsTheProblem)
+{
+    CTestGraph graph;
+    (void)exported(graph, GetParam().first, GetParam().second);
+    EXPECT_EQ(graph.problem(), Problem::SizeOutOfRange);
+}
+
 TEST(Graph, AnEmptyPictureReplacesTheOneBefore)
 {
     CTestGraph graph;

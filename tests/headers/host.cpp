@@ -44,6 +44,7 @@ void exportBothWays(tovangl::Graph& graph, const char* what)
     expectPng(data, size, what);
     graph.createPixmapForPrinter(300, 200, 2, &data, &size);
     expectPng(data, size, what);
+    expect(graph.problem() == tovangl::Problem::None && graph.problemText().empty(), what);
     graph.freePixmap();
 }
 
@@ -91,8 +92,8 @@ void drawBars(Bars& bars, const char* what)
 int main()
 {
     tovangl::installEmptyMsgHandler();
-    drawPie();
     expect(std::strcmp(tovangl::version(), TOVANGL_VERSION_STRING) == 0, "version");
+    drawPie();
     tovangl::VerticalBarGraph upright(true);
     upright.setHorizontalAxis(tovangl::AxisProperty::ShowLabels, "across");
     drawBars(upright, "upright bars");

@@ -24,7 +24,7 @@ std::int64_t headerNumber(const CExport& picture, int offset)
     return number;
 }
 
-void checkExport(const CExport& picture, std::int64_t width, std::int64_t height)
+void checkSize(const CExport& picture, std::int64_t width, std::int64_t height)
 {
     constexpr int kWidthOffset = 16;
     constexpr int kHeightOffset = 20;
@@ -35,6 +35,15 @@ void checkExport(const CExport& picture, std::int64_t width, std::int64_t height
         return;
     require(headerNumber(picture, kWidthOffset) == width, "a picture is as wide as asked for");
     require(headerNumber(picture, kHeightOffset) == height, "a picture is as high as asked for");
+}
+
+void checkProblem(const CExport& picture, const Graph& graph)
+{
+    const Problem problem = graph.problem();
+    const bool isMade = problem == Problem::None || problem == Problem::TooSmallForChart;
+    require(isMade == (picture.size > 0), "a chart says why there is no picture");
+    require(graph.problemText().empty() == (problem == Problem::None),
+            "a problem is told in words as well");
 }
 
 // A bar that has no room is as much below no width as its outline is wide.
@@ -55,9 +64,13 @@ void drawEverything(CAnyChart& chart, int width, int height, int factor)
 {
     constexpr std::int64_t kOnScreen = 1;
     const std::int64_t scale = factor < 1 ? 1 : factor;
-    checkExport(chart.createPixmap(width, height), width, height);
+    CExport picture = chart.createPixmap(width, height);
+    checkSize(picture, width, height);
+    checkProblem(picture, chart.graph());
     checkRectangles(chart, kOnScreen);
-    checkExport(chart.createPixmapForPrinter(width, height, factor), width * scale, height * scale);
+    picture = chart.createPixmapForPrinter(width, height, factor);
+    checkSize(picture, width * scale, height * scale);
+    checkProblem(picture, chart.graph());
     checkRectangles(chart, scale);
 }
 

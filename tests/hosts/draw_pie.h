@@ -9,9 +9,15 @@
 #include <cstdio>
 #include <string>
 
-/// A pie of 400 x 300 pixels, red above and blue below, as PNG; empty where it cannot be drawn. Its
-/// captions are in scripts that few fonts have, about which Qt would print warnings.
-inline std::string pieBytes()
+struct PieExport
+{
+    std::string bytes; // empty where it cannot be drawn
+    tovangl::Problem problem;
+};
+
+/// A pie, red above and blue below, as PNG. Its captions are in scripts that few fonts have, about
+/// which Qt would print warnings.
+inline PieExport exportPie(int width = 400, int height = 300)
 {
     tovangl::PieGraph pie(false);
     pie.addItem(1, "above \xe0\xa4\x8a\xe0\xa4\xaa\xe0\xa4\xb0", tovangl::Color{200, 30, 30});
@@ -19,8 +25,9 @@ inline std::string pieBytes()
                 tovangl::Color{30, 30, 200});
     unsigned char* data = nullptr;
     int size = 0;
-    pie.createPixmap(400, 300, &data, &size);
-    return std::string(reinterpret_cast<const char*>(data), static_cast<std::size_t>(size));
+    pie.createPixmap(width, height, &data, &size);
+    return {std::string(reinterpret_cast<const char*>(data), static_cast<std::size_t>(size)),
+            pie.problem()};
 }
 
 /// Draws the pie into folder/name.png. Returns whether the file was written.
@@ -29,7 +36,7 @@ inline bool drawPie(const std::string& folder, const std::string& name)
     std::FILE* file = std::fopen((folder + '/' + name + ".png").c_str(), "wb");
     if (!file)
         return false;
-    const std::string bytes = pieBytes();
+    const std::string bytes = exportPie().bytes;
     const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     return std::fclose(file) == 0 && isWritten;
 }

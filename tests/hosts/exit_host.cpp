@@ -16,17 +16,23 @@ void require(bool condition)
 }
 
 // What painting needs is gone by now.
+void requireNoPicture()
+{
+    const PieExport pie = exportPie();
+    require(pie.bytes.empty() && pie.problem == tovangl::Problem::ProcessEnding);
+}
+
 class CDrawingAtTheEnd
 {
 public:
-    ~CDrawingAtTheEnd() { require(pieBytes().empty()); }
+    ~CDrawingAtTheEnd() { requireNoPicture(); }
 };
 
 const CDrawingAtTheEnd drawingAtTheEnd;
 
 void drawTooLate()
 {
-    require(pieBytes().empty());
+    requireNoPicture();
 }
 
 void drawInTime()

@@ -90,13 +90,22 @@ void CChartLife::addItems()
 void CChartLife::render(bool isForPrinter)
 {
     CExport picture;
-    call([&] {
-        picture = isForPrinter ? m_chart->createPixmapForPrinter(kWidth, kHeight, kFactor)
-                               : m_chart->createPixmap(kWidth, kHeight);
-    });
+    call([&] { picture = exportPicture(isForPrinter); });
     CRenderedChart rendering;
     call([&] { rendering = copyRendering(*m_chart, picture); });
     m_renderings.push_back(rendering);
+}
+
+CExport CChartLife::exportPicture(bool isForPrinter)
+{
+    try {
+        return isForPrinter ? m_chart->createPixmapForPrinter(kWidth, kHeight, kFactor)
+                            : m_chart->createPixmap(kWidth, kHeight);
+    } catch (const std::bad_alloc&) {
+        if (m_chart->graph().problem() != Problem::NoMemory)
+            m_tellsLackOfMemory = false;
+        throw;
+    }
 }
 
 } // namespace tovangl

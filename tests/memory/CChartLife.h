@@ -27,6 +27,8 @@ public:
     [[nodiscard]] const std::vector<CRenderedChart>& renderings() const { return m_renderings; }
     /// How many calls std::bad_alloc has left.
     [[nodiscard]] int exceptionCount() const { return m_exceptionCount; }
+    /// Whether the chart itself gave that reason after each rendering that it has left.
+    [[nodiscard]] bool tellsLackOfMemory() const { return m_tellsLackOfMemory; }
 
     // Seeded faults, for the test of the harness.
     void addItemAfterFailure() { m_addsItemAfterFailure = true; }
@@ -40,11 +42,13 @@ private:
     void applySettings();
     void addItems();
     void render(bool isForPrinter);
+    CExport exportPicture(bool isForPrinter);
 
     ChartKind m_kind;
     std::unique_ptr<CAnyChart> m_chart;
     std::vector<CRenderedChart> m_renderings;
     int m_exceptionCount = 0;
+    bool m_tellsLackOfMemory = true;
     bool m_addsItemAfterFailure = false;
     bool m_swallowsFailure = false;
 };

@@ -54,6 +54,7 @@ const char* findFlaw(ChartKind kind, const std::vector<CRenderedChart>& expected
     const long liveBefore = CAllocationFaults::liveCount();
     bool areEqual = false;
     int exceptionCount = 0;
+    bool isTold = false;
     {
         CChartLife life(kind);
         if (seeded == SeededFault::WrongPicture)
@@ -63,6 +64,7 @@ const char* findFlaw(ChartKind kind, const std::vector<CRenderedChart>& expected
         life.live();
         areEqual = areSameRenderings(life.renderings(), expected);
         exceptionCount = life.exceptionCount();
+        isTold = life.tellsLackOfMemory();
     }
     if (seeded == SeededFault::Leak)
         (void)CAllocationFaults::allocateAsLibrary();
@@ -70,6 +72,8 @@ const char* findFlaw(ChartKind kind, const std::vector<CRenderedChart>& expected
         return "the chart renders another picture afterwards";
     if (faults.hasFailed() != (exceptionCount == 1))
         return "std::bad_alloc does not leave the call";
+    if (!isTold)
+        return "the chart does not say that memory ran out";
     if (CAllocationFaults::liveCount() != liveBefore)
         return "an allocation is not freed";
     return nullptr;

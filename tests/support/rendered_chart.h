@@ -19,12 +19,13 @@ struct CRenderedChart
     std::list<Rectangle> itemBars;
     std::list<Slice> slices;
     std::string description;
+    Problem problem = Problem::None;
 };
 
 /// Copies the bytes of an export, and everything else that the chart tells of it.
 [[nodiscard]] CRenderedChart copyRendering(CAnyChart& chart, const CExport& picture);
 
-/// Whether two renderings have equal pixels, equal regions and equal descriptions.
+/// Whether two renderings have equal pixels, regions, descriptions and problems.
 [[nodiscard]] bool isSameRendering(const CRenderedChart& a, const CRenderedChart& b);
 
 } // namespace tovangl

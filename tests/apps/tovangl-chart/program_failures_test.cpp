@@ -138,6 +138,23 @@ INSTANTIATE_TEST_SUITE_P(
                        "--output: the file has no name"}),
     caseName);
 
+class PictureWithoutRoom : public ::testing::TestWithParam<const char*>
+{};
+
+INSTANTIATE_TEST_SUITE_P(Charts, PictureWithoutRoom, ::testing::Values("pie", "bars", "hbars"),
+                         [](const auto& info) { return info.param; });
+
+TEST_P(PictureWithoutRoom, IsWrittenAndToldInOneLine)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    const ShellResult result = runShell(folder, "tovangl-chart " + std::string(GetParam()) +
+                                                    " --size 15x15 items -o x.png");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "tovangl-chart: 15x15: The picture has no room for the chart.\n");
+    EXPECT_THAT(folder.names(), Eq(Names{"items", "x.png"}));
+}
+
 TEST(Failures, LeaveTheOldPicture)
 {
     const CTemporaryFolder folder;

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// What was wrong with a rendering, in words.
+#ifndef TOVANGL_API_PROBLEM_TEXT_H
+#define TOVANGL_API_PROBLEM_TEXT_H
+
+#include <tovangl/Problem.h>
+
+namespace tovangl {
+
+/// One English sentence; empty where there is no problem.
+[[nodiscard]] const char* problemSentence(Problem problem);
+
+} // namespace tovangl
+
+#endif

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// What a chart of any kind says of a rendering that went wrong.
+#include "api/problem_text.h"
+#include <tovangl/tovangl.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace tovangl {
+namespace {
+
+using ::testing::MatchesRegex;
+
+constexpr int kSide = 400;
+constexpr int kSideWithoutRoom = 15;
+
+struct CKind
+{
+    const char* name;
+    std::unique_ptr<Graph> (*make)();
+};
+
+void PrintTo(const CKind& kind, std::ostream* stream)
+{
+    *stream << kind.name;
+}
+
+template <typename Chart>
+std::unique_ptr<Graph> makeChart()
+{
+    auto chart = std::make_unique<Chart>(false);
+    chart->addItem(3, "a");
+    chart->addItem(2, "b");
+    return chart;
+}
+
+class ProblemOfEveryChart : public ::testing::TestWithParam<CKind>
+{
+protected:
+    void render(int width, int height)
+    {
+        unsigned char* data = nullptr;
+        chart->createPixmap(width, height, &data, &size);
+    }
+
+    std::unique_ptr<Graph> chart = GetParam().make();
+    int size = 0;
+};
+
+INSTANTIATE_TEST_SUITE_P(Graph, ProblemOfEveryChart,
+                         ::testing::Values(CKind{"VerticalBars", makeChart<VerticalBarGraph>},
+                                           CKind{"HorizontalBars", makeChart<HorizontalBarGraph>},
+                                           CKind{"Pie", makeChart<PieGraph>}),
+                         [](const auto& info) { return info.param.name; });
+
+TEST_P(ProblemOfEveryChart, IsNoneBeforeTheFirstRendering)
+{
+    EXPECT_EQ(chart->problem(), Problem::None);
+    EXPECT_EQ(chart->problemText(), "");
+}
+
+TEST_P(ProblemOfEveryChart, IsNoneWhereTheChartWasDrawn)
+{
+    render(kSide, kSide);
+    EXPECT_EQ(chart->problem(), Problem::None);
+}
+
+TEST_P(ProblemOfEveryChart, IsNoneForAChartWithoutItems)
+{
+    chart->clear();
+    render(kSide, kSide);
+    EXPECT_EQ(chart->problem(), Problem::None);
+}
+
+TEST_P(ProblemOfEveryChart, IsAPictureWithoutRoomThatIsMadeAllTheSame)
+{
+    render(kSideWithoutRoom, kSideWithoutRoom);
+    EXPECT_EQ(chart->problem(), Problem::TooSmallForChart);
+    EXPECT_EQ(chart->problemText(), "The picture has no room for the chart.");
+    EXPECT_GT(size, 0);
+}
+
+TEST_P(ProblemOfEveryChart, IsASizeThatNoPictureCanHave)
+{
+    render(kSide, 0);
+    EXPECT_EQ(chart->problem(), Problem::SizeOutOfRange);
+    EXPECT_EQ(size, 0);
+}
+
+TEST_P(ProblemOfEveryChart, IsASizeThatOnlyThePrintFactorMakesTooLarge)
+{
+    unsigned char* data = nullptr;
+    chart->createPixmapForPrinter(kSide, kSide, 1000, &data, &size);
+    EXPECT_EQ(chart->problem(), Problem::SizeOutOfRange);
+}
+
+TEST_P(ProblemOfEveryChart, IsThatOfTheLastRendering)
+{
+    render(kSide, 0);
+    render(kSide, kSide);
+    EXPECT_EQ(chart->problem(), Problem::None);
+}
+
+TEST_P(ProblemOfEveryChart, IsKeptByClear)
+{
+    render(kSide, 0);
+    chart->clear();
+    EXPECT_EQ(chart->problem(), Problem::SizeOutOfRange);
+}
+
+TEST(ProblemOfNoChart, IsNone)
+{
+    const Graph graph;
+    EXPECT_EQ(graph.problem(), Problem::None);
+    EXPECT_EQ(graph.problemText(), "");
+}
+
+TEST(ProblemText, IsOneSentenceForEveryProblem)
+{
+    for (const Problem problem :
+         {Problem::SizeOutOfRange, Problem::NoMemory, Problem::NoPlatformPlugin,
+          Problem::ProcessEnding, Problem::TooSmallForChart})
+        EXPECT_THAT(problemSentence(problem), MatchesRegex("[A-Z][^\n.!?]+\\."));
+}
+
+} // namespace
+} // namespace tovangl
