@@ -1,30 +1,38 @@
 # What is built. A project that adds this one as a subdirectory gets the library alone, shared or
 # static as its own libraries are.
+include(TovanglSummary)
 
-# tovangl_option_if_found(option text package...): on by default where these packages are at hand, so
-# that a plain build never fails for want of them.
-function(tovangl_option_if_found option text)
-    set(default ${tovangl_is_top_level})
+# tovangl_part(name option text default [package...]): a part that can be built, and its line in the
+# summary. One that is on by default is off where a package is missing, so that a plain build never
+# fails for want of it; that is not kept, so that the next configuration looks again.
+function(tovangl_part name option text default)
+    set(lacking "")
     foreach(package ${ARGN})
         if(default AND NOT DEFINED ${option})
             find_package(${package} QUIET)
             if(NOT ${package}_FOUND)
-                message(STATUS "tovangl: there is no ${package}, so ${option} is off")
-                set(default OFF)
+                list(APPEND lacking ${package})
             endif()
         endif()
     endforeach()
-    option(${option} ${text} ${default})
+    if(lacking)
+        set(${option} OFF)
+        set(${option} OFF PARENT_SCOPE)
+    else()
+        option(${option} ${text} ${default})
+    endif()
+    tovangl_summary_option("${name}" ${option} ${lacking})
 endfunction()
 
 if(tovangl_is_top_level)
     option(BUILD_SHARED_LIBS "Build a shared library" ON)
 endif()
-tovangl_option_if_found(TOVANGL_BUILD_APPS "Build the command-line programs" CLI11 nlohmann_json)
-tovangl_option_if_found(TOVANGL_BUILD_TESTS "Build the tests" GTest)
-option(TOVANGL_BUILD_EXAMPLES "Build the examples" ${tovangl_is_top_level})
-option(TOVANGL_BUILD_BENCHMARKS "Build the benchmarks" OFF)
-option(TOVANGL_BUILD_FUZZERS "Build the fuzz targets, which clang can" OFF)
+tovangl_part(Programs TOVANGL_BUILD_APPS "Build the command-line programs" ${tovangl_is_top_level}
+    CLI11 nlohmann_json)
+tovangl_part(Tests TOVANGL_BUILD_TESTS "Build the tests" ${tovangl_is_top_level} GTest)
+tovangl_part(Examples TOVANGL_BUILD_EXAMPLES "Build the examples" ${tovangl_is_top_level})
+tovangl_part(Benchmarks TOVANGL_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+tovangl_part("Fuzz targets" TOVANGL_BUILD_FUZZERS "Build the fuzz targets, which clang can" OFF)
 option(TOVANGL_INSTALL "Generate install rules" ${tovangl_is_top_level})
 set(TOVANGL_MAINTAINER "The tovangl authors <authors@tovangl.example>" CACHE STRING
     "Who the packages name")

@@ -34,4 +34,3 @@ list(TRANSFORM tovangl_qt_components PREPEND ${tovangl_qt_package}::
 
 add_library(tovangl_qt INTERFACE)
 target_link_libraries(tovangl_qt INTERFACE ${tovangl_qt_targets})
-message(STATUS "tovangl: building on Qt ${tovangl_qt_major}")

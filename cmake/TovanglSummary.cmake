@@ -1,0 +1,35 @@
+# What a configuration ends with: which parts are built, and what the others lack.
+
+# tovangl_summary_line(name state): one line more, in the order of the calls.
+function(tovangl_summary_line name state)
+    string(LENGTH "${name}:" length)
+    math(EXPR padding "16 - ${length}")
+    string(REPEAT " " ${padding} space)
+    set_property(GLOBAL APPEND PROPERTY tovangl_summary "  ${name}:${space}${state}")
+endfunction()
+
+# tovangl_summary_option(name option [lacking...]): the line of a part that an option builds.
+function(tovangl_summary_option name option)
+    if(${option})
+        set(state "on")
+    elseif(ARGN)
+        string(JOIN " and " lacking ${ARGN})
+        set(state "off: ${lacking} not found")
+    else()
+        set(state "off (${option})")
+    endif()
+    tovangl_summary_line("${name}" "${state}")
+endfunction()
+
+function(tovangl_print_summary)
+    if(BUILD_SHARED_LIBS)
+        set(kind shared)
+    else()
+        set(kind static)
+    endif()
+    message(STATUS "tovangl ${PROJECT_VERSION}, ${kind}, on Qt ${${tovangl_qt_package}_VERSION}")
+    get_property(lines GLOBAL PROPERTY tovangl_summary)
+    foreach(line IN LISTS lines)
+        message(STATUS "${line}")
+    endforeach()
+endfunction()
