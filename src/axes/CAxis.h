@@ -29,7 +29,8 @@ class CBarTextLabel;
 ///
 /// Geometry is told along the axis and across it; the axis applies its signs and turns it into
 /// pixels of the picture when it draws. One axis serves one rendering: it is made, filled, given
-/// its line, measured as often as the layout needs, fitted to its rectangle, and drawn.
+/// its line, measured as often as the layout needs, fitted to its rectangle, and drawn. What a fit
+/// has hidden for want of room stays hidden: no later fit clears those flags.
 class CAxis
 {
 public:

@@ -34,7 +34,8 @@ int CValueScale::size(long long value) const
 int CValueScale::coord(long long value) const
 {
     const double belowZero = static_cast<double>(magnitudeOf(min));
-    // Deliberate: two truncations and not one.
+    // Deliberate: cut by itself, and not once with the value, so that a value is as many pixels
+    // long on either side of zero, wherever zero stands.
     const int zero = pixelsOf(span, belowZero, distance(min, max));
     return clampToInt(std::int64_t{start} + zero + size(value));
 }

@@ -98,7 +98,7 @@ int CBarBase::getTopAxisSpace(QPainter& painter, CAxis* axis, int width)
 {
     const CEdgeOfPicture edge = edgeOfPicture(*axis, m_height);
     const int position = scalePixels(m_positionY, m_scale);
-    // Deliberate: an axis that is not fixed gets the value axis's height, whichever axis it is.
+    // Only lying bars have an axis at the top, and it is their value axis.
     const CAxisSpace result =
         isFixedPosition(position, m_height)
             ? fixedNearSpace(position, edge)

@@ -14,7 +14,8 @@ void CPieBase<T>::selectItems()
     CShareOfTotal shares;
     for (const T* item : this->m_items)
         shares.add(item->value());
-    // Deliberate: a pie without any magnitude leaves even a negative threshold as it is.
+    // Deliberate: where there is nothing to share the threshold is not used, so a host that asks
+    // for it gets back what it set, a negative one too.
     if (shares.isEmpty())
         return;
 

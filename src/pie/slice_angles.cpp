@@ -32,8 +32,8 @@ int spanOf(long long value, WideUnsigned total)
                          static_cast<double>(total));
 }
 
-// Deliberate: the sign of the slice's own span decides which way it grows, so a span that was
-// truncated to 0 grows clockwise in either direction.
+// A greatest span that was cut to 0 stands among others that were as well: its slice becomes the
+// whole disc, and nobody sees which way it runs.
 int closeCircle(int span, int rest)
 {
     return span > 0 ? span + rest : span - rest;
