@@ -115,12 +115,20 @@ void checkZones(FuzzedDataProvider& input)
         arranger.addZoneBack(&labels.addAtHeight(label.y, CTestLabels::kThreeOClock,
                                                  static_cast<int>(label.weight)));
     }
-    constexpr double kRadius = 0; // the text lines end where the slots are
-    arranger.arrange(kRadius);
     CPlainArranger(min, max, height).arrange(plain);
+    const double radius = input.ConsumeFloatingPointInRange(0.0, 500.0);
+    std::vector<QPointF> lineEnds;
     for (std::size_t i = 0; i < plain.size(); ++i)
+        lineEnds.push_back(plain[i].hidden ? labels[i].lineEnd()
+                                           : arrangedLineEnd(labels[i], plain[i].y, radius));
+    arranger.arrange(radius);
+    for (std::size_t i = 0; i < plain.size(); ++i) {
         require(labels[i].isHidden() == plain[i].hidden,
                 "the labels that are hidden are those of the plain form");
+        require(labels[i].lineEnd().x() == lineEnds[i].x() &&
+                    labels[i].lineEnd().y() == lineEnds[i].y(),
+                "the labels stand in the places of the plain form");
+    }
 }
 
 // There is no plain form beside these: any numbers must do, without undefined behaviour.

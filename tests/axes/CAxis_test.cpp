@@ -71,6 +71,26 @@ TEST_F(CAxisTest, StartsWithoutLabelsAndWithABlackLineOfOnePixel)
     EXPECT_FALSE(axis.isLineHidden() || axis.areLabelsHidden() || axis.isTitleHidden());
 }
 
+TEST_F(CAxisTest, WhatOneFitHasHiddenStaysHiddenInALaterOne)
+{
+    CTestAxis axis(CAxis::LeftToRight, CAxis::Top, CAxis::ShowLine | CAxis::ShowTitle, "title");
+    axis.setLineWidth(3);
+    axis.fitToRect(painter, QRect(0, 0, 200, 1));
+    ASSERT_TRUE(axis.isLineHidden() && axis.isTitleHidden());
+    axis.fitToRect(painter, QRect(0, 0, 200, 100));
+    EXPECT_TRUE(axis.isLineHidden());
+    EXPECT_TRUE(axis.isTitleHidden());
+}
+
+TEST_F(CAxisTest, WhatHasRoomInTheFirstFitIsShown)
+{
+    CTestAxis axis(CAxis::LeftToRight, CAxis::Top, CAxis::ShowLine | CAxis::ShowTitle, "title");
+    axis.setLineWidth(3);
+    axis.fitToRect(painter, QRect(0, 0, 200, 100));
+    EXPECT_FALSE(axis.isLineHidden());
+    EXPECT_FALSE(axis.isTitleHidden());
+}
+
 TEST_F(CAxisTest, TitleIsBoldOnDemand)
 {
     const CTestAxis plain(CAxis::LeftToRight, CAxis::Bottom, CAxis::ShowTitle, "title");

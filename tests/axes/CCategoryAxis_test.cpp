@@ -293,6 +293,19 @@ TEST_F(CCategoryAxisTest, BarOfANegativeCoordinateWithoutASpanHasNeitherRectangl
     EXPECT_EQ(chart.categories.items[0]->barLabelRect(), QRect());
 }
 
+TEST_F(CCategoryAxisTest, BarOfANegativeCoordinateIsNullAndItsValueLabelStandsWhereItWouldEnd)
+{
+    CLyingChart chart(painter, {-30}, 0, 40);
+    chart.place(painter);
+    // 40 is 200 pixels long, so -30 ends 150 pixels left of the axis line, and the gap runs
+    // rightward.
+    ASSERT_TRUE(chart.numbers.canDrawBarLabel());
+    ASSERT_EQ(chart.numbers.getNumberCoord(-30), -150);
+    EXPECT_EQ(chart.categories.items[0]->barRect(), QRect());
+    const int top = 120 - chart.categories.labelRect().height() / 2;
+    EXPECT_EQ(chart.categories.items[0]->barLabelRect(), QRect(49 - 150 + kGap + 1, top, 30, 14));
+}
+
 TEST_F(CCategoryAxisTest, AnotherKindOfValueAxisPlacesNothing)
 {
     CLyingChart chart(painter, {30}, 0, 40);

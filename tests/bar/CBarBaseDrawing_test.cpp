@@ -226,6 +226,43 @@ TEST(ValueLabels, AreThereForBarsWithoutExtent)
     EXPECT_TRUE(chart.item(0)->barLabelRect().isValid());
 }
 
+// Two lying bars that are wider than their pitch, the first one's value in the second one's place.
+struct COverlappingBars : CLyingBars
+{
+    COverlappingBars(long long first, long long second)
+    {
+        setHorizontalAxis(CAxis::Properties(), QString());
+        add(first, "a", Qt::red, Qt::red);
+        add(second, "b", Qt::red, Qt::red);
+        setBarWidth(90);
+    }
+    // Whether a value label can be seen on the bar of the other item.
+    [[nodiscard]] bool isLabelSeen(const QImage& image, int labelled, int other) const
+    {
+        const QRect common = item(labelled)->barLabelRect() & bar(other);
+        EXPECT_EQ(common.size(), item(labelled)->barLabelRect().size());
+        for (int y = common.top(); y <= common.bottom(); ++y) {
+            if (!isRow(image, y, common.left(), common.right(), kRedPixel))
+                return true;
+        }
+        return false;
+    }
+};
+
+TEST(ValueLabels, AreCoveredByALaterBarThatIsWiderThanItsPitch)
+{
+    COverlappingBars chart(10, 1000);
+    const QImage image = chart.getImage(300, 150);
+    EXPECT_FALSE(chart.isLabelSeen(image, 0, 1));
+}
+
+TEST(ValueLabels, CoverAnEarlierBarThatIsWiderThanItsPitch)
+{
+    COverlappingBars chart(1000, 10);
+    const QImage image = chart.getImage(300, 150);
+    EXPECT_TRUE(chart.isLabelSeen(image, 1, 0));
+}
+
 TEST(ValueLabels, AreNotThereInAnUprightChart)
 {
     CUprightBars chart;

@@ -189,6 +189,25 @@ TEST_F(PieTextLabelDrawing, TextsHangFromTheTopSideBySide)
     EXPECT_EQ(surface.inkIn(QRect(left, top + lineHeight, 40, lineHeight)), 0);
 }
 
+TEST_F(PieTextLabelDrawing, ANameThatWrapsForWantOfRoomHangsFromTheTopAsOneLineDoes)
+{
+    // Too narrow for a letter with the ellipsis, so that the name is drawn whole, word by word.
+    const int room = widthOf("W") + 2;
+    const auto topOfInk = [this, room](const char* text) {
+        CPieTextLabel& label = add(kRight, text);
+        label.setBoundaries(-kAnchor - room, kAnchor + room);
+        CPaintedSurface picture;
+        label.draw(picture.painter());
+        for (int y = -CPaintedSurface::kHalf; y < CPaintedSurface::kHalf; ++y) {
+            if (picture.inkIn(QRect(kAnchor, y, room, 1)) > 0)
+                return y;
+        }
+        return CPaintedSurface::kHalf;
+    };
+    ASSERT_LT(room, widthOf("W..."));
+    EXPECT_EQ(topOfInk("W W"), topOfInk("W"));
+}
+
 TEST_F(PieTextLabelDrawing, TheBeamIsAsWideAsTheScaleSays)
 {
     CPieTextLabel& label = add(kRight, "");

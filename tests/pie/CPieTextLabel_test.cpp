@@ -152,7 +152,7 @@ TEST_F(PieTextLabel, IsAsWideAsNameAndSizeTogether)
     EXPECT_EQ(std::as_const(label).getBoundingRect(), measure(label));
 }
 
-TEST_F(PieTextLabel, MeasuresAnEmptySizeToo)
+TEST_F(PieTextLabel, IsAsLargeAsItsNameWithoutASize)
 {
     CPieTextLabel& label = labels.addAtAngle(kRight, "home");
     EXPECT_EQ(measure(label), qt::measureText(surface.painter(), QRectF(), QString("home")));

@@ -9,6 +9,8 @@
 
 #include <QLocale>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <vector>
 
@@ -27,6 +29,14 @@ public:
 private:
     int m_priority;
 };
+
+/// Where a label's line will end once its slot is found at height y, computed as the label does.
+[[nodiscard]] inline QPointF arrangedLineEnd(const CPieTextLabel& label, double y, double radius)
+{
+    const double x = std::sqrt(std::max(0.0, radius * radius - y * y));
+    return label.lineEnd() +
+           QPointF((label.isOnRightHalf() ? x : -x) - label.elbow().x(), y - label.elbow().y());
+}
 
 /// Owns labels and what they point to.
 class CTestLabels

@@ -77,14 +77,6 @@ private:
     std::mt19937 m_random;
 };
 
-// The line end of a label after its slot was found at height y, computed as the label does.
-QPointF expectedLineEnd(const CPieTextLabel& label, double y)
-{
-    const double x = std::sqrt(std::max(0.0, kRadius * kRadius - y * y));
-    return label.lineEnd() +
-           QPointF((label.isOnRightHalf() ? x : -x) - label.elbow().x(), y - label.elbow().y());
-}
-
 void plainly(CArrangement& arrangement, CPlainArranger::Passes passes)
 {
     CPlainArranger(arrangement.min, arrangement.max, arrangement.height, passes)
@@ -107,7 +99,7 @@ void expectSame(CArrangement arrangement, unsigned seed)
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const CPlainLabel& plain = arrangement.labels[i];
         expected.push_back(plain.hidden ? labels[i].lineEnd()
-                                        : expectedLineEnd(labels[i], plain.y));
+                                        : arrangedLineEnd(labels[i], plain.y, kRadius));
     }
     arranger.arrange(kRadius);
     for (std::size_t i = 0; i < labels.size(); ++i) {
