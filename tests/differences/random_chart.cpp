@@ -2,17 +2,9 @@
 // A chart told by a number, with all that a host can learn of it.
 #include "differences/random_chart.h"
 
-#include "differences/CHash.h"
 #include "differences/random_inputs.h"
-#include "support/CAnyChart.h"
-#include "support/png_decoding.h"
-#include "support/public_records.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdint>
 #include <fstream>
-#include <sstream>
 
 namespace tovangl {
 
@@ -23,41 +15,17 @@ ChartKind kindOf(unsigned number)
     return kChartKinds[number % kChartKinds.size()];
 }
 
-// The pixels alone: bytes between the rows mean nothing.
-std::uint64_t hashPixels(const QImage& image)
-{
-    CHash hash;
-    for (int y = 0; y < image.height(); ++y)
-        hash.addWords(reinterpret_cast<const std::uint32_t*>(image.constScanLine(y)),
-                      static_cast<std::size_t>(image.width()));
-    return hash.value();
-}
-
-std::uint64_t hashCorners(const std::vector<Point>& corners)
-{
-    CHash hash;
-    for (const Point& corner : corners) {
-        hash.addNumber(corner.x);
-        hash.addNumber(corner.y);
-    }
-    return hash.value();
-}
-
 class CRandomChart
 {
 public:
     CRandomChart(unsigned number, std::string folder, SeededFault fault)
         : m_number(number)
         , m_folder(std::move(folder))
-        , m_fault(fault)
+        , m_notes(fault)
         , m_dice(number)
         , m_inputs(m_dice)
         , m_chart(kindOf(number), m_dice.oneIn(2))
-    {
-        constexpr int kDigits = 17; // enough to tell any two numbers apart
-        m_rectangles.precision(kDigits);
-        m_settings.precision(kDigits);
-    }
+    {}
 
     CChartRecord live()
     {
@@ -66,12 +34,11 @@ public:
             changeItems(round);
             changeSettings();
             // What an earlier rendering left behind is told here.
-            note();
+            m_notes.addState(m_chart);
             render();
-            note();
+            m_notes.addState(m_chart);
         }
-        return CChartRecord{m_pixels.str(), m_rectangles.str(), m_descriptions.str(),
-                            m_settings.str()};
+        return m_notes.record();
     }
 
 private:
@@ -149,8 +116,8 @@ private:
             isPrinted
                 ? m_chart.createPixmapForPrinter(width, height, affordable(factor, width, height))
                 : m_chart.createPixmap(width, height);
-        ++m_pictures;
-        notePicture(picture.bytes());
+        m_notes.addPicture(picture.bytes());
+        keepPicture(picture.bytes());
     }
 
     // Larger pictures only take time. Those that cannot be made take none.
@@ -163,77 +130,21 @@ private:
         return factor;
     }
 
-    void notePicture(const std::string& png)
+    void keepPicture(const std::string& png) const
     {
-        QImage image = decodePng(png);
-        if (m_fault == SeededFault::Pixel && !image.isNull())
-            image.setPixel(image.width() / 2, image.height() / 2,
-                           image.pixel(image.width() / 2, image.height() / 2) ^ 1U);
-        m_pixels << image.width() << 'x' << image.height() << ' ' << std::hex << hashPixels(image)
-                 << std::dec << '\n';
-        if (!m_folder.empty())
-            std::ofstream(m_folder + '/' + std::to_string(m_number) + '-' +
-                              std::to_string(m_pictures) + ".png",
-                          std::ios::binary)
-                << png;
-    }
-
-    void note()
-    {
-        const char* fault = m_fault == SeededFault::Description ? "!" : "";
-        m_descriptions << m_chart.graph().describe() << fault << '\n';
-        noteRectangles("captions", m_chart.itemRectangles());
-        noteRectangles("bars", m_chart.barRectangles());
-        noteRectangles("items' bars", m_chart.itemBarRectangles());
-        noteSlices();
-        noteSettings();
-    }
-
-    void noteRectangles(const char* title, std::list<Rectangle> rectangles)
-    {
-        if (m_fault == SeededFault::Rectangle && !rectangles.empty())
-            ++rectangles.back().width;
-        m_rectangles << "after " << m_pictures << " pictures, " << title << ':';
-        for (const Rectangle& rectangle : rectangles)
-            m_rectangles << ' ' << rectangle;
-        m_rectangles << '\n';
-    }
-
-    void noteSlices()
-    {
-        m_rectangles << "after " << m_pictures << " pictures, slices:";
-        for (const Slice& slice : m_chart.slices()) {
-            const std::vector<Point> corners = getPolygon(slice);
-            m_rectangles << " (" << slice.x << ' ' << slice.y << ' ' << slice.width << ' '
-                         << slice.height << ' ' << slice.start << ' ' << slice.span << ", "
-                         << corners.size() << " corners " << std::hex << hashCorners(corners)
-                         << std::dec << ')';
-        }
-        m_rectangles << '\n';
-    }
-
-    void noteSettings()
-    {
-        const double threshold = m_chart.graph().threshold();
-        m_settings << "after " << m_pictures << " pictures, threshold ";
-        if (std::isnan(threshold))
-            m_settings << "nan";
-        else
-            m_settings << threshold + (m_fault == SeededFault::Setting ? 1 : 0);
-        m_settings << ", bar width " << m_chart.barWidth() << '\n';
+        if (m_folder.empty())
+            return;
+        const std::string name =
+            std::to_string(m_number) + '-' + std::to_string(m_notes.pictures()) + ".png";
+        std::ofstream(m_folder + '/' + name, std::ios::binary) << png;
     }
 
     const unsigned m_number;
     const std::string m_folder;
-    const SeededFault m_fault;
+    CChartNotes m_notes;
     CDice m_dice;
     CRandomInputs m_inputs;
     CAnyChart m_chart;
-    int m_pictures = 0;
-    std::ostringstream m_pixels;
-    std::ostringstream m_rectangles;
-    std::ostringstream m_descriptions;
-    std::ostringstream m_settings;
 };
 
 } // namespace

@@ -4,28 +4,11 @@
 #ifndef TOVANGL_DIFFERENCES_RANDOM_CHART_H
 #define TOVANGL_DIFFERENCES_RANDOM_CHART_H
 
+#include "differences/CChartNotes.h"
+
 #include <string>
 
 namespace tovangl {
-
-/// What a chart gave in its whole life, as text, sorted by kind.
-struct CChartRecord
-{
-    std::string pixels; ///< a line for each picture: its size, and a hash of its decoded pixels
-    std::string rectangles;
-    std::string descriptions;
-    std::string settings; ///< what the chart tells of its settings
-};
-
-/// A change that the comparison has to find, made to what a chart gave.
-enum class SeededFault
-{
-    None,
-    Pixel,
-    Rectangle,
-    Description,
-    Setting
-};
 
 /// Makes the chart of that number, changes and renders it a few times and destroys it. The same
 /// number always makes the same calls.

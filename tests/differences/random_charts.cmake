@@ -1,6 +1,7 @@
 # The program random_charts. It is built twice: here, and in the tree of another commit against the
 # library of that one. So it takes nothing from the tests but sources that see the public headers alone.
 add_executable(random_charts
+    ${CMAKE_CURRENT_LIST_DIR}/CChartNotes.cpp
     ${CMAKE_CURRENT_LIST_DIR}/batch_run.cpp
     ${CMAKE_CURRENT_LIST_DIR}/random_chart.cpp
     ${CMAKE_CURRENT_LIST_DIR}/random_charts_main.cpp

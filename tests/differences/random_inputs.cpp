@@ -107,12 +107,14 @@ int CRandomInputs::itemCount()
     constexpr int kMany = 300;
     constexpr int kThousands = 3000;
     if (m_dice.oneIn(150))
-        return m_dice.roll(kMany, kThousands);
-    if (m_dice.oneIn(10))
-        return m_dice.roll(30, kMany);
-    if (m_dice.oneIn(30))
-        return 0;
-    return m_dice.roll(1, m_dice.oneIn(3) ? 4 : 30);
+        m_itemCount = m_dice.roll(kMany, kThousands);
+    else if (m_dice.oneIn(10))
+        m_itemCount = m_dice.roll(30, kMany);
+    else if (m_dice.oneIn(30))
+        m_itemCount = 0;
+    else
+        m_itemCount = m_dice.roll(1, m_dice.oneIn(3) ? 4 : 30);
+    return m_itemCount;
 }
 
 long CRandomInputs::value()
@@ -208,6 +210,9 @@ double CRandomInputs::threshold()
                                   -std::numeric_limits<double>::infinity(),
                                   std::numeric_limits<double>::quiet_NaN()};
     constexpr double kParts = 8;
+    constexpr double kAll = 100;
+    if (m_valueStyle == ValueStyle::Equal && m_itemCount > 0 && m_dice.oneIn(2))
+        return kAll / m_itemCount;
     if (m_dice.oneIn(6))
         return m_dice.pick(kRare);
     return m_dice.roll(0, m_dice.oneIn(4) ? 400 : 24) / kParts;
@@ -221,6 +226,9 @@ std::string CRandomInputs::fontFamily()
 
 int CRandomInputs::fontSize()
 {
+    constexpr std::array kRare = {kLeastInt, 100, 300};
+    if (m_dice.oneIn(40))
+        return m_dice.pick(kRare);
     return m_dice.oneIn(4) ? m_dice.roll(-3, 60) : m_dice.roll(8, 20);
 }
 

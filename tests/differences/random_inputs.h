@@ -22,6 +22,7 @@ public:
     [[nodiscard]] std::string text();
     /// One in eight has channels that are none.
     [[nodiscard]] Color color();
+    /// Per cent. Equal values often have exactly that share.
     [[nodiscard]] double threshold();
     [[nodiscard]] std::string fontFamily();
     [[nodiscard]] int fontSize();
@@ -63,6 +64,7 @@ private:
     ValueStyle m_valueStyle;
     TextStyle m_textStyle;
     long m_equalValue;
+    int m_itemCount = 0; // the last one that was told
 };
 
 } // namespace tovangl
