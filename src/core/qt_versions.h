@@ -13,6 +13,7 @@
 #include <QTextOption>
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include "core/digit_groups.h"
 #include "core/whole_pixel_text.h"
 
 #include <QGuiApplication>
@@ -64,10 +65,30 @@ inline QString decimalPoint(const QLocale& locale)
 {
     return QString(locale.decimalPoint());
 }
+
+inline QString groupedText(long long value, const QLocale& locale)
+{
+    return locale.toString(value);
+}
+
+inline QString groupedText(double value, int decimals, const QLocale& locale)
+{
+    return locale.toString(value, 'f', decimals);
+}
 #else
 inline QString decimalPoint(const QLocale& locale)
 {
     return locale.decimalPoint();
+}
+
+inline QString groupedText(long long value, const QLocale& locale)
+{
+    return separateLeadingDigits(locale.toString(value), locale.groupSeparator());
+}
+
+inline QString groupedText(double value, int decimals, const QLocale& locale)
+{
+    return separateLeadingDigits(locale.toString(value, 'f', decimals), locale.groupSeparator());
 }
 #endif
 

@@ -55,7 +55,7 @@ QString dropDecimalOfThreeDigits(const QString& text, const QLocale& locale)
 
 QString fixedText(const CScaledNumber& number, int decimalsWhenScaled, const QLocale& locale)
 {
-    return locale.toString(number.value, 'f', number.prefix == 0 ? 0 : decimalsWhenScaled);
+    return qt::groupedText(number.value, number.prefix == 0 ? 0 : decimalsWhenScaled, locale);
 }
 
 } // namespace
@@ -63,7 +63,7 @@ QString fixedText(const CScaledNumber& number, int decimalsWhenScaled, const QLo
 QString numberText(long long value, int format, const QLocale& locale, const CKilo& kilo)
 {
     if (format == PlainNumber)
-        return locale.toString(value);
+        return qt::groupedText(value, locale);
 
     const double threshold = format == PrefixedFromTen ? kFromTenThreshold : kilo.size;
     const CScaledNumber number = scaleByKilo(signedMagnitude(value), threshold, kilo.size);
@@ -79,7 +79,7 @@ QString numberText(long long value, int format, const QLocale& locale, const CKi
         text = dropDecimalOfThreeDigits(fixedText(number, 1, locale), locale);
         break;
     default:
-        text = locale.toString(value);
+        text = qt::groupedText(value, locale);
     }
     // Deliberate: an ASCII hyphen, whatever the locale's own sign.
     if (value < 0)

@@ -85,6 +85,19 @@ INSTANTIATE_TEST_SUITE_P(NumberText, WorkedNumber, ::testing::Values(
     CWorkedNumber{9223372036854775807LL, "9,223,372,036,854,775,807", "8 E", "9 E", "8.00 E", "9.2 E", "8.0 E", "9.2 E"}));
 // clang-format on
 
+TEST(NumberText, GroupsTheDigitsWhereALocaleWantsTwoBeforeTheFirstSeparator)
+{
+    EXPECT_EQ(written(1234, PlainNumber, kKilo1024, "es_ES"), "1.234");
+    EXPECT_EQ(written(-1234567, PlainNumber, kKilo1024, "es_ES"), "-1.234.567");
+    EXPECT_EQ(written(1023, PrefixedWhole, kKilo1024, "es_ES"), "1.023");
+    EXPECT_EQ(written(1048575, PrefixedOneDecimal, kKilo1024, "es_ES"), "1.024,0 K");
+}
+
+TEST(NumberText, GroupsByTwoWhereALocaleDoes)
+{
+    EXPECT_EQ(written(1234567, PlainNumber, kKilo1024, "en_IN"), "12,34,567");
+}
+
 TEST(NumberText, APlainNegativeNumberKeepsItsGrouping)
 {
     EXPECT_EQ(written(-5000, PlainNumber), "-5,000");
