@@ -2,45 +2,54 @@
 // Keeps Qt's messages about the library's own doings out of the host's output.
 #include "api/CMessageSilencer.h"
 
-#include <atomic>
-#include <mutex>
+#include "api/message_filter.h"
+
+#include <QMetaType>
+
+namespace tovangl {
+
+/// The filter of the copy of the library that made this object. Its name stands for its shape:
+/// every copy in a process has to agree on both.
+struct CMessageFilter1
+{
+    void (*begin)() = beginSilence;
+    void (*end)() = endSilence;
+};
+
+} // namespace tovangl
+
+Q_DECLARE_METATYPE(tovangl::CMessageFilter1)
 
 namespace tovangl {
 
 namespace {
 
-std::mutex silencerMutex;
-int silencerCount = 0;
-std::atomic<QtMessageHandler> hostHandler{nullptr};
-thread_local int silencedDepth = 0;
-
-void filterMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+// Static copies of the library in one process, each in a plugin of its own say, share one filter:
+// several would pile up in front of each other without end. Qt keeps types by name, and has an
+// object of this one made by the copy that came first.
+CMessageFilter1 filterOfFirstCopy()
 {
-    const QtMessageHandler handler = hostHandler;
-    if (silencedDepth == 0 && handler)
-        handler(type, context, message);
+    CMessageFilter1 filter;
+    QMetaType(qRegisterMetaType<CMessageFilter1>()).construct(&filter);
+    return filter;
+}
+
+const CMessageFilter1& sharedFilter()
+{
+    static const CMessageFilter1 filter = filterOfFirstCopy();
+    return filter;
 }
 
 } // namespace
 
 CMessageSilencer::CMessageSilencer()
 {
-    ++silencedDepth;
-    const std::lock_guard<std::mutex> lock(silencerMutex);
-    if (silencerCount++ == 0)
-        hostHandler = qInstallMessageHandler(filterMessage);
+    sharedFilter().begin();
 }
 
 CMessageSilencer::~CMessageSilencer()
 {
-    --silencedDepth;
-    const std::lock_guard<std::mutex> lock(silencerMutex);
-    if (--silencerCount > 0)
-        return;
-    // A handler that the host installed meanwhile stays.
-    const QtMessageHandler current = qInstallMessageHandler(hostHandler);
-    if (current != filterMessage)
-        qInstallMessageHandler(current);
+    sharedFilter().end();
 }
 
 } // namespace tovangl

@@ -25,9 +25,15 @@ public:
     bool draw(const std::string& folder, const std::string& name) const
     {
         using Draw = bool (*)(const char*, const char*);
-        void* symbol = dlsym(m_handle, "drawPieInModule");
+        return function<Draw>("drawPieInModule")(folder.c_str(), name.c_str());
+    }
+
+    template <typename Function>
+    Function function(const char* name) const
+    {
+        void* symbol = dlsym(m_handle, name);
         requireHandle(symbol);
-        return reinterpret_cast<Draw>(symbol)(folder.c_str(), name.c_str());
+        return reinterpret_cast<Function>(symbol);
     }
 
 private:
