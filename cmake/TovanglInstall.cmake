@@ -12,10 +12,15 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/tovangl
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
     FILES_MATCHING PATTERN "*.h")
 
-# find_package(tovangl): a static library asks for the Qt that it was built on.
+# find_package(tovangl): a static library asks for the Qt and the compressors that it was built on.
 if(BUILD_SHARED_LIBS)
     set(tovangl_dependencies "")
 else()
+    foreach(package ${tovangl_compressor_packages})
+        string(APPEND tovangl_find_compressors "find_dependency(${package})\n")
+        install(FILES ${PROJECT_SOURCE_DIR}/cmake/Find${package}.cmake
+            DESTINATION ${tovangl_config_dir} COMPONENT development)
+    endforeach()
     configure_file(${PROJECT_SOURCE_DIR}/cmake/static_dependencies.cmake.in
         ${CMAKE_CURRENT_BINARY_DIR}/static_dependencies.cmake @ONLY)
     file(READ ${CMAKE_CURRENT_BINARY_DIR}/static_dependencies.cmake tovangl_dependencies)
@@ -36,7 +41,8 @@ install(FILES
 # pkg-config
 set(tovangl_pc_private "")
 if(NOT BUILD_SHARED_LIBS)
-    set(tovangl_pc_private "Requires.private: ${tovangl_qt_pkgconfig}
+    list(JOIN tovangl_compressor_pkgconfig ", " tovangl_pc_compressors)
+    set(tovangl_pc_private "Requires.private: ${tovangl_qt_pkgconfig}, ${tovangl_pc_compressors}
 Libs.private: -Wl,-z,nodelete ${CMAKE_THREAD_LIBS_INIT}
 ")
 endif()

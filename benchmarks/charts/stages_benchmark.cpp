@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// How the time of a chart is split: layout, picture (layout and painting), narrowing and saving.
-#include "api/image_narrowing.h"
+// How the time of a chart is split: layout, picture (layout and painting), packing and
+// compressing.
 #include "bar/CBarGraph.h"
 #include "bar/CLabeledBarGraph.h"
 #include "charts/case_list.h"
+#include "output/CDeflater.h"
+#include "output/packed_picture.h"
 #include "pie/CPieGraph.h"
 
-#include <QBuffer>
-#include <QByteArray>
 #include <QImage>
 #include <QPainter>
 
@@ -69,30 +69,24 @@ void picture(benchmark::State& state, const CChartCase& chart)
 }
 
 template <typename Chart>
-void narrowing(benchmark::State& state, const CChartCase& chart)
+void packing(benchmark::State& state, const CChartCase& chart)
 {
     const QImage original = drawPicture(*makeChart<Chart>(chart), chart);
     for (auto _ : state) {
         state.PauseTiming();
         QImage image = original.copy();
         state.ResumeTiming();
-        benchmark::DoNotOptimize(narrowImage(image).format());
+        benchmark::DoNotOptimize(packPicture(image).rows.size);
     }
 }
 
 template <typename Chart>
-void saving(benchmark::State& state, const CChartCase& chart)
+void compressing(benchmark::State& state, const CChartCase& chart, Compression compression)
 {
-    constexpr int kDefaultQuality = -1;
     QImage picture = drawPicture(*makeChart<Chart>(chart), chart);
-    const QImage narrow = narrowImage(picture);
-    for (auto _ : state) {
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        narrow.save(&buffer, "PNG", kDefaultQuality);
-        benchmark::DoNotOptimize(bytes.constData());
-    }
+    const CPackedPicture packed = packPicture(picture);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(CDeflater(packed.rows, compression).deflate(packed.spare));
 }
 
 template <typename Chart>
@@ -103,8 +97,11 @@ void registerStages(const bench::CNamedCase& named)
     if (chart.factor == 1)
         benchmark::RegisterBenchmark((prefix + "layout").c_str(), layout<Chart>, chart);
     benchmark::RegisterBenchmark((prefix + "picture").c_str(), picture<Chart>, chart);
-    benchmark::RegisterBenchmark((prefix + "narrowing").c_str(), narrowing<Chart>, chart);
-    benchmark::RegisterBenchmark((prefix + "saving").c_str(), saving<Chart>, chart);
+    benchmark::RegisterBenchmark((prefix + "packing").c_str(), packing<Chart>, chart);
+    benchmark::RegisterBenchmark((prefix + "compressing").c_str(), compressing<Chart>, chart,
+                                 Compression::Balanced);
+    benchmark::RegisterBenchmark((prefix + "compressingFast").c_str(), compressing<Chart>, chart,
+                                 Compression::Fast);
 }
 
 int registerAll()

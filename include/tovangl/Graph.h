@@ -4,6 +4,7 @@
 #ifndef TOVANGL_GRAPH_H
 #define TOVANGL_GRAPH_H
 
+#include <tovangl/Compression.h>
 #include <tovangl/Export.h>
 #include <tovangl/Problem.h>
 #include <tovangl/Rectangle.h>
@@ -64,6 +65,11 @@ public:
     /// @param country   its first two characters count, e.g. "at"; a pair that the system does not
     ///                  know gives the "C" locale
     void setLocale(const std::string& language, const std::string& country);
+
+    /// Chooses between small files and a short time. The default is Compression::Balanced.
+    ///
+    /// The pixels are the same, and so is the file of the same picture under the same setting.
+    void setCompression(Compression compression);
 
     /// Where the captions were drawn: one rectangle for each item, in the order of adding.
     ///
@@ -127,6 +133,7 @@ private:
 
     unsigned char* m_pixmapData;        // owned
     std::list<Rectangle>* m_rectangles; // owned
+    Compression m_compression;
 };
 
 } // namespace tovangl

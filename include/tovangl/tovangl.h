@@ -6,6 +6,7 @@
 
 #include <tovangl/AxisProperty.h>
 #include <tovangl/Color.h>
+#include <tovangl/Compression.h>
 #include <tovangl/Export.h>
 #include <tovangl/Graph.h>
 #include <tovangl/HorizontalBarGraph.h>

@@ -3,17 +3,12 @@
 #include "api/CRendering.h"
 #include "api/conversions.h"
 #include "api/description.h"
-#include "api/image_narrowing.h"
 #include "api/problem_text.h"
 #include "core/CGraph1dBase.h"
+#include "output/png_encoding.h"
 #include <tovangl/Graph.h>
 
-#include <QBuffer>
-#include <QByteArray>
 #include <QImage>
-
-#include <algorithm>
-#include <memory>
 
 namespace tovangl {
 
@@ -47,6 +42,7 @@ Graph::Graph()
     : m_graph(nullptr)
     , m_pixmapData(nullptr)
     , m_rectangles(new std::list<Rectangle>)
+    , m_compression(Compression::Balanced)
 {}
 
 Graph::~Graph()
@@ -88,6 +84,11 @@ void Graph::setLocale(const std::string& language, const std::string& country)
 {
     if (m_graph)
         m_graph->setLocale(toQString(language), toQString(country));
+}
+
+void Graph::setCompression(Compression compression)
+{
+    m_compression = compression;
 }
 
 std::list<Rectangle>* Graph::getRectangle()
@@ -140,24 +141,14 @@ void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned c
 template <typename Surface>
 void Graph::paintDevice2Bytes(Surface& surface, unsigned char** data, int* size)
 {
-    constexpr int kDefaultQuality = -1;
     const ChartProblem ofDrawing = m_graph->problem();
     m_graph->setProblem(ChartProblem::NoMemory); // in case that it runs out from here on
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    // Deliberate: a picture that cannot be saved, the null picture above all, leaves no bytes.
-    narrowImage(surface).save(&buffer, "PNG", kDefaultQuality);
-
-    const int length = static_cast<int>(bytes.size());
-    auto pixmapData = std::make_unique<unsigned char[]>(static_cast<std::size_t>(length));
-    std::copy(bytes.constBegin(), bytes.constEnd(), pixmapData.get());
+    CPngFile file = encodePng(surface, m_compression);
     delete[] m_pixmapData;
-    m_pixmapData = pixmapData.release();
+    m_pixmapData = file.data.release();
     *data = m_pixmapData;
-    *size = length;
-    if (length > 0 || surface.isNull())
-        m_graph->setProblem(ofDrawing);
+    *size = static_cast<int>(file.size);
+    m_graph->setProblem(ofDrawing);
 }
 
 } // namespace tovangl

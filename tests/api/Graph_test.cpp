@@ -2,6 +2,7 @@
 #include "support/CTestChart.h"
 #include "support/public_records.h"
 #include <tovangl/Graph.h>
+#include <tovangl/VerticalBarGraph.h>
 
 #include <QLocale>
 
@@ -93,6 +94,7 @@ TEST(GraphWithoutChart, IgnoresSettings)
     Graph graph;
     graph.setFont("Tahoma", 11);
     graph.setLocale("en", "us");
+    graph.setCompression(Compression::Fast);
     graph.clear();
     graph.freePixmap();
     EXPECT_TRUE(graph.getRectangle()->empty());
@@ -129,6 +131,26 @@ TEST(Graph, ExportsTheSamePixelsTwice)
     CTestGraph graph;
     const QImage first = exported(graph, 40, 30).decoded();
     EXPECT_EQ(exported(graph, 40, 30).decoded(), first);
+}
+
+TEST(Graph, ExportsTheSamePixelsWithEveryCompression)
+{
+    CTestGraph graph;
+    const QImage balanced = exported(graph, 400, 700).decoded();
+    graph.setCompression(Compression::Fast);
+    EXPECT_EQ(exported(graph, 400, 700).decoded(), balanced);
+}
+
+TEST(Graph, ExportsItsSmallerFileUnlessAskedForSpeed)
+{
+    VerticalBarGraph graph(false);
+    for (long value = 1; value < 60; ++value)
+        graph.addItem(value * value, "item");
+    const int before = exported(graph, 1600, 800).size;
+    graph.setCompression(Compression::Fast);
+    EXPECT_GT(exported(graph, 1600, 800).size, before);
+    graph.setCompression(Compression::Balanced);
+    EXPECT_EQ(exported(graph, 1600, 800).size, before);
 }
 
 TEST(Graph, FreesItsBytesOnRequestAndTwiceIsHarmless)

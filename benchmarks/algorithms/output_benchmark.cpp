@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// How fast a picture is made as narrow as its pixels allow.
-#include "api/image_narrowing.h"
+// How fast a picture is packed and compressed.
+#include "output/CDeflater.h"
+#include "output/packed_picture.h"
 
 #include <QColor>
 #include <QImage>
@@ -28,17 +29,27 @@ QImage stripes(int colors)
     return image;
 }
 
-void narrow(benchmark::State& state)
+void pack(benchmark::State& state)
 {
     const QImage original = stripes(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         state.PauseTiming();
         QImage image = original.copy();
         state.ResumeTiming();
-        benchmark::DoNotOptimize(narrowImage(image).format());
+        benchmark::DoNotOptimize(packPicture(image).rows.size);
     }
 }
-BENCHMARK(narrow)->ArgName("colors")->Arg(1)->Arg(32)->Arg(256)->Arg(65536);
+BENCHMARK(pack)->ArgName("colors")->Arg(1)->Arg(16)->Arg(256)->Arg(65536);
+
+void deflate(benchmark::State& state, Compression compression)
+{
+    QImage image = stripes(static_cast<int>(state.range(0)));
+    const CPackedPicture packed = packPicture(image);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(CDeflater(packed.rows, compression).deflate(packed.spare));
+}
+BENCHMARK_CAPTURE(deflate, balanced, Compression::Balanced)->ArgName("colors")->Arg(16)->Arg(65536);
+BENCHMARK_CAPTURE(deflate, fast, Compression::Fast)->ArgName("colors")->Arg(16)->Arg(65536);
 
 } // namespace
 } // namespace tovangl

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 /// @file
 /// The different colours of a picture, numbered in the order in which they were met.
-#ifndef TOVANGL_API_CCOLORINDEX_H
-#define TOVANGL_API_CCOLORINDEX_H
+#ifndef TOVANGL_OUTPUT_CCOLORINDEX_H
+#define TOVANGL_OUTPUT_CCOLORINDEX_H
 
-#include <QColor>
-#include <QVector>
+#include <QRgb>
 
 #include <array>
 #include <cstddef>
@@ -34,22 +33,15 @@ public:
         return slot.number;
     }
 
+    /// The number of a colour that has been added.
+    [[nodiscard]] int numberOf(QRgb color) const { return m_slots[findSlot(color)].number; }
+
     [[nodiscard]] QRgb colorAt(int number) const
     {
         return m_colors[static_cast<std::size_t>(number)];
     }
 
     [[nodiscard]] int count() const { return m_count; }
-
-    /// The colours by number.
-    [[nodiscard]] QVector<QRgb> colors() const
-    {
-        QVector<QRgb> result;
-        result.reserve(m_count);
-        for (int i = 0; i < m_count; ++i)
-            result.append(m_colors[static_cast<std::size_t>(i)]);
-        return result;
-    }
 
 private:
     static constexpr unsigned kHashBits = 10;

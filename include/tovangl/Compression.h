@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// How hard a chart's PNG file is compressed.
+#ifndef TOVANGL_COMPRESSION_H
+#define TOVANGL_COMPRESSION_H
+
+#include <tovangl/Export.h>
+
+namespace tovangl {
+
+/// The choice between small files and a short time. The pixels are the same either way.
+enum class Compression
+{
+    Balanced, ///< small files, which is the default
+    Fast      ///< files about a fifth larger, in a fraction of the time
+};
+
+/// What Compression::Fast compresses large pictures with in this build of the library: "ISA-L", or
+/// "libdeflate" where it was built without ISA-L.
+///
+/// @return a string that is always there; never null
+TOVANGL_EXPORT const char* fastCompressor() noexcept;
+
+} // namespace tovangl
+
+#endif

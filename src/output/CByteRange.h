@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Bytes that somebody else owns.
+#ifndef TOVANGL_OUTPUT_CBYTERANGE_H
+#define TOVANGL_OUTPUT_CBYTERANGE_H
+
+#include <cstddef>
+
+namespace tovangl {
+
+/// Bytes to be read.
+struct CByteRange
+{
+    const unsigned char* data = nullptr; // borrowed
+    std::size_t size = 0;
+};
+
+/// Room to be written to.
+struct CByteRoom
+{
+    unsigned char* data = nullptr; // borrowed
+    std::size_t size = 0;
+};
+
+} // namespace tovangl
+
+#endif

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Puts the chunks of a PNG file around the compressed rows.
+#ifndef TOVANGL_OUTPUT_CPNGBUILDER_H
+#define TOVANGL_OUTPUT_CPNGBUILDER_H
+
+#include "output/CByteRange.h"
+#include "output/packed_picture.h"
+
+#include <memory>
+
+namespace tovangl {
+
+/// The bytes of a PNG file.
+struct CPngFile
+{
+    std::unique_ptr<unsigned char[]> data;
+    std::size_t size = 0;
+};
+
+/// Writes what stands before the rows, leaves room for them, and closes the file behind them.
+class CPngBuilder
+{
+public:
+    /// @param room  the most bytes that the compressed rows may take
+    CPngBuilder(const CPackedPicture& picture, std::size_t room);
+
+    /// Where the compressed rows go.
+    [[nodiscard]] CByteRoom room() const;
+
+    /// The file, in which the compressed rows have taken so many bytes.
+    [[nodiscard]] CPngFile finish(std::size_t size);
+
+private:
+    void writeHeader(const CPackedPicture& picture);
+    void writePalette(const std::vector<QRgb>& palette);
+    void writeResolution();
+
+    void beginChunk(const char* type, std::size_t size);
+    void endChunk();
+    void writeByte(unsigned value);
+    void writeNumber(std::size_t value);
+
+    std::size_t m_room;
+    std::unique_ptr<unsigned char[]> m_data;
+    unsigned char* m_next;                    // where the next byte goes
+    const unsigned char* m_checked = nullptr; // where the chunk in work begins to be checked
+};
+
+} // namespace tovangl
+
+#endif

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// Stands in for the quickest compressor where the library is built without ISA-L.
+#include "output/fast_deflating.h"
+
+namespace tovangl {
+
+bool canDeflateFast()
+{
+    return false;
+}
+
+std::size_t deflateFast(CByteRange, CByteRoom)
+{
+    return 0;
+}
+
+} // namespace tovangl

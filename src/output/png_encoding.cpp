@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// Turns a painted picture into the bytes of a PNG file.
+#include "output/png_encoding.h"
+
+#include "output/CDeflater.h"
+#include "output/packed_picture.h"
+
+#include <QImage>
+
+#include <algorithm>
+
+namespace tovangl {
+
+namespace {
+
+CPngFile noFile()
+{
+    return {std::make_unique<unsigned char[]>(0), 0};
+}
+
+} // namespace
+
+CPngFile encodePng(QImage& picture, Compression compression)
+{
+    if (picture.isNull())
+        return noFile();
+    const CPackedPicture packed = packPicture(picture);
+    CDeflater deflater(packed.rows, compression);
+    // The rows of nearly every chart fit into the memory that packing them has left over.
+    if (const std::size_t size = deflater.deflate(packed.spare)) {
+        CPngBuilder builder(packed, size);
+        std::copy_n(packed.spare.data, size, builder.room().data);
+        return builder.finish(size);
+    }
+    CPngBuilder builder(packed, deflater.bound());
+    return builder.finish(deflater.deflate(builder.room()));
+}
+
+} // namespace tovangl

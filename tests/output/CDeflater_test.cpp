@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "output/CDeflater.h"
+#include "output/fast_deflating.h"
+
+#include <gtest/gtest.h>
+#include <libdeflate.h>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace tovangl {
+namespace {
+
+using Bytes = std::vector<unsigned char>;
+
+constexpr std::size_t kLarge = 600000; // more than what is small, and what is middle
+
+Bytes repetitiveBytes(std::size_t size)
+{
+    Bytes bytes(size);
+    std::minstd_rand random;
+    for (std::size_t i = 0; i < size; ++i)
+        bytes[i] =
+            i % 1000 == 0 || i < 1000 ? static_cast<unsigned char>(random()) : bytes[i - 1000];
+    return bytes;
+}
+
+Bytes anyBytes(std::size_t size)
+{
+    Bytes bytes(size);
+    std::mt19937 random;
+    for (unsigned char& byte : bytes)
+        byte = static_cast<unsigned char>(random());
+    return bytes;
+}
+
+Bytes inflated(const Bytes& stream, std::size_t size)
+{
+    Bytes bytes(size);
+    libdeflate_decompressor* const decompressor = libdeflate_alloc_decompressor();
+    const auto result = libdeflate_zlib_decompress(decompressor, stream.data(), stream.size(),
+                                                   bytes.data(), bytes.size(), nullptr);
+    libdeflate_free_decompressor(decompressor);
+    return result == LIBDEFLATE_SUCCESS ? bytes : Bytes();
+}
+
+Bytes deflated(const Bytes& bytes, Compression compression)
+{
+    CDeflater deflater({bytes.data(), bytes.size()}, compression);
+    Bytes stream(deflater.bound());
+    stream.resize(deflater.deflate({stream.data(), stream.size()}));
+    return stream;
+}
+
+class DeflatingBytes : public ::testing::TestWithParam<Compression>
+{};
+
+TEST_P(DeflatingBytes, GivesThemBack)
+{
+    for (const std::size_t size : {1u, 7u, 1000u, 131071u, 131072u, 524288u, 3000000u}) {
+        for (const Bytes& bytes : {repetitiveBytes(size), anyBytes(size)})
+            EXPECT_EQ(inflated(deflated(bytes, GetParam()), size), bytes) << size;
+    }
+}
+
+TEST_P(DeflatingBytes, GivesTheSameStreamEachTime)
+{
+    const Bytes bytes = repetitiveBytes(kLarge);
+    const Bytes stream = deflated(bytes, GetParam());
+    (void)deflated(anyBytes(kLarge), GetParam());
+    EXPECT_EQ(deflated(bytes, GetParam()), stream);
+}
+
+TEST_P(DeflatingBytes, GivesNothingWhereTheStreamDoesNotFit)
+{
+    const Bytes bytes = anyBytes(kLarge);
+    for (const std::size_t room : {0u, 1u, 5u, 100u, 4096u, 300000u, 599999u}) {
+        Bytes stream(room + 1, 0xa5);
+        CDeflater deflater({bytes.data(), bytes.size()}, GetParam());
+        EXPECT_EQ(deflater.deflate({stream.data(), room}), 0u) << room;
+        EXPECT_EQ(stream.back(), 0xa5) << room;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Deflater, DeflatingBytes,
+                         ::testing::Values(Compression::Balanced, Compression::Fast));
+
+TEST(Deflater, NamesWhatFastUses)
+{
+    EXPECT_EQ(std::string(fastCompressor()), canDeflateFast() ? "ISA-L" : "libdeflate");
+}
+
+} // namespace
+} // namespace tovangl

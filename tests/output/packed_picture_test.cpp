@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "output/packed_picture.h"
+#include "output/random_pictures.h"
+
+#include <QImage>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tovangl {
+namespace {
+
+using ::testing::ElementsAre;
+
+struct CDepthCase
+{
+    int colors;
+    int depth;
+};
+
+class DepthOfAPalette : public ::testing::TestWithParam<CDepthCase>
+{};
+
+TEST_P(DepthOfAPalette, IsTheFewestBitsThatNumberItsColours)
+{
+    EXPECT_EQ(paletteDepth(GetParam().colors), GetParam().depth);
+}
+
+INSTANTIATE_TEST_SUITE_P(PackedPicture, DepthOfAPalette,
+                         ::testing::Values(CDepthCase{1, 1}, CDepthCase{2, 1}, CDepthCase{3, 2},
+                                           CDepthCase{4, 2}, CDepthCase{5, 4}, CDepthCase{16, 4},
+                                           CDepthCase{17, 8}, CDepthCase{256, 8}));
+
+std::vector<int> rowsOf(const CPackedPicture& packed)
+{
+    return std::vector<int>(packed.rows.data, packed.rows.data + packed.rows.size);
+}
+
+TEST(PackedPicture, PutsTheFirstPixelIntoTheHighestBits)
+{
+    QImage picture(3, 1, QImage::Format_ARGB32);
+    picture.setPixel(0, 0, qRgb(0, 0, 0));
+    picture.setPixel(1, 0, qRgb(1, 1, 1));
+    picture.setPixel(2, 0, qRgb(2, 2, 2));
+    EXPECT_THAT(rowsOf(packPicture(picture)), ElementsAre(0, 0b00011000));
+}
+
+TEST(PackedPicture, HoldsRedGreenAndBlueWhereColoursAreMany)
+{
+    QImage picture = pictureOfColors(257);
+    const CPackedPicture packed = packPicture(picture);
+    EXPECT_TRUE(packed.palette.empty());
+    EXPECT_EQ(packed.rows.size, 1 + 257 * 3u);
+    EXPECT_EQ(packed.rows.data[1 + 256 * 3 + 1], 1);
+}
+
+TEST(PackedPicture, LiesInThePicturesOwnMemory)
+{
+    for (const int colors : {1, 3, 12, 200, 100000}) {
+        QImage picture = randomPicture(1, 61, 47, colors);
+        const unsigned char* const memory = picture.bits();
+        const CPackedPicture packed = packPicture(picture);
+        EXPECT_EQ(packed.rows.data, memory);
+        EXPECT_EQ(packed.spare.data, memory + packed.rows.size);
+        EXPECT_EQ(packed.rows.size + packed.spare.size, 61 * 47 * 4u);
+    }
+}
+
+TEST(RowFilter, IsNoneWhereNoRowRepeatsTheRowAbove)
+{
+    EXPECT_EQ(chooseFilter(1000000, 0, 600), RowFilter::None);
+}
+
+TEST(RowFilter, IsNoneForShortRowsAndUpForLongOnesOfABarChart)
+{
+    EXPECT_EQ(chooseFilter(400, 350, 50), RowFilter::None);
+    EXPECT_EQ(chooseFilter(800, 350, 50), RowFilter::Up);
+}
+
+TEST(RowFilter, IsNoneWhereFewRowsRepeatTheRowAbove)
+{
+    EXPECT_EQ(chooseFilter(800, 50, 350), RowFilter::None);
+}
+
+} // namespace
+} // namespace tovangl
