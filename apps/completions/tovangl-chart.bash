@@ -1,7 +1,7 @@
 # bash completion for tovangl-chart
 _tovangl_chart() {
     local common='-o --output --map --size --print --font --font-size --locale --threshold
-        --background --text-color --help'
+        --background --fast --text-color --help'
     local bars='--category-title --category-axis --bar-width --position'
     local pie='--bold --shorten-left --keep-overlaps --without-sizes --outline-color --line-color'
     local axis='line labels title bold-labels bold-title prefixes hide-overlapped shift-last none'

@@ -21,6 +21,7 @@ complete -c tovangl-chart -n $any -l font-size -x -d 'Font size in pixels'
 complete -c tovangl-chart -n $any -l locale -x -d 'How numbers are written'
 complete -c tovangl-chart -n $any -l threshold -x -d 'Leave out smaller shares'
 complete -c tovangl-chart -n $any -l background -d 'Paint the background'
+complete -c tovangl-chart -n $any -l fast -d 'Save sooner, in a larger file'
 complete -c tovangl-chart -n $any -l text-color -x -d 'Colour of the captions'
 
 complete -c tovangl-chart -n $pie -l bold -d 'Captions in bold type'

@@ -3,6 +3,7 @@
 #include "tovangl-chart/command_line.h"
 
 #include "common/program_arguments.h"
+#include <tovangl/Compression.h>
 
 namespace tovangl::program {
 
@@ -38,7 +39,9 @@ CLI::App* addChartCommand(CLI::App& program, const char* name, const char* descr
 void runCommandLine(int count, const char* const* arguments, const char* version)
 {
     CLI::App program(kDescription);
-    describeProgram(program, "tovangl-chart", version, kTeaching);
+    const std::string whatRuns =
+        version + std::string("\n--fast compresses with ") + fastCompressor();
+    describeProgram(program, "tovangl-chart", whatRuns.c_str(), kTeaching);
     program.require_subcommand(1);
     addPieCommand(program);
     addBarsCommand(program);

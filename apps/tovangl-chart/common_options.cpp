@@ -50,6 +50,7 @@ void addLookOptions(CLI::App& command, CommonOptions& options)
               "Leave out items below this share of the total")
         ->type_name("PERCENT");
     command.add_flag("--background", options.background, "Paint the background");
+    command.add_flag("--fast", options.fast, "Save sooner, in a larger file");
 }
 
 } // namespace
@@ -69,6 +70,7 @@ void applyCommonOptions(Graph& chart, const CommonOptions& options)
         chart.setLocale(options.locale->language, options.locale->country);
     if (options.threshold)
         chart.setThreshold(*options.threshold);
+    chart.setCompression(options.fast ? Compression::Fast : Compression::Balanced);
 }
 
 } // namespace tovangl::program

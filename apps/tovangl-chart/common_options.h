@@ -29,6 +29,7 @@ struct CommonOptions
     std::optional<LocaleName> locale;
     std::optional<double> threshold;
     bool background = false;
+    bool fast = false;
 };
 
 /// Adds the options that every chart has to its command.

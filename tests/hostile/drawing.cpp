@@ -68,9 +68,11 @@ void drawEverything(CAnyChart& chart, int width, int height, int factor)
     checkSize(picture, width, height);
     checkProblem(picture, chart.graph());
     checkRectangles(chart, kOnScreen);
+    chart.graph().setCompression(Compression::Fast);
     picture = chart.createPixmapForPrinter(width, height, factor);
     checkSize(picture, width * scale, height * scale);
     checkProblem(picture, chart.graph());
+    chart.graph().setCompression(Compression::Balanced);
     checkRectangles(chart, scale);
 }
 

@@ -30,6 +30,8 @@ void CChartLife::live()
     addItems();
     render(false);
     render(true);
+    call([this] { m_chart->graph().setCompression(Compression::Fast); });
+    render(true);
     call([this] { m_chart->graph().clear(); });
     render(false);
     addItems();

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Replaces operator new for the whole process, and lets the library's own allocations fail: those
-// that its code asks for, with the standard library's code in between or not. Qt's are left alone.
+// that its code asks for, with the standard library's code in between or not, and those of
+// libdeflate, which nothing else in the process uses. Qt's are left alone.
 #include "memory/fault_counter.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <libdeflate.h>
 #include <link.h>
 #include <new>
 #include <unwind.h>
@@ -133,6 +135,17 @@ void release(void* memory) noexcept
     liveAllocations -= header->isOwn ? 1 : 0;
     std::free(header);
 }
+
+void* allocateForCompressor(std::size_t size)
+{
+    return allocate(size, true);
+}
+
+// Before main(): libdeflate takes no other memory afterwards.
+[[maybe_unused]] const bool isCompressorCounted = [] {
+    libdeflate_set_memory_allocator(allocateForCompressor, release);
+    return true;
+}();
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the program says about itself, and what its manual and completions say about it.
 #include "apps/support/shell.h"
+#include <tovangl/Compression.h>
 
 #include <gmock/gmock.h>
 #include <iterator>
@@ -36,6 +37,13 @@ TEST(Help, TellsTheVersion)
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.output, StartsWith("tovangl-chart "));
     EXPECT_THAT(result.output, EndsWith("\n"));
+}
+
+TEST(Help, TellsWithTheVersionWhatFastCompressesWith)
+{
+    const CTemporaryFolder folder;
+    EXPECT_THAT(runShell(folder, "tovangl-chart --version").output,
+                HasSubstr(std::string("\n--fast compresses with ") + fastCompressor() + "\n"));
 }
 
 /// The long options in the help of a command.

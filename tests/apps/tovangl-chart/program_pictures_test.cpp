@@ -227,6 +227,16 @@ INSTANTIATE_TEST_SUITE_P(
                       OptionCase{"HbarsTextColor", "hbars", "--text-color '#ff0000'"}),
     [](const auto& info) { return info.param.name; });
 
+TEST(Pictures, AreTheSameWhenSavedFastInOtherFiles)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    runWell(folder, "tovangl-chart pie items -o small.png");
+    runWell(folder, "tovangl-chart pie --fast items -o fast.png");
+    EXPECT_EQ(decode(folder.read("fast.png")), decode(folder.read("small.png")));
+    EXPECT_GT(folder.read("fast.png").size(), folder.read("small.png").size());
+}
+
 TEST(Pictures, APieWithoutColourOptionsHasTheDefaultColours)
 {
     EXPECT_EQ(draw("pie"), draw("pie --outline-color '#ffffff' --text-color '#000000' "
