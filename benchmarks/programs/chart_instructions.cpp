@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Lets callgrind count the instructions of warm charts only: run it with --collect-atstart=no.
-// Arguments: those of a case, and ROUNDS, the number of charts counted.
+// Arguments: those of a case, ROUNDS, the number of charts counted, and the compression ("fast", or
+// none for the default).
 #include "programs/draw_chart.h"
 
+#include <memory>
 #include <valgrind/callgrind.h>
 
 int main(int count, char** arguments)
@@ -11,10 +13,14 @@ int main(int count, char** arguments)
     constexpr long kWarmRounds = 2;
     const bench::CChartCase chart = bench::readChartCase(count, arguments);
     const long rounds = bench::numberArgument(count, arguments, bench::kCaseArguments);
+    const Compression compression =
+        bench::compressionArgument(count, arguments, bench::kCaseArguments + 1);
     for (long round = 0; round < kWarmRounds + rounds; ++round) {
         if (round == kWarmRounds)
             CALLGRIND_TOGGLE_COLLECT;
-        bench::drawChart(*bench::makeChart(chart), chart);
+        const std::unique_ptr<Graph> graph = bench::makeChart(chart);
+        graph->setCompression(compression);
+        bench::drawChart(*graph, chart);
     }
     CALLGRIND_TOGGLE_COLLECT;
     return 0;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Times this library's charts, from items to PNG bytes.
+// Times this library's charts, from items to PNG bytes. After the arguments of every measuring
+// program it takes the compression: "fast", or none for the default.
 #include "programs/draw_chart.h"
 #include "support/timed_rounds.h"
 
@@ -8,9 +9,12 @@
 int main(int count, char** arguments)
 {
     using namespace tovangl;
+    constexpr int kSettingPlace = bench::kCaseArguments + 2;
+    const Compression compression = bench::compressionArgument(count, arguments, kSettingPlace);
     std::unique_ptr<Graph> graph;
-    const auto draw = [&graph](const bench::CChartCase& chart, const std::string&) {
+    const auto draw = [&graph, compression](const bench::CChartCase& chart, const std::string&) {
         graph = bench::makeChart(chart);
+        graph->setCompression(compression);
         return bench::drawChart(*graph, chart);
     };
     return bench::timeRounds(count, arguments, draw);

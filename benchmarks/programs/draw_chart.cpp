@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace tovangl {
 namespace bench {
@@ -32,6 +33,12 @@ std::unique_ptr<Graph> makeChart(const CChartCase& chart, bool background)
         break;
     }
     return makeChartOf<PieGraph>(chart.items, background);
+}
+
+Compression compressionArgument(int count, char** arguments, int place)
+{
+    const bool isFast = place < count && std::strcmp(arguments[place], "fast") == 0;
+    return isFast ? Compression::Fast : Compression::Balanced;
 }
 
 CPngBytes drawChart(Graph& graph, const CChartCase& chart)

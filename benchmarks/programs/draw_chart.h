@@ -20,6 +20,9 @@ inline constexpr bool kWithoutBackground = false;
 [[nodiscard]] std::unique_ptr<Graph> makeChart(const CChartCase& chart,
                                                bool background = kWithoutBackground);
 
+/// The setting that an argument names: "fast", or anything else for the default.
+[[nodiscard]] Compression compressionArgument(int count, char** arguments, int place);
+
 /// Renders the chart; the bytes belong to the graph. Ends the process where there is no picture.
 CPngBytes drawChart(Graph& graph, const CChartCase& chart);
 

@@ -50,7 +50,7 @@ def print_machine():
 
 
 def print_versions(with_peers):
-    packages = ["libqt5gui5", "libpng16-16", "zlib1g"]
+    packages = ["libqt5gui5", "libdeflate0", "libisal2", "libpng16-16", "zlib1g"]
     if with_peers:
         packages += ["gnuplot-nox", "libqcustomplot2.1", "libqwt-qt5-6", "libplplot17",
                      "python3-matplotlib"]
@@ -59,9 +59,13 @@ def print_versions(with_peers):
     print(", ".join(found.splitlines()))
 
 
+def has_peers(programs):
+    return any(program not in cases.BOTH_OF_OURS for program in programs)
+
+
 def count(effort, programs):
     charts = cases.read_cases()[:effort.cases]
-    if len(programs) > 1:
+    if has_peers(programs):
         instructions.print_programs(programs, charts)
     instructions.print_instructions(charts)
 
@@ -70,8 +74,10 @@ def measure(effort, programs):
     charts = cases.read_cases()
     results = times.time_all(programs, charts, effort.passes, effort.budget)
     times.print_times(results, programs, charts)
-    if len(programs) > 1:
+    if has_peers(programs):
         times.print_ratios(results, charts)
+    times.print_sizes(programs, charts)
+    resources.print_stages()
     times.print_cold_starts(times.time_cold_starts(programs, charts[0], effort.cold_starts))
     resources.print_memory(charts)
     resources.print_growth()
@@ -83,7 +89,7 @@ def measure(effort, programs):
 def main():
     sys.stdout.reconfigure(line_buffering=True)
     arguments = read_arguments()
-    programs = [cases.OURS] + ([] if arguments.no_peers else cases.peers())
+    programs = [*cases.BOTH_OF_OURS] + ([] if arguments.no_peers else cases.peers())
     os.makedirs(cases.PICTURES, exist_ok=True)
     print_machine()
     print_versions(not arguments.no_peers)

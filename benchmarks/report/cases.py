@@ -26,6 +26,7 @@ class Program:
     draws_pies: bool = True
     antialiases: bool = True  # edges of slices
     interpreted: bool = False  # takes minutes under callgrind
+    settings: tuple = ()  # what goes behind the arguments that all programs take
 
     def draws(self, case):
         return self.draws_pies or case.kind != "pie"
@@ -47,6 +48,8 @@ def built(*path):
 
 
 OURS = Program("tovangl", (built("programs", "chart_times"),))
+OURS_FAST = Program("tovangl, fast", OURS.command, settings=("fast",))
+BOTH_OF_OURS = (OURS, OURS_FAST)
 
 
 def peers():

@@ -18,25 +18,34 @@ MOST_STEPS = 16
 PARTS = {
     "layout": r"C(Bar|LabeledBar)Graph::(createAxes|computeLayout)\(|CPieGraph::computeLayout\(",
     "painting": r"::getImage(ForPrinter)?\(",
-    "narrowing": r"tovangl::narrowImage\(",
-    "saving": r"^QImage::save\(QIODevice",
+    "packing": r"tovangl::packPicture\(",
+    "compressing": r"tovangl::CDeflater::deflate\(",
 }
 
 
 def print_instructions(charts):
-    profiles = {chart: profile_warm(chart) for chart in charts}
+    for program in cases.BOTH_OF_OURS:
+        profiles = {chart: profile_warm(program, chart) for chart in charts}
+        print_parts(program, profiles)
+        print_profiles(profiles)
+    cold = profile_cold(charts[0])
+    print_functions(f"A whole process that draws one {charts[0].name}", cold)
+
+
+def print_parts(program, profiles):
     rows = []
     for chart, profile in profiles.items():
         parts = split(profile.inclusive)
         rest = profile.total - sum(parts.values())
         rows.append([chart.name, *map(millions, (profile.total, *parts.values(), rest))])
-    tables.print_table("Instructions of one warm chart, millions",
+    tables.print_table(f"{program.name}: instructions of one warm chart, millions",
                        ["", "all", *PARTS, "rest"], rows)
+
+
+def print_profiles(profiles):
     for chart, profile in profiles.items():
         print_steps(chart.name, profile)
         print_functions(chart.name, profile)
-    cold = profile_cold(charts[0])
-    print_functions(f"A whole process that draws one {charts[0].name}", cold)
 
 
 def print_programs(programs, charts):
@@ -56,17 +65,18 @@ def warm_cell(program, chart):
 
 
 def count_process(program, chart, rounds):
-    command = [*program.command, *chart.arguments, str(rounds), cases.picture_of(program, chart)]
+    command = [*program.command, *chart.arguments, str(rounds), cases.picture_of(program, chart),
+               *program.settings]
     file = os.path.join(cases.BUILD, "callgrind.program")
     run_callgrind(file, "--collect-atstart=yes", command)
     with open(file, encoding="utf-8") as profile:
         return next(int(line.split()[1]) for line in profile if line.startswith("totals:"))
 
 
-def profile_warm(chart):
-    program = cases.built("programs", "chart_instructions")
+def profile_warm(program, chart):
+    command = cases.built("programs", "chart_instructions")
     return Profile(chart.name, ROUNDS, "--collect-atstart=no",
-                   [program, *chart.arguments, str(ROUNDS)])
+                   [command, *chart.arguments, str(ROUNDS), *program.settings])
 
 
 def profile_cold(chart):
@@ -123,8 +133,8 @@ def split(inclusive):
     return {
         "layout": layout,
         "painting": picture - layout,
-        "narrowing": greatest_of(inclusive, PARTS["narrowing"]),
-        "saving": greatest_of(inclusive, PARTS["saving"]),
+        "packing": greatest_of(inclusive, PARTS["packing"]),
+        "compressing": greatest_of(inclusive, PARTS["compressing"]),
     }
 
 

@@ -81,6 +81,26 @@ def print_growth():
                        ["", *(f"{size:,}" for size in sizes)], rows)
 
 
+STAGES = ("layout", "picture", "packing", "compressing", "compressingFast")
+
+
+def print_stages():
+    output = cases.run([cases.built("charts", "tovangl_charts"),
+                        f"--benchmark_filter=/({'|'.join(STAGES)})$",
+                        "--benchmark_min_time=0.05", "--benchmark_repetitions=5",
+                        "--benchmark_format=json"])
+    times = {}
+    for result in json.loads(output)["benchmarks"]:
+        if result["run_type"] == "iteration":
+            name, stage = result["name"].split("/")[:2]
+            known = times.setdefault(name, {}).get(stage, result["cpu_time"])
+            times[name][stage] = min(known, result["cpu_time"])
+    rows = [[name, *(growth_cell(None if stage not in stages else stages[stage] / 1e6)
+                     for stage in STAGES)] for name, stages in times.items()]
+    tables.print_table("Stages of a chart, milliseconds of processor time (the picture is layout "
+                       "and painting; layout alone only at factor 1)", ["", *STAGES], rows)
+
+
 def growth_cell(time_taken):
     if time_taken is None:
         return ""

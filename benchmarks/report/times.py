@@ -45,7 +45,8 @@ def time_rounds(program, chart, rounds):
 
 
 def command_of(program, chart, rounds):
-    return [*program.command, *chart.arguments, str(rounds), cases.picture_of(program, chart)]
+    return [*program.command, *chart.arguments, str(rounds), cases.picture_of(program, chart),
+            *program.settings]
 
 
 def print_times(results, programs, charts):
@@ -63,20 +64,45 @@ def times_cell(passes):
 
 
 def print_ratios(results, charts):
-    """A pie is compared with those peers that antialias it, as this library does."""
+    """Each case against the fastest peer, and pies also against the fastest that antialiases them,
+    as this library does."""
     rows = []
     for chart in charts:
         peers = {program: passes for (program, of), passes in results.items()
-                 if of == chart and program != cases.OURS and
-                 (program.antialiases or chart.kind != "pie")}
-        fastest = min(peers, key=lambda program: lowest(peers[program]))
-        ours, theirs = results[cases.OURS, chart], peers[fastest]
-        rows.append([chart.name, tables.significant(lowest(ours)), fastest.name,
-                     tables.significant(lowest(theirs)), f"{lowest(ours) / lowest(theirs):.2f}",
-                     f"{ratio_within_passes(ours, theirs):.2f}"])
-    tables.print_table("Against the fastest peer (pies: the fastest that antialiases them)",
-                       ["", "tovangl, ms", "peer", "its ms", "ratio", "within a pass, median"],
+                 if of == chart and program not in cases.BOTH_OF_OURS}
+        rows.append(ratio_row(results, chart, peers, chart.name))
+        if chart.kind == "pie":
+            smooth = {program: passes for program, passes in peers.items()
+                      if program.antialiases}
+            rows.append(ratio_row(results, chart, smooth, f"{chart.name}, antialiased"))
+    tables.print_table("Against the fastest peer: ratios of the lowest, and of medians in a pass",
+                       ["", "peer", "its ms", *(program.name for program in cases.BOTH_OF_OURS)],
                        rows)
+
+
+def ratio_row(results, chart, peers, name):
+    fastest = min(peers, key=lambda program: lowest(peers[program]))
+    theirs = peers[fastest]
+    return [name, fastest.name, tables.significant(lowest(theirs)),
+            *(ratio_cell(results[program, chart], theirs) for program in cases.BOTH_OF_OURS)]
+
+
+def ratio_cell(ours, theirs):
+    return (f"{lowest(ours) / lowest(theirs):.2f} "
+            f"({ratio_within_passes(ours, theirs):.2f})")
+
+
+def print_sizes(programs, charts):
+    """Of the pictures that the programs left behind."""
+    rows = [[program.name, *(size_cell(program, chart) for chart in charts)]
+            for program in programs]
+    tables.print_table("Files, bytes", ["", *(chart.name for chart in charts)], rows)
+
+
+def size_cell(program, chart):
+    if not program.draws(chart):
+        return "-"
+    return f"{os.path.getsize(cases.picture_of(program, chart)):,}"
 
 
 def ratio_within_passes(ours, theirs):

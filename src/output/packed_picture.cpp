@@ -6,6 +6,7 @@
 #include "output/pixel_blocks.h"
 
 #include <QImage>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -204,24 +205,23 @@ CPackedPicture packPalette(QImage& picture, const CPictureColors& colors)
     return packed;
 }
 
-void packChannels(const QRgb* pixels, std::vector<Byte>& packed)
+// A byte more than the channels is written for each pixel, which the next one covers.
+void packChannels(const QRgb* pixels, std::size_t count, Byte* packed)
 {
-    for (std::size_t i = 0; i < packed.size(); i += kChannels, ++pixels) {
-        packed[i] = static_cast<Byte>(qRed(*pixels));
-        packed[i + 1] = static_cast<Byte>(qGreen(*pixels));
-        packed[i + 2] = static_cast<Byte>(qBlue(*pixels));
-    }
+    for (std::size_t x = 0; x < count; ++x, packed += kChannels)
+        qToBigEndian<QRgb>(pixels[x] << kBitsPerByte, packed);
 }
 
 CPackedPicture packTrueColor(QImage& picture)
 {
-    std::vector<Byte> row(static_cast<std::size_t>(picture.width()) * kChannels);
-    const CRowMemory memory(picture, row.size());
+    const auto width = static_cast<std::size_t>(picture.width());
+    const CRowMemory memory(picture, width * kChannels);
+    std::vector<Byte> row(width * kChannels + 1);
     for (std::size_t y = 0; y < memory.rows(); ++y) {
-        packChannels(memory.pixels(y), row);
+        packChannels(memory.pixels(y), width, row.data());
         Byte* const out = memory.packed(y);
         *out = static_cast<Byte>(RowFilter::None);
-        std::copy(row.begin(), row.end(), out + kFilterBytes);
+        std::copy_n(row.begin(), width * kChannels, out + kFilterBytes);
     }
     CPackedPicture packed;
     packed.rows = memory.allPacked();

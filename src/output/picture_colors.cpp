@@ -46,8 +46,9 @@ private:
 // Looks at some rows only: it soon finds nearly every picture of too many colours.
 bool addSampledRows(CColorIndex& index, const QImage& picture)
 {
-    constexpr int kSampledRows = 16; // one of so many
-    for (int y = kSampledRows / 2; y < picture.height(); y += kSampledRows) {
+    constexpr int kSampledRows = 24;
+    const int step = picture.height() / kSampledRows + 1;
+    for (int y = step / 2; y < picture.height(); y += step) {
         if (!CColorReader(index, pixelRow(picture, y))(0, picture.width()))
             return false;
     }

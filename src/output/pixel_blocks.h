@@ -7,27 +7,13 @@
 #include <QRgb>
 
 #include <algorithm>
-#include <cstdint>
+#include <cstddef>
 #include <cstring>
 
 namespace tovangl {
 
 /// As many pixels as fill whole bytes at every depth of a palette.
 inline constexpr int kBlockPixels = 8;
-
-/// Whether two blocks are equal: in words of two pixels, because most are.
-[[nodiscard]] inline bool areEqualBlocks(const QRgb* a, const QRgb* b)
-{
-    constexpr std::size_t kWords = kBlockPixels * sizeof(QRgb) / sizeof(std::uint64_t);
-    std::uint64_t wordsOfA[kWords];
-    std::uint64_t wordsOfB[kWords];
-    std::memcpy(wordsOfA, a, sizeof wordsOfA);
-    std::memcpy(wordsOfB, b, sizeof wordsOfB);
-    std::uint64_t difference = 0;
-    for (std::size_t i = 0; i < kWords; ++i)
-        difference |= wordsOfA[i] ^ wordsOfB[i];
-    return difference == 0;
-}
 
 /// Calls visit(begin, end) for every block in which a row differs from the other, from left to
 /// right, until a call returns false. The last block may be shorter.
@@ -36,12 +22,22 @@ inline constexpr int kBlockPixels = 8;
 template <typename Visit>
 bool visitChangedBlocks(const QRgb* row, const QRgb* other, int width, Visit visit)
 {
-    int x = 0;
-    for (; x + kBlockPixels <= width; x += kBlockPixels) {
-        if (!areEqualBlocks(row + x, other + x) && !visit(x, x + kBlockPixels))
-            return false;
+    constexpr int kPartPixels = 8 * kBlockPixels; // most parts are equal, and soon compared
+    const auto areEqual = [row, other](int begin, int end) {
+        const auto bytes = static_cast<std::size_t>(end - begin) * sizeof(QRgb);
+        return std::memcmp(row + begin, other + begin, bytes) == 0;
+    };
+    for (int part = 0; part < width; part += kPartPixels) {
+        const int partEnd = std::min(part + kPartPixels, width);
+        if (areEqual(part, partEnd))
+            continue;
+        for (int x = part; x < partEnd; x += kBlockPixels) {
+            const int end = std::min(x + kBlockPixels, partEnd);
+            if (!areEqual(x, end) && !visit(x, end))
+                return false;
+        }
     }
-    return std::equal(row + x, row + width, other + x) || visit(x, width);
+    return true;
 }
 
 /// The same for all blocks of a row.
