@@ -6,7 +6,6 @@
 #include "output/pixel_blocks.h"
 
 #include <QImage>
-#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -205,23 +204,25 @@ CPackedPicture packPalette(QImage& picture, const CPictureColors& colors)
     return packed;
 }
 
-// A byte more than the channels is written for each pixel, which the next one covers.
 void packChannels(const QRgb* pixels, std::size_t count, Byte* packed)
 {
-    for (std::size_t x = 0; x < count; ++x, packed += kChannels)
-        qToBigEndian<QRgb>(pixels[x] << kBitsPerByte, packed);
+    for (std::size_t x = 0; x < count; ++x, packed += kChannels) {
+        packed[0] = static_cast<Byte>(qRed(pixels[x]));
+        packed[1] = static_cast<Byte>(qGreen(pixels[x]));
+        packed[2] = static_cast<Byte>(qBlue(pixels[x]));
+    }
 }
 
 CPackedPicture packTrueColor(QImage& picture)
 {
     const auto width = static_cast<std::size_t>(picture.width());
     const CRowMemory memory(picture, width * kChannels);
-    std::vector<Byte> row(width * kChannels + 1);
+    std::vector<Byte> row(width * kChannels);
     for (std::size_t y = 0; y < memory.rows(); ++y) {
         packChannels(memory.pixels(y), width, row.data());
         Byte* const out = memory.packed(y);
         *out = static_cast<Byte>(RowFilter::None);
-        std::copy_n(row.begin(), width * kChannels, out + kFilterBytes);
+        std::copy(row.begin(), row.end(), out + kFilterBytes);
     }
     CPackedPicture packed;
     packed.rows = memory.allPacked();
