@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Encodes many pictures with both settings and decodes each file with two decoders.
 //
-// compare_decoders PICTURES CHARTS-FOLDER FILES-FOLDER | --self-test
+// compare_decoders PICTURES CHARTS-FOLDER FILES-FOLDER | --largest | --self-test
 // PICTURES charts and random pictures, after the described charts of a folder. Some of the files
-// are left in the last folder, for other programs to look at.
+// are left in the last folder, for other programs to look at. --largest encodes noise of the
+// largest size and looks at the end of the file only, because decoding needs more memory than
+// encoding.
 #include "layout/drawn_chart.h"
 #include "output/png_decoders.h"
 #include "output/random_charts.h"
@@ -11,9 +13,12 @@
 
 #include <QDir>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <limits>
 #include <random>
 #include <string>
 
@@ -97,6 +102,28 @@ bool compareAll(unsigned pictures, const QString& charts, const std::string& fil
     return comparison.finish();
 }
 
+bool isWholeFile(const CPngFile& file, std::size_t least)
+{
+    constexpr std::array<unsigned char, 12> kEnd = {0,   0,   0,    0,    'I',  'E',
+                                                    'N', 'D', 0xae, 0x42, 0x60, 0x82};
+    return file.size > least && file.size <= std::numeric_limits<int>::max() &&
+           std::equal(kEnd.begin(), kEnd.end(), file.data.get() + file.size - kEnd.size());
+}
+
+// Noise cannot be compressed: its file takes as much memory as the packed rows.
+bool encodeLargest()
+{
+    constexpr int kSide = 23170; // pixels: the largest square that is drawn at all
+    constexpr std::size_t kLeast = std::size_t{3} * kSide * kSide;
+    for (const Compression compression : {Compression::Balanced, Compression::Fast}) {
+        QImage picture = noise(1, kSide, kSide);
+        if (!isWholeFile(encodePng(picture, compression), kLeast))
+            return false;
+        std::printf("noise of %d x %d pixels is encoded\n", kSide, kSide);
+    }
+    return true;
+}
+
 // A picture of another pixel, and a damaged file, must be seen.
 bool testItself()
 {
@@ -118,8 +145,10 @@ int main(int count, char** arguments)
 {
     if (count == 2 && std::string(arguments[1]) == "--self-test")
         return tovangl::testItself() ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (count == 2 && std::string(arguments[1]) == "--largest")
+        return tovangl::encodeLargest() ? EXIT_SUCCESS : EXIT_FAILURE;
     if (count != 4) {
-        std::fprintf(stderr, "usage: compare_decoders PICTURES CHARTS-FOLDER FILES-FOLDER\n");
+        std::fprintf(stderr, "usage: compare_decoders PICTURES CHARTS FILES | --largest\n");
         return 2;
     }
     const auto pictures = static_cast<unsigned>(std::atol(arguments[1]));

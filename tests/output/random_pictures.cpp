@@ -2,6 +2,7 @@
 // Pictures that are told by numbers: made of runs and repeated rows, as charts are.
 #include "output/random_pictures.h"
 
+#include <algorithm>
 #include <cstring>
 #include <random>
 #include <vector>
@@ -68,8 +69,8 @@ QImage noise(unsigned seed, int width, int height)
     std::mt19937 random(seed);
     QImage image(width, height, QImage::Format_ARGB32);
     for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x)
-            rowOf(image, y)[x] = anyColor(random);
+        QRgb* const row = rowOf(image, y);
+        std::generate(row, row + width, [&random] { return anyColor(random); });
     }
     return image;
 }
