@@ -12,7 +12,7 @@ namespace tovangl {
 enum class Compression
 {
     Balanced, ///< small files, which is the default
-    Fast      ///< files about a fifth larger, in a fraction of the time
+    Fast      ///< larger files, by a fifth to twice the size, in about half the time
 };
 
 /// What Compression::Fast compresses large pictures with in this build of the library: "ISA-L", or
