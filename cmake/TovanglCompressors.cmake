@@ -1,21 +1,21 @@
 # Finds what PNG files are compressed with, as the list of targets tovangl_compressors: libdeflate,
-# and ISA-L for the setting Fast where TOVANGL_ISAL is on. tovangl_fast_compressor names the one that
-# Fast uses.
+# and ISA-L for the setting Fast where TOVANGL_ISAL is on.
 find_package(libdeflate REQUIRED)
 set(tovangl_compressors libdeflate::libdeflate)
 set(tovangl_compressor_packages libdeflate)
 set(tovangl_compressor_pkgconfig libdeflate)
-set(tovangl_fast_compressor libdeflate)
 
-if(NOT DEFINED TOVANGL_ISAL)
-    find_package(isal QUIET)
-endif()
+find_package(isal QUIET)
 option(TOVANGL_ISAL "Compress with ISA-L where speed is asked for" ${isal_FOUND})
 if(TOVANGL_ISAL)
     find_package(isal REQUIRED)
     list(APPEND tovangl_compressors isal::isal)
     list(APPEND tovangl_compressor_packages isal)
     list(APPEND tovangl_compressor_pkgconfig libisal)
-    set(tovangl_fast_compressor ISA-L)
 endif()
-message(STATUS "tovangl: Compression::Fast uses ${tovangl_fast_compressor}")
+
+set(tovangl_isal_lacking "")
+if(NOT isal_FOUND)
+    set(tovangl_isal_lacking libisal)
+endif()
+tovangl_summary_option("ISA-L" TOVANGL_ISAL ${tovangl_isal_lacking})
