@@ -1,5 +1,5 @@
-# What `cmake --install` puts in place. Everything refers to its own place, so that the installed
-# tree can be moved. Components: runtime, development, tools.
+# What `cmake --install` installs. All paths are relative, so that the installed tree can be moved.
+# Components: runtime, development, tools.
 include(CMakePackageConfigHelpers)
 
 set(tovangl_config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tovangl)
@@ -12,7 +12,7 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/tovangl
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
     FILES_MATCHING PATTERN "*.h")
 
-# find_package(tovangl): a static library asks for the Qt and the compressors that it was built on.
+# find_package(tovangl): a static library needs the Qt and the compressors that it was built on.
 if(BUILD_SHARED_LIBS)
     set(tovangl_dependencies "")
 else()
@@ -56,8 +56,9 @@ configure_file(${PROJECT_SOURCE_DIR}/cmake/tovangl.pc.in
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tovangl.pc
     DESTINATION ${tovangl_pkgconfig_dir} COMPONENT development)
 
-# Programs, with what belongs to each. They find the library beside them, wherever the prefix is
-# moved. In a system prefix the loader looks there by itself, and distributions forbid a run path.
+# The programs, with the files that belong to each. They find the library by a relative run path,
+# wherever the prefix is moved. In a system prefix the loader finds it anyway, and distributions
+# forbid a run path.
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     file(RELATIVE_PATH tovangl_bin_to_lib
         ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})

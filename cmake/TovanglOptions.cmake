@@ -1,10 +1,10 @@
-# What is built. A project that adds this one as a subdirectory gets the library alone, shared or
-# static as its own libraries are.
+# What is built. A project that adds this one as a subdirectory gets only the library, shared or
+# static like its own libraries.
 include(TovanglSummary)
 
 # tovangl_part(name option text default [package...]): a part that can be built, and its line in the
-# summary. One that is on by default is off where a package is missing, so that a plain build never
-# fails for want of it; that is not kept, so that the next configuration looks again.
+# summary. A part that is on by default is off if a package is missing, so that a plain build never
+# fails for lack of it. This is not cached, so that the next configuration looks again.
 function(tovangl_part name option text default)
     set(lacking "")
     foreach(package ${ARGN})
@@ -32,7 +32,7 @@ tovangl_part(Programs TOVANGL_BUILD_APPS "Build the command-line programs" ${tov
 tovangl_part(Tests TOVANGL_BUILD_TESTS "Build the tests" ${tovangl_is_top_level} GTest)
 tovangl_part(Examples TOVANGL_BUILD_EXAMPLES "Build the examples" ${tovangl_is_top_level})
 tovangl_part(Benchmarks TOVANGL_BUILD_BENCHMARKS "Build the benchmarks" OFF)
-tovangl_part("Fuzz targets" TOVANGL_BUILD_FUZZERS "Build the fuzz targets, which clang can" OFF)
+tovangl_part("Fuzz targets" TOVANGL_BUILD_FUZZERS "Build the fuzz targets (needs clang)" OFF)
 option(TOVANGL_INSTALL "Generate install rules" ${tovangl_is_top_level})
 set(TOVANGL_MAINTAINER "The tovangl authors <authors@tovangl.example>" CACHE STRING
-    "Who the packages name")
+    "The maintainer that the packages name")

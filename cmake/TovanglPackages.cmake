@@ -19,15 +19,15 @@ set(CPACK_COMPONENTS_ALL runtime development)
 if(TARGET tovangl-chart OR TARGET tovangl-du)
     list(APPEND CPACK_COMPONENTS_ALL tools)
 endif()
-# Each package has a first line of its own.
+# Each package has its own first line of the description.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(tovangl_debian_version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
 
-# Dependencies come from the libraries that are linked. The offscreen platform plugin is loaded by
-# Qt at run time, so that the package which holds it has to be asked for.
+# Dependencies come from the linked libraries. Qt loads the offscreen platform plugin at run time,
+# so its package has to be listed explicitly.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/src)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
@@ -53,8 +53,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS fonts-dejavu-core)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/debian/triggers)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "Bar and pie charts as PNG images
 A small library that draws bar charts and pie charts into PNG images in
-memory. It needs no display, and its interface shows nothing of the
-toolkit that it paints with.")
+memory. It needs no display, and its interface hides the toolkit that it
+paints with.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtovangl-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
@@ -64,8 +64,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "Bar and pie charts as PNG images (deve
 A small library that draws bar charts and pie charts into PNG images in
 memory.
 
-This package holds the headers, and what CMake and pkg-config need to
-find the library.")
+This package contains the headers, and the files with which CMake and
+pkg-config find the library.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME tovangl-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
@@ -73,9 +73,9 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS
     "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (>= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "Bar and pie charts from the command line
 Programs that draw bar charts and pie charts as PNG images from lines of
-text, with no need of a display.")
+text. They need no display.")
 
-# What every package carries in /usr/share/doc.
+# The files of every package in /usr/share/doc.
 string(TIMESTAMP tovangl_changelog_date "%a, %d %b %Y 00:00:00 +0000" UTC)
 set(tovangl_changelog ${PROJECT_BINARY_DIR}/packaging/changelog.Debian)
 configure_file(${PROJECT_SOURCE_DIR}/packaging/debian/changelog.in ${tovangl_changelog} @ONLY)

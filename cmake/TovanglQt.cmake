@@ -1,5 +1,5 @@
-# Finds the Qt that TOVANGL_QT asks for and defines tovangl_qt, the target that everything which
-# uses Qt links. Unset, Qt 5 is taken where it is found and Qt 6 otherwise.
+# Finds the Qt that TOVANGL_QT names and defines tovangl_qt, the target for everything that links
+# Qt. If TOVANGL_QT is unset, it takes Qt 5 if found and Qt 6 otherwise.
 set(TOVANGL_QT "" CACHE STRING "Qt major version to build on: 5 or 6; empty: 5, else 6")
 set_property(CACHE TOVANGL_QT PROPERTY STRINGS "" 5 6)
 
@@ -13,10 +13,10 @@ if(TOVANGL_QT STREQUAL "")
 elseif(TOVANGL_QT MATCHES "^[56]$")
     set(tovangl_qt_major ${TOVANGL_QT})
 else()
-    message(FATAL_ERROR "TOVANGL_QT is '${TOVANGL_QT}': it takes 5 or 6")
+    message(FATAL_ERROR "TOVANGL_QT is '${TOVANGL_QT}': it must be 5 or 6")
 endif()
 
-# The same choice as a package, its components and targets, for those who link a static library.
+# The same choice as a package with components and targets, for hosts that link a static library.
 set(tovangl_qt_package Qt${tovangl_qt_major})
 set(tovangl_qt_components Core Gui)
 if(tovangl_qt_major EQUAL 5)

@@ -1,6 +1,6 @@
-# What a configuration ends with: which parts are built, and what the others lack.
+# The summary at the end of a configuration: which parts are built, and what the others lack.
 
-# tovangl_summary_line(name state): one line more, in the order of the calls.
+# tovangl_summary_line(name state): adds a line, in the order of the calls.
 function(tovangl_summary_line name state)
     string(LENGTH "${name}:" length)
     math(EXPR padding "16 - ${length}")

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Gives the pure algorithms any numbers, and holds them against their plain forms.
-#include "axes/bar_placement.h"
-#include "axes/label_thinning.h"
-#include "axes/plain_scale.h"
-#include "axes/value_scale.h"
 #include "failed_promise.h"
-#include "pie/CTestLabels.h"
-#include "pie/CZoneArranger.h"
-#include "pie/plain_slice_angles.h"
-#include "pie/plain_zones.h"
+#include "layout/CZoneArranger.h"
+#include "layout/bar_placement.h"
+#include "layout/label_thinning.h"
+#include "layout/plain_scale.h"
+#include "layout/plain_slice_angles.h"
+#include "layout/plain_zones.h"
+#include "layout/value_scale.h"
 #include "seeded_fault.h"
 
 #include <algorithm>
@@ -107,26 +106,21 @@ void checkZones(FuzzedDataProvider& input)
     const double max = input.ConsumeFloatingPointInRange(-1000.0, 1000.0);
     const double height = input.ConsumeFloatingPointInRange(0.0, 60.0);
     std::vector<CPlainLabel> plain(input.ConsumeIntegralInRange<std::size_t>(0, kMostLabels));
-    CTestLabels labels;
-    CZoneArranger arranger(nullptr, min, max, height);
-    for (CPlainLabel& label : plain) {
-        label.y = input.ConsumeFloatingPointInRange(-1500.0, 1500.0);
-        label.weight = input.ConsumeIntegralInRange(1, 3);
-        arranger.addZoneBack(&labels.addAtHeight(label.y, CTestLabels::kThreeOClock,
-                                                 static_cast<int>(label.weight)));
+    CZoneArranger arranger({min, max}, height);
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        plain[i].y = input.ConsumeFloatingPointInRange(-1500.0, 1500.0);
+        arranger.addZoneBack(i, plain[i].y);
     }
     CPlainArranger(min, max, height).arrange(plain);
     const double radius = input.ConsumeFloatingPointInRange(0.0, 500.0);
-    std::vector<QPointF> lineEnds;
-    for (std::size_t i = 0; i < plain.size(); ++i)
-        lineEnds.push_back(plain[i].hidden ? labels[i].lineEnd()
-                                           : arrangedLineEnd(labels[i], plain[i].y, radius));
-    arranger.arrange(radius);
-    for (std::size_t i = 0; i < plain.size(); ++i) {
-        require(labels[i].isHidden() == plain[i].hidden,
+    const auto arranged = arranger.arrange(radius);
+    require(arranged.size() == plain.size(), "every label is told once");
+    for (const CArrangedLabel& label : arranged) {
+        const CPlainLabel& expected = plain.at(label.label);
+        require(label.place.has_value() != expected.hidden,
                 "the labels that are hidden are those of the plain form");
-        require(labels[i].lineEnd().x() == lineEnds[i].x() &&
-                    labels[i].lineEnd().y() == lineEnds[i].y(),
+        require(expected.hidden || (label.place->x() == circleX(radius, expected.y) &&
+                                    label.place->y() == expected.y),
                 "the labels stand in the places of the plain form");
     }
 }

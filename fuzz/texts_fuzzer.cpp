@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Fits captions into widths and writes numbers in the locales that the input names.
 #include "api/conversions.h"
-#include "draw/plain_text_fitting.h"
-#include "draw/text_fitting.h"
 #include "failed_promise.h"
-#include "labels/number_text.h"
+#include "input/CGraph1dSettings.h"
 #include "seeded_fault.h"
-#include "support/CTestChart.h"
+#include "support/chart_font.h"
+#include "text/CTextMeasurer.h"
+#include "text/number_text.h"
+#include "text/plain_text_fitting.h"
+#include "text/text_fitting.h"
 
 #include <QImage>
 #include <QLocale>
@@ -28,28 +30,21 @@ struct CFit
     bool strip = false;
 };
 
-// A painter with the font of a chart, which is made once: that takes longest.
-class CTextPainter
+// A painter with the font of a chart.
+struct CTextPainter
 {
-public:
-    CTextPainter()
-        : m_image(1, 1, QImage::Format_ARGB32)
-        , m_painter(&m_image)
-    {
-        CTestChart().initPainter(m_painter);
-    }
+    CTextPainter() { painter.setFont(chartFont("Tahoma", 11)); }
 
     [[nodiscard]] double measure(const QString& text)
     {
-        return m_painter.boundingRect(QRectF(), 0, text).width();
+        return painter.boundingRect(QRectF(), 0, text).width();
     }
-    QPainter& painter() { return m_painter; }
 
-private:
-    QImage m_image;
-    QPainter m_painter;
+    QImage image = QImage(1, 1, QImage::Format_ARGB32);
+    QPainter painter{&image};
 };
 
+// Made once: the font takes longest.
 CTextPainter& textPainter()
 {
     static CTextPainter painter;
@@ -72,7 +67,7 @@ bool isSameFit(const cdraw::CFittedText& a, const cdraw::CFittedText& b)
 
 void fitByRule(const QString& text, const CFit& fit)
 {
-    auto fast = cdraw::fitText(text, fit.width, fit.fromLeft, fit.strip, measureByRule);
+    auto fast = cdraw::shortenText(text, fit.width, fit.fromLeft, fit.strip, measureByRule);
     if (isFaultSeeded() && fast.fits && text.size() > 3)
         fast.text.chop(1);
     require(!fast.fits || fast.text.isEmpty() || measureByRule(fast.text) <= fit.width,
@@ -81,22 +76,25 @@ void fitByRule(const QString& text, const CFit& fit)
     if (text.size() > kLongestMeasuredByRule)
         return;
     const auto plain =
-        cdraw::plainlyFitText(text, fit.width, fit.fromLeft, fit.strip, measureByRule);
+        cdraw::plainlyShortenText(text, fit.width, fit.fromLeft, fit.strip, measureByRule);
     require(isSameFit(fast, plain), "the fast form of text fitting gives what the plain one gives");
-    require(cdraw::canFitText(text, fit.width, fit.fromLeft, fit.strip, measureByRule) ==
+    require(cdraw::canShortenText(text, fit.width, fit.fromLeft, fit.strip, measureByRule) ==
                 plain.fits,
             "whether a text can be fitted is told as the plain form tells it");
 }
 
+// The measurer shortens as charts do: white space goes from the end that is cut.
 void fitByPainter(const QString& text, const CFit& fit)
 {
-    QString fast = text;
-    const bool fits =
-        cdraw::shortenText(fast, fit.width, textPainter().painter(), fit.fromLeft, fit.strip);
+    CTextMeasurer measurer(textPainter().painter);
+    const CTextStyle style{false, fit.fromLeft};
+    const bool fits = measurer.canShorten(text, fit.width, style);
+    const QString fast = measurer.shortened(text, fit.width, style);
     if (text.size() > kLongestMeasuredByPainter)
         return;
     const auto measure = [](const QString& part) { return textPainter().measure(part); };
-    const auto plain = cdraw::plainlyFitText(text, fit.width, fit.fromLeft, fit.strip, measure);
+    const auto plain =
+        cdraw::plainlyShortenText(text, fit.width, fit.fromLeft, cdraw::kStripSpaces, measure);
     require(isSameFit({fits, fast}, plain),
             "the fast form of text fitting gives what the plain one gives with a font");
 }
@@ -113,13 +111,13 @@ void writeNumber(long long value, int format, const CKilo& kilo, const QLocale& 
 
 void useTexts(FuzzedDataProvider& input)
 {
-    CTestChart chart;
+    CGraph1dSettings settings;
     const QString language = toQString(input.ConsumeRandomLengthString(8));
-    chart.setLocale(language, toQString(input.ConsumeRandomLengthString(8)));
+    settings.setLocale(language, toQString(input.ConsumeRandomLengthString(8)));
     const CKilo kilo = input.ConsumeBool() ? kKilo1024 : kKilo1000;
     const int format = input.ConsumeIntegralInRange(0, 3);
     const auto value = input.ConsumeIntegral<long long>();
-    writeNumber(value >> input.ConsumeIntegralInRange(0, 63), format, kilo, *chart.locale());
+    writeNumber(value >> input.ConsumeIntegralInRange(0, 63), format, kilo, settings.locale);
 
     CFit fit;
     fit.width = input.ConsumeBool() ? input.ConsumeFloatingPointInRange(-2.0, 300.0)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Keeps Qt's messages about the library's own doings out of the host's output.
+// Keeps Qt's messages about the library's own work out of the host's output.
 #include "api/CMessageSilencer.h"
 
 #include "api/message_filter.h"
@@ -8,8 +8,8 @@
 
 namespace tovangl {
 
-/// The filter of the copy of the library that made this object. Its name stands for its shape:
-/// every copy in a process has to agree on both.
+/// The filter of the copy of the library that made this object. All copies in a process must agree
+/// on its name and its layout, so a new layout needs a new name.
 struct CMessageFilter1
 {
     void (*begin)() = beginSilence;
@@ -24,9 +24,9 @@ namespace tovangl {
 
 namespace {
 
-// Static copies of the library in one process, each in a plugin of its own say, share one filter:
-// several would pile up in front of each other without end. Qt keeps types by name, and has an
-// object of this one made by the copy that came first.
+// Static copies of the library in one process, for example in several plugins, share one filter:
+// several filters would stack up in front of each other without end. Qt registers types by name,
+// and has the first copy make an object of this one.
 CMessageFilter1 filterOfFirstCopy()
 {
     CMessageFilter1 filter;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Keeps Qt's messages about the library's own doings out of the host's output.
+/// Keeps Qt's messages about the library's own work out of the host's output.
 #ifndef TOVANGL_API_CMESSAGESILENCER_H
 #define TOVANGL_API_CMESSAGESILENCER_H
 
@@ -8,8 +8,8 @@
 
 namespace tovangl {
 
-/// Discards the Qt messages of the calling thread for the length of a scope. Those of other threads
-/// go where they went before. Scopes may nest, and run in many threads at once.
+/// Discards the Qt messages of the calling thread while this object lives. Those of other threads
+/// go where they went before. Scopes can nest, and exist in many threads at once.
 class CMessageSilencer
 {
 public:

@@ -18,9 +18,8 @@ void noteEnd()
     processEnds = true;
 }
 
-CGraph1dBase::Problem findObstacle()
+Problem findObstacle()
 {
-    using Problem = CGraph1dBase::Problem;
     if (processEnds)
         return Problem::ProcessEnding;
     return ensureApplication() ? Problem::None : Problem::NoPlatformPlugin;
@@ -32,8 +31,8 @@ CRendering::CRendering()
     : m_obstacle(findObstacle())
 {}
 
-// Qt makes its tables at the first painting and has them destroyed at the process's end. A handler
-// that is registered just after that runs just before.
+// Qt creates its tables when it first paints, and registers their destruction as an exit handler.
+// An exit handler registered right after that runs right before it.
 CRendering::~CRendering()
 {
     [[maybe_unused]] static const int isRegistered = std::atexit(noteEnd);

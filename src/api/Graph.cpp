@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What every chart of the public interface can do.
+#include "api/CGraph1dBase.h"
 #include "api/CRendering.h"
 #include "api/conversions.h"
-#include "api/description.h"
 #include "api/problem_text.h"
-#include "core/CGraph1dBase.h"
+#include "input/CGraph1dInput.h"
 #include "output/png_encoding.h"
 #include <tovangl/Graph.h>
 
@@ -14,23 +14,10 @@ namespace tovangl {
 
 namespace {
 
-using ChartProblem = CGraph1dBase::Problem;
-
-constexpr bool isSame(Problem problem, ChartProblem ofChart)
-{
-    return static_cast<int>(problem) == static_cast<int>(ofChart);
-}
-static_assert(isSame(Problem::None, ChartProblem::None));
-static_assert(isSame(Problem::SizeOutOfRange, ChartProblem::SizeOutOfRange));
-static_assert(isSame(Problem::NoMemory, ChartProblem::NoMemory));
-static_assert(isSame(Problem::NoPlatformPlugin, ChartProblem::NoPlatformPlugin));
-static_assert(isSame(Problem::ProcessEnding, ChartProblem::ProcessEnding));
-static_assert(isSame(Problem::TooSmallForChart, ChartProblem::TooSmallForChart));
-
-// Whether anything can be painted. The chart keeps the reason where nothing can.
+// Whether anything can be painted. If not, the chart records the reason.
 bool canRender(CGraph1dBase& graph, const CRendering& rendering)
 {
-    if (rendering.obstacle() == ChartProblem::None)
+    if (rendering.obstacle() == Problem::None)
         return true;
     graph.setProblem(rendering.obstacle());
     return false;
@@ -77,13 +64,13 @@ double Graph::threshold() const
 void Graph::setFont(const std::string& family, int pixelSize)
 {
     if (m_graph)
-        m_graph->setFont(toQString(family), pixelSize);
+        m_graph->input().settings.setFont(toQString(family), pixelSize);
 }
 
 void Graph::setLocale(const std::string& language, const std::string& country)
 {
     if (m_graph)
-        m_graph->setLocale(toQString(language), toQString(country));
+        m_graph->input().settings.setLocale(toQString(language), toQString(country));
 }
 
 void Graph::setCompression(Compression compression)
@@ -93,21 +80,18 @@ void Graph::setCompression(Compression compression)
 
 std::list<Rectangle>* Graph::getRectangle()
 {
-    std::list<QRect> rects;
-    if (m_graph)
-        m_graph->putItemRectangle(rects);
-    assignRectangles(*m_rectangles, rects);
+    assignRectangles(*m_rectangles, m_graph ? m_graph->itemRectangles() : std::vector<QRect>());
     return m_rectangles;
 }
 
 std::string Graph::describe() const
 {
-    return describeChart(m_graph);
+    return m_graph ? m_graph->describe() : std::string();
 }
 
 Problem Graph::problem() const
 {
-    return m_graph ? static_cast<Problem>(m_graph->problem()) : Problem::None;
+    return m_graph ? m_graph->problem() : Problem::None;
 }
 
 std::string Graph::problemText() const
@@ -141,8 +125,8 @@ void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned c
 template <typename Surface>
 void Graph::paintDevice2Bytes(Surface& surface, unsigned char** data, int* size)
 {
-    const ChartProblem ofDrawing = m_graph->problem();
-    m_graph->setProblem(ChartProblem::NoMemory); // in case that it runs out from here on
+    const Problem ofDrawing = m_graph->problem();
+    m_graph->setProblem(Problem::NoMemory); // in case memory runs out from here on
     CPngFile file = encodePng(surface, m_compression);
     delete[] m_pixmapData;
     m_pixmapData = file.data.release();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The horizontal bar chart.
+#include "api/CBarBase.h"
 #include "api/bar_facade.h"
 #include "api/conversions.h"
-#include "bar/CLabeledBarGraph.h"
 #include <tovangl/HorizontalBarGraph.h>
 
 #include <memory>
@@ -30,55 +30,57 @@ HorizontalBarGraph::~HorizontalBarGraph()
 
 bool HorizontalBarGraph::addItem(long value, const std::string& text)
 {
-    return getGraph()->addItem(value, toQString(text), QColor(), QColor());
+    getGraph()->input().addItem(value, toQString(text), QColor(), QColor());
+    return true;
 }
 
 bool HorizontalBarGraph::addItem(long value, const std::string& text, const Color& color,
                                  const Color& outline)
 {
-    return getGraph()->addItem(value, toQString(text), toQColor(color), toQColor(outline));
+    getGraph()->input().addItem(value, toQString(text), toQColor(color), toQColor(outline));
+    return true;
 }
 
 void HorizontalBarGraph::setPosition(int x, int y)
 {
-    getGraph()->setPosition(x, y);
+    tovangl::setPosition(getGraph()->input(), x, y);
 }
 
 void HorizontalBarGraph::setBarWidth(int width)
 {
-    getGraph()->setBarWidth(width);
+    tovangl::setBarWidth(getGraph()->input(), width);
 }
 
 int HorizontalBarGraph::barWidth() const
 {
-    return getGraph()->barWidth();
+    return getGraph()->input().barWidth;
 }
 
 void HorizontalBarGraph::setVerticalAxis(int properties, const std::string& title)
 {
-    getGraph()->setVerticalAxis(toAxisProperties(properties), toQString(title));
+    getGraph()->input().verticalAxis = toAxisSettings(properties, title);
 }
 
 void HorizontalBarGraph::setColor(const Color& color)
 {
-    getGraph()->setTextColor(toQColor(color));
+    getGraph()->input().textColor = toQColor(color);
 }
 
 std::list<Rectangle>* HorizontalBarGraph::getBarRectangle()
 {
-    assignBarRectangles(*m_barRectangles, getGraph());
+    assignRectangles(*m_barRectangles, getGraph()->barRectangles());
     return m_barRectangles;
 }
 
 std::list<Rectangle>* HorizontalBarGraph::getItemBarRectangle()
 {
-    assignItemBarRectangles(*m_itemBarRectangles, getGraph());
+    assignRectangles(*m_itemBarRectangles, getGraph()->itemBarRectangles());
     return m_itemBarRectangles;
 }
 
 CLabeledBarGraph* HorizontalBarGraph::getGraph() const
 {
-    return dynamic_cast<CLabeledBarGraph*>(m_graph);
+    return static_cast<CLabeledBarGraph*>(m_graph);
 }
 
 } // namespace tovangl

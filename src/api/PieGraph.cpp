@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 // The pie chart of the public interface.
+#include "api/CPieGraph.h"
 #include "api/conversions.h"
 #include "api/slice_records.h"
-#include "pie/CPieGraph.h"
 #include <tovangl/PieGraph.h>
 
 #include <memory>
 
 namespace tovangl {
 
-static_assert(int{PieGraph::BoldLabels} == int{CPieGraph::BoldLabels});
-static_assert(int{PieGraph::ShortenFromLeft} == int{CPieGraph::ShortenFromLeft});
-static_assert(int{PieGraph::RemoveLabelOverlaps} == int{CPieGraph::RemoveLabelOverlaps});
-static_assert(int{PieGraph::ShowSizes} == int{CPieGraph::ShowSizes});
+static_assert(int{PieGraph::BoldLabels} == int{CPieInput::BoldLabels});
+static_assert(int{PieGraph::ShortenFromLeft} == int{CPieInput::ShortenFromLeft});
+static_assert(int{PieGraph::RemoveLabelOverlaps} == int{CPieInput::RemoveLabelOverlaps});
+static_assert(int{PieGraph::ShowSizes} == int{CPieInput::ShowSizes});
 static_assert(int{PieGraph::DefaultProperties} == 384);
 
 PieGraph::PieGraph(bool background)
@@ -33,36 +33,38 @@ PieGraph::~PieGraph()
 
 bool PieGraph::addItem(long value, const std::string& text)
 {
-    return getGraph()->addItem(value, toQString(text), QColor());
+    getGraph()->input().addItem(value, toQString(text), QColor(), QColor());
+    return true;
 }
 
 bool PieGraph::addItem(long value, const std::string& text, const Color& color)
 {
-    return getGraph()->addItem(value, toQString(text), toQColor(color));
+    getGraph()->input().addItem(value, toQString(text), toQColor(color), QColor());
+    return true;
 }
 
 void PieGraph::setProperty(int options)
 {
-    getGraph()->setOptions(CPieGraph::Options(QFlag(options)));
+    getGraph()->input().options = CPieInput::Options(QFlag(options));
 }
 
 void PieGraph::setColors(const Color& outline, const Color& text, const Color& line)
 {
-    CPieGraph* graph = getGraph();
-    graph->setPieOutlineColor(toQColor(outline));
-    graph->setTextColor(toQColor(text));
-    graph->setLabelLineColor(toQColor(line));
+    CPieInput& input = getGraph()->input();
+    input.outlineColor = toQColor(outline);
+    input.textColor = toQColor(text);
+    input.labelLineColor = toQColor(line);
 }
 
 std::list<Slice>* PieGraph::getSlice()
 {
-    assignSlices(*m_slices, getGraph());
+    assignSlices(*m_slices, *getGraph());
     return m_slices;
 }
 
 CPieGraph* PieGraph::getGraph() const
 {
-    return dynamic_cast<CPieGraph*>(m_graph);
+    return static_cast<CPieGraph*>(m_graph);
 }
 
 } // namespace tovangl

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The vertical bar chart.
+#include "api/CBarBase.h"
 #include "api/bar_facade.h"
 #include "api/conversions.h"
-#include "bar/CBarGraph.h"
 #include <tovangl/VerticalBarGraph.h>
 
 #include <memory>
@@ -30,60 +30,62 @@ VerticalBarGraph::~VerticalBarGraph()
 
 bool VerticalBarGraph::addItem(long value, const std::string& text)
 {
-    return getGraph()->addItem(value, toQString(text), QColor(), QColor());
+    getGraph()->input().addItem(value, toQString(text), QColor(), QColor());
+    return true;
 }
 
 bool VerticalBarGraph::addItem(long value, const std::string& text, const Color& color,
                                const Color& outline)
 {
-    return getGraph()->addItem(value, toQString(text), toQColor(color), toQColor(outline));
+    getGraph()->input().addItem(value, toQString(text), toQColor(color), toQColor(outline));
+    return true;
 }
 
 void VerticalBarGraph::setPosition(int x, int y)
 {
-    getGraph()->setPosition(x, y);
+    tovangl::setPosition(getGraph()->input(), x, y);
 }
 
 void VerticalBarGraph::setBarWidth(int width)
 {
-    getGraph()->setBarWidth(width);
+    tovangl::setBarWidth(getGraph()->input(), width);
 }
 
 int VerticalBarGraph::barWidth() const
 {
-    return getGraph()->barWidth();
+    return getGraph()->input().barWidth;
 }
 
 void VerticalBarGraph::setHorizontalAxis(int properties, const std::string& title)
 {
-    getGraph()->setHorizontalAxis(toAxisProperties(properties), toQString(title));
+    getGraph()->input().horizontalAxis = toAxisSettings(properties, title);
 }
 
 void VerticalBarGraph::setVerticalAxis(int properties, const std::string& title)
 {
-    getGraph()->setVerticalAxis(toAxisProperties(properties), toQString(title));
+    getGraph()->input().verticalAxis = toAxisSettings(properties, title);
 }
 
 void VerticalBarGraph::setColor(const Color& color)
 {
-    getGraph()->setTextColor(toQColor(color));
+    getGraph()->input().textColor = toQColor(color);
 }
 
 std::list<Rectangle>* VerticalBarGraph::getBarRectangle()
 {
-    assignBarRectangles(*m_barRectangles, getGraph());
+    assignRectangles(*m_barRectangles, getGraph()->barRectangles());
     return m_barRectangles;
 }
 
 std::list<Rectangle>* VerticalBarGraph::getItemBarRectangle()
 {
-    assignItemBarRectangles(*m_itemBarRectangles, getGraph());
+    assignRectangles(*m_itemBarRectangles, getGraph()->itemBarRectangles());
     return m_itemBarRectangles;
 }
 
 CBarGraph* VerticalBarGraph::getGraph() const
 {
-    return dynamic_cast<CBarGraph*>(m_graph);
+    return static_cast<CBarGraph*>(m_graph);
 }
 
 } // namespace tovangl

@@ -1,41 +1,36 @@
 // SPDX-License-Identifier: MIT
-// What the facades of the two bar charts have in common.
+// What the facades of the two bar charts share.
 #include "api/bar_facade.h"
 
 #include "api/conversions.h"
-#include "bar/CBarBase.h"
 #include <tovangl/AxisProperty.h>
+
+#include <algorithm>
 
 namespace tovangl {
 
-static_assert(int{AxisProperty::ShowLine} == int{CAxis::ShowLine});
-static_assert(int{AxisProperty::ShowLabels} == int{CAxis::ShowLabels});
-static_assert(int{AxisProperty::ShowTitle} == int{CAxis::ShowTitle});
-static_assert(int{AxisProperty::BoldLabels} == int{CAxis::BoldLabels});
-static_assert(int{AxisProperty::BoldTitle} == int{CAxis::BoldTitle});
-static_assert(int{AxisProperty::UnitPrefixes} == int{CAxis::UnitPrefixes});
-static_assert(int{AxisProperty::HideOverlapped} == int{CAxis::HideOverlapped});
-static_assert(int{AxisProperty::ShiftLastLabel} == int{CAxis::ShiftLastLabel});
+static_assert(int{AxisProperty::ShowLine} == int{CAxisSettings::ShowLine});
+static_assert(int{AxisProperty::ShowLabels} == int{CAxisSettings::ShowLabels});
+static_assert(int{AxisProperty::ShowTitle} == int{CAxisSettings::ShowTitle});
+static_assert(int{AxisProperty::BoldLabels} == int{CAxisSettings::BoldLabels});
+static_assert(int{AxisProperty::BoldTitle} == int{CAxisSettings::BoldTitle});
+static_assert(int{AxisProperty::UnitPrefixes} == int{CAxisSettings::UnitPrefixes});
+static_assert(int{AxisProperty::HideOverlapped} == int{CAxisSettings::HideOverlapped});
+static_assert(int{AxisProperty::ShiftLastLabel} == int{CAxisSettings::ShiftLastLabel});
 
-CAxis::Properties toAxisProperties(int properties)
+CAxisSettings toAxisSettings(int properties, const std::string& title)
 {
-    return CAxis::Properties(QFlag(properties));
+    return {CAxisSettings::Properties(QFlag(properties)), toQString(title)};
 }
 
-void assignBarRectangles(std::list<Rectangle>& list, const CBarBase* graph)
+void setPosition(CBarInput& input, int x, int y)
 {
-    std::list<QRect> rects;
-    if (graph)
-        graph->putBarRectangle(rects);
-    assignRectangles(list, rects);
+    input.position = QPoint(std::max(x, kFreePosition), std::max(y, kFreePosition));
 }
 
-void assignItemBarRectangles(std::list<Rectangle>& list, const CBarBase* graph)
+void setBarWidth(CBarInput& input, int width)
 {
-    std::list<QRect> rects;
-    if (graph)
-        graph->putItemBarRectangle(rects);
-    assignRectangles(list, rects);
+    input.barWidth = std::max(width, 0);
 }
 
 } // namespace tovangl

@@ -1,26 +1,23 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// What the facades of the two bar charts have in common.
+/// What the facades of the two bar charts share.
 #ifndef TOVANGL_API_BAR_FACADE_H
 #define TOVANGL_API_BAR_FACADE_H
 
-#include "axes/CAxis.h"
-#include <tovangl/Rectangle.h>
+#include "input/CBarInput.h"
 
-#include <list>
+#include <string>
 
 namespace tovangl {
 
-class CBarBase;
+/// @param properties  a host's sum of AxisProperty bits; unknown bits are ignored
+[[nodiscard]] CAxisSettings toAxisSettings(int properties, const std::string& title);
 
-/// A host's sum of AxisProperty bits; bits without a meaning are kept and do nothing.
-[[nodiscard]] CAxis::Properties toAxisProperties(int properties);
+/// Fixes the axis lines; a negative number leaves that line to the layout.
+void setPosition(CBarInput& input, int x, int y);
 
-/// Replaces the list's content by the rectangles of the bars last drawn; none without a chart.
-void assignBarRectangles(std::list<Rectangle>& list, const CBarBase* graph);
-
-/// Replaces the list's content by one rectangle for each item; none without a chart.
-void assignItemBarRectangles(std::list<Rectangle>& list, const CBarBase* graph);
+/// A negative width is kept as 0.
+void setBarWidth(CBarInput& input, int width);
 
 } // namespace tovangl
 

@@ -2,7 +2,7 @@
 // From the host's types to the library's own, and back.
 #include "api/conversions.h"
 
-#include "core/pixel_arithmetic.h"
+#include "base/pixel_arithmetic.h"
 
 #include <limits>
 #include <new>
@@ -16,11 +16,6 @@ constexpr int kLargestChannel = 255;
 bool isChannel(int value)
 {
     return value >= 0 && value <= kLargestChannel;
-}
-
-int inclusiveExtent(int first, int last)
-{
-    return clampToInt(std::int64_t{last} - first + 1);
 }
 
 } // namespace
@@ -40,11 +35,12 @@ QColor toQColor(const Color& color)
 
 Rectangle toRectangle(const QRect& rect)
 {
-    return Rectangle{rect.left(), rect.top(), inclusiveExtent(rect.left(), rect.right()),
-                     inclusiveExtent(rect.top(), rect.bottom())};
+    return Rectangle{rect.left(), rect.top(),
+                     clampToInt(inclusiveExtent(rect.left(), rect.right())),
+                     clampToInt(inclusiveExtent(rect.top(), rect.bottom()))};
 }
 
-void assignRectangles(std::list<Rectangle>& list, const std::list<QRect>& rects)
+void assignRectangles(std::list<Rectangle>& list, const std::vector<QRect>& rects)
 {
     std::list<Rectangle> converted;
     for (const QRect& rect : rects)

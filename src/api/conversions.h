@@ -13,19 +13,20 @@
 
 #include <list>
 #include <string>
+#include <vector>
 
 namespace tovangl {
 
 /// Decodes the whole length of a UTF-8 string: a NUL inside is a character.
 [[nodiscard]] QString toQString(const std::string& text);
 
-/// An opaque colour; invalid, that is not set, where a channel is outside 0 to 255.
+/// An opaque colour; invalid, which means not set, if a channel is outside 0 to 255.
 [[nodiscard]] QColor toQColor(const Color& color);
 
 [[nodiscard]] Rectangle toRectangle(const QRect& rect);
 
-/// Replaces the list's content. Where memory runs out the list keeps the old one.
-void assignRectangles(std::list<Rectangle>& list, const std::list<QRect>& rects);
+/// Replaces the list's content. If memory runs out, the list keeps its old content.
+void assignRectangles(std::list<Rectangle>& list, const std::vector<QRect>& rects);
 
 } // namespace tovangl
 

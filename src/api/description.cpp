@@ -2,10 +2,8 @@
 // A chart in one sentence.
 #include "api/description.h"
 
-#include "bar/CBarGraph.h"
-#include "bar/CLabeledBarGraph.h"
-#include "labels/number_text.h"
-#include "pie/CPieGraph.h"
+#include "input/CGraph1dInput.h"
+#include "text/number_text.h"
 
 #include <QLocale>
 
@@ -45,55 +43,48 @@ QString numberOf(long long value, const QLocale& locale)
 
 QString mention(const CGraph1dItem& item, const QLocale& locale)
 {
-    QString number = numberOf(item.value(), locale);
-    const QString caption = readable(shortened(item.text()));
+    QString number = numberOf(item.value, locale);
+    const QString caption = readable(shortened(item.text));
     if (caption.isEmpty())
         return number;
     return QChar(kOpeningQuote) + caption + QChar(kClosingQuote) + QLatin1String(" with ") + number;
 }
 
-// Of several items with the greatest value the first is told, of the least ones the last.
-template <typename T>
-QString extremes(const std::list<T*>& items, const QLocale& locale)
+// If several items share the greatest value, the first is named; of the least ones, the last.
+QString extremes(const std::vector<const CGraph1dItem*>& items, const QLocale& locale)
 {
     if (items.empty())
         return QString();
     if (items.size() == 1)
         return QLatin1String(": ") + mention(*items.front(), locale);
-    const auto isLess = CGraph1d<T>::compareItems;
+    const auto isLess = [](const CGraph1dItem* a, const CGraph1dItem* b) {
+        return a->value < b->value;
+    };
     const auto greatest = std::max_element(items.begin(), items.end(), isLess);
     const auto least = std::min_element(items.rbegin(), items.rend(), isLess);
     return QLatin1String(": the greatest is ") + mention(**greatest, locale) +
            QLatin1String(", the least is ") + mention(**least, locale);
 }
 
-template <typename T>
-std::string describe(const char* kind, const CGraph1d<T>& graph)
+} // namespace
+
+std::string describeChart(const char* kind, const CGraph1dInput& input,
+                          const std::vector<std::size_t>& drawn)
 {
-    const QLocale& locale = *graph.locale();
-    const std::list<T*> drawn = graph.isDrawn() ? graph.selectedItems() : std::list<T*>();
+    const QLocale& locale = input.settings.locale;
+    std::vector<const CGraph1dItem*> items;
+    items.reserve(drawn.size());
+    for (const std::size_t position : drawn)
+        items.push_back(&input.items[position]);
     const auto count = [&locale](std::size_t number) {
         return numberOf(static_cast<long long>(number), locale);
     };
-    const QString sentence = QLatin1String(kind) + QLatin1String(", ") + count(drawn.size()) +
-                             QLatin1String(" of ") + count(graph.items().size()) +
-                             QLatin1String(" items drawn") + extremes(drawn, locale) +
+    const QString sentence = QLatin1String(kind) + QLatin1String(", ") + count(items.size()) +
+                             QLatin1String(" of ") + count(input.items.size()) +
+                             QLatin1String(" items drawn") + extremes(items, locale) +
                              QLatin1Char('.');
     const QByteArray bytes = sentence.toUtf8();
     return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-}
-
-} // namespace
-
-std::string describeChart(const CGraph1dBase* graph)
-{
-    if (const auto* pie = dynamic_cast<const CPieGraph*>(graph))
-        return describe("Pie chart", *pie);
-    if (const auto* bars = dynamic_cast<const CBarGraph*>(graph))
-        return describe("Vertical bar chart", *bars);
-    if (const auto* bars = dynamic_cast<const CLabeledBarGraph*>(graph))
-        return describe("Horizontal bar chart", *bars);
-    return std::string();
 }
 
 } // namespace tovangl

@@ -4,15 +4,21 @@
 #ifndef TOVANGL_API_DESCRIPTION_H
 #define TOVANGL_API_DESCRIPTION_H
 
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace tovangl {
 
-class CGraph1dBase;
+struct CGraph1dInput;
 
-/// Describes the last rendering for those who cannot see it: kind, items drawn, extremes. UTF-8;
-/// empty for a null chart.
-[[nodiscard]] std::string describeChart(const CGraph1dBase* graph);
+/// Says how many items were drawn, and names the greatest and the least of them, for a picture's
+/// alternative text. UTF-8.
+///
+/// @param kind   the words that the sentence begins with
+/// @param drawn  positions of the items drawn, ascending
+[[nodiscard]] std::string describeChart(const char* kind, const CGraph1dInput& input,
+                                        const std::vector<std::size_t>& drawn);
 
 } // namespace tovangl
 

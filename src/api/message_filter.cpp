@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A Qt message handler that discards the messages of threads which draw, and passes on all others.
+// A Qt message handler that discards the messages of drawing threads and passes on all others.
 #include "api/message_filter.h"
 
 #include <QtGlobal>
@@ -15,18 +15,19 @@ namespace tovangl {
 
 namespace {
 
-// One for each handler that a host has in force while it draws, which are a few, and one two for
-// each time that a host exchanges the handler in the same fraction of a microsecond as the library.
+// The process needs one for each handler that a host has in force while it draws, which are few,
+// and one or two for each time that a host exchanges the handler within the same fraction of a
+// microsecond as the library.
 constexpr std::size_t kFilterCount = 256;
 
-// What the filter of the same number passes on to; null while that is being found out.
+// The handler that the filter of the same number passes on to; null until that is known.
 std::array<std::atomic<QtMessageHandler>, kFilterCount> hostHandlers;
 
 thread_local int silencedScopes = 0;
 
 // --- passing a message on
 
-// A filter that the calling thread is in, and the one around it.
+// A filter that the calling thread is running, and the one that called it.
 class CPassage
 {
 public:
@@ -56,7 +57,7 @@ private:
 
 thread_local const CPassage* CPassage::innermost = nullptr;
 
-// The wait is for another thread that is between two exchanges of the handler.
+// Waits for another thread that is between two exchanges of the handler.
 QtMessageHandler waitForHostHandler(std::size_t filter)
 {
     QtMessageHandler handler = hostHandlers[filter];
@@ -92,14 +93,14 @@ constexpr auto kFilters = makeFilters(std::make_index_sequence<kFilterCount>());
 
 // --- what is in force
 
-// Knows which filter stands for what. Used by one thread at a time.
+// Knows which filter stands for which handler. Only one thread at a time may use it.
 class CHandlerExchange
 {
 public:
     void settle(bool isDrawing);
 
 private:
-    static constexpr std::size_t kReserve = 3; // filters that one call may take
+    static constexpr std::size_t kReserve = 3; // filters that one call can use up
 
     [[nodiscard]] QtMessageHandler putProbeInForce();
     void replaceProbe(QtMessageHandler wanted);
@@ -109,14 +110,14 @@ private:
 
     std::size_t m_probe = 0;              // the filter that no host was ever given
     std::size_t m_used = 1;               // filters, the probe included
-    QtMessageHandler m_inForce = nullptr; // the filter that was left there while a thread draws
+    QtMessageHandler m_inForce = nullptr; // the filter that the library installed last, if any
     bool m_isContested = false;
 };
 
 // Once a host has exchanged handlers while pictures were drawn, a filter stays in force from then
-// on. What the host is given is always a filter then, and so its handlers can form no circle in
-// which a message would run for ever. Where the filters are used up, what is in force stays: rather
-// a message too many than a handler lost.
+// on. Every previous handler that the host gets is then a filter, so its handlers cannot form a
+// loop in which a message would run for ever. When the filters are used up, the current handler
+// stays: a superfluous message is better than a lost handler.
 void CHandlerExchange::settle(bool isDrawing)
 {
     if (kFilterCount - m_used < kReserve)
@@ -129,8 +130,8 @@ void CHandlerExchange::settle(bool isDrawing)
     replaceProbe(m_inForce ? m_inForce : host);
 }
 
-// Qt tells what is in force only in exchange for something else. The probe stands for nothing as
-// yet: messages wait, because the handler of the last rendering may be gone.
+// Qt returns the current handler only in exchange for another one. The probe has no handler yet:
+// messages wait, because the handler of the last rendering may no longer exist.
 QtMessageHandler CHandlerExchange::putProbeInForce()
 {
     const QtMessageHandler probe = kFilters[m_probe];
@@ -141,8 +142,8 @@ QtMessageHandler CHandlerExchange::putProbeInForce()
     return found;
 }
 
-// A host may have put its own handler there just before, and was given the probe. That handler is
-// to be in force after all, behind a filter that no host knows, while the probe keeps its meaning.
+// A host may have installed its own handler just before, and got the probe in return. That handler
+// must come into force, behind a filter that no host knows, and the probe must keep its meaning.
 void CHandlerExchange::replaceProbe(QtMessageHandler wanted)
 {
     const QtMessageHandler missed = qInstallMessageHandler(wanted);

@@ -1,42 +1,38 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// A Qt message handler that discards the messages of threads which draw, and passes on all others.
+/// A Qt message handler that discards the messages of drawing threads and passes on all others.
 ///
-/// Qt has one handler for the whole process, and offers nothing but to exchange it. A host may do
-/// so at any time, in any thread, and may keep what it got: to pass messages on to it, or to put it
-/// back. So:
+/// Qt has one handler for the whole process, and can only exchange it. A host can do so at any
+/// time, in any thread, and can keep the previous handler: to pass messages on to it, or to restore
+/// it. So:
 ///
 /// - The filter is in force only while a thread of the process draws. A host that exchanges the
-///   handler at other times meets nothing of the library's.
-/// - The filter is many functions. Each stands for one handler of the host's, which it passes on
-/// to,
-///   and never for another one: what a host was given keeps its meaning, whenever it is called or
-///   put back. None passes on to another of them, let alone to itself.
-/// - A beginning rendering puts the filter in front of whatever is in force, a handler included
-/// that
-///   the host installed while another thread draws.
-/// - The end of the last rendering puts the host's handler back: the one that the host wants by
-/// then.
-///   Once a host has exchanged handlers while pictures were drawn, a filter for it stays instead.
-/// - A message passes each of these functions once. Where handlers of the host's pass messages on
-/// in a
-///   circle, it ends there.
+///   handler at other times never gets a function of the library's.
+/// - The filter consists of many functions. Each passes on to one fixed handler of the host's, so
+///   that a previous handler keeps its meaning whenever the host calls or restores it. None passes
+///   on to another filter function or to itself.
+/// - A rendering that begins puts a filter in front of the current handler, even if the host
+///   installed that handler while another thread draws.
+/// - The end of the last rendering restores the handler that the host wants at that time. Once a
+///   host has exchanged handlers while pictures were drawn, a filter for it stays instead.
+/// - A message passes each of these functions once. If handlers of the host's pass messages on in a
+///   loop, it ends there.
 ///
-/// What Qt's exchange leaves open: where hosts exchange handlers twice within the fraction of a
-/// microsecond in which a rendering begins or ends, one of them may be given the filter of the
-/// handler before the last, and pass the last one by.
+/// Qt's exchange leaves one gap: if hosts exchange handlers twice within the fraction of a
+/// microsecond in which a rendering begins or ends, one of them can get the filter of the handler
+/// before the last, and so bypass the last one.
 ///
-/// A handler that the host installs *while* a thread draws gets what is left of that rendering's
-/// messages: it was the host's last word.
+/// A handler that the host installs *while* a thread draws gets the rest of that rendering's
+/// messages, because it is the host's latest choice.
 #ifndef TOVANGL_API_MESSAGE_FILTER_H
 #define TOVANGL_API_MESSAGE_FILTER_H
 
 namespace tovangl {
 
-/// Discards the Qt messages of the calling thread until endSilence(). Calls may nest.
+/// Discards the Qt messages of the calling thread until endSilence(). Calls can nest.
 void beginSilence();
 
-/// Ends what the last beginSilence() of the calling thread began.
+/// Ends the last beginSilence() of the calling thread.
 void endSilence();
 
 } // namespace tovangl

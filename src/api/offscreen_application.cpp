@@ -3,7 +3,7 @@
 #include "api/offscreen_application.h"
 
 #include "api/CMessageSilencer.h"
-#include "core/qt_versions.h"
+#include "api/qt_threads.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -38,8 +38,8 @@ private:
     std::string m_locale;
 };
 
-// Qt looks beside the executable, for plugins and for a file that says where they are, but only
-// once there is an application object.
+// Qt searches beside the executable for plugins, and for a file that says where they are, but only
+// once an application object exists.
 bool hasPluginsBesideExecutable()
 {
     const QDir folder = QFileInfo(QFile::symLinkTarget(QLatin1String("/proc/self/exe"))).dir();
@@ -76,7 +76,7 @@ QStringList platformFolders()
     return folders;
 }
 
-// Qt ends the process where the platform plugin cannot be loaded, so it is loaded here first.
+// Qt ends the process if it cannot load the platform plugin, so this tries to load it first.
 bool canLoadOffscreenPlugin()
 {
     const QStringList folders = platformFolders();
@@ -128,8 +128,8 @@ bool ensureApplication()
 
 namespace {
 
-// A forked child has the pool of painting threads, but not its threads, and would wait for them for
-// ever. It starts its own where the pool is empty.
+// A forked child inherits the pool of painting threads, but not the threads, and would wait for
+// them for ever. If the pool is empty, the child starts its own.
 bool endPaintThreadsBeforeForks()
 {
     if constexpr (qt::kPaintsInThreads)
@@ -137,7 +137,8 @@ bool endPaintThreadsBeforeForks()
     return true;
 }
 
-// Makes the object when the library is loaded, so that it belongs to no later thread by chance.
+// Makes the object when the library is loaded, so that it does not belong to whichever thread
+// happens to draw first.
 [[maybe_unused]] const bool madeAtLoad = ensureApplication();
 [[maybe_unused]] const bool preparedForForks = endPaintThreadsBeforeForks();
 

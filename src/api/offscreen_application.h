@@ -6,13 +6,13 @@
 
 namespace tovangl {
 
-/// Makes the application object where the process has none. It runs when the library is loaded, and
+/// Makes the application object if the process has none. It runs when the library is loaded, and
 /// before every rendering, because a host may have destroyed its own object meanwhile.
 ///
-/// The object is never destroyed, because a host may have one of its own by then. Qt's messages are
-/// discarded while it is made, and the host's C locale stays as it was.
+/// The object is never destroyed, because a host may have its own by then. While it is made, Qt's
+/// messages are discarded, and the host's C locale is preserved.
 ///
-/// @return whether pictures can be drawn; false where Qt's offscreen platform plugin is missing
+/// @return whether pictures can be drawn; false if Qt's offscreen platform plugin is missing
 bool ensureApplication();
 
 } // namespace tovangl

@@ -8,7 +8,7 @@
 
 namespace tovangl {
 
-/// One English sentence; empty where there is no problem.
+/// One English sentence; empty if there is no problem.
 [[nodiscard]] const char* problemSentence(Problem problem);
 
 } // namespace tovangl

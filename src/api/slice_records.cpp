@@ -2,9 +2,9 @@
 // The slices of a pie as records of the public interface.
 #include "api/slice_records.h"
 
-#include "draw/circle_geometry.h"
-#include "draw/slice_outline.h"
-#include "pie/CPieGraph.h"
+#include "api/CPieGraph.h"
+#include "base/circle_geometry.h"
+#include "layout/slice_outline.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -15,10 +15,10 @@ namespace {
 
 constexpr Slice kNoSlice = {0, 0, 0, 0, 0, 0};
 
-// The angle at which a slice begins when it is followed counter-clockwise, in [0, full circle).
-int counterClockwiseStart(const CPieBaseItem& item)
+// The angle at which a slice begins counter-clockwise, in [0, full circle).
+int counterClockwiseStart(const CSliceAngles& slice)
 {
-    const int start = std::min(item.spanAngle(), 0) + item.startAngle();
+    const int start = std::min(slice.span, 0) + slice.start;
     const int rest = start % cdraw::kFullCircle;
     return rest < 0 ? rest + cdraw::kFullCircle : rest;
 }
@@ -28,28 +28,28 @@ double inDegrees(int angle)
     return angle / double{cdraw::kUnitsPerDegree};
 }
 
-Slice toSlice(const CPieBaseItem& item, const QRectF& pie)
+Slice toSlice(const CSliceAngles& slice, const QRectF& pie)
 {
     return Slice{pie.x(),
                  pie.y(),
                  pie.width(),
                  pie.height(),
-                 inDegrees(counterClockwiseStart(item)),
-                 inDegrees(std::abs(item.spanAngle()))};
+                 inDegrees(counterClockwiseStart(slice)),
+                 inDegrees(std::abs(slice.span))};
 }
 
 } // namespace
 
-void assignSlices(std::list<Slice>& list, const CPieGraph* graph)
+void assignSlices(std::list<Slice>& list, const CPieGraph& graph)
 {
-    std::list<Slice> records;
-    if (graph) {
-        for (const CPieBaseItem* item : graph->drawnItems()) {
-            const bool hasSlice = item && item->spanAngle() != 0;
-            records.push_back(hasSlice ? toSlice(*item, graph->drawnPieRect()) : kNoSlice);
+    std::vector<Slice> records(graph.input().items.size(), kNoSlice);
+    if (graph.isDrawn()) {
+        for (const CPieSlice& slice : graph.layout().slices) {
+            if (slice.angles.span != 0)
+                records[slice.item] = toSlice(slice.angles, graph.layout().drawnPieRect);
         }
     }
-    list.swap(records);
+    std::list<Slice>(records.begin(), records.end()).swap(list);
 }
 
 std::vector<Point> getPolygon(const Slice& slice)

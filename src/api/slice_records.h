@@ -12,9 +12,9 @@ namespace tovangl {
 
 class CPieGraph;
 
-/// Replaces the list's content by one record for each item; none without a chart. Where memory runs
-/// out the list keeps the old one.
-void assignSlices(std::list<Slice>& list, const CPieGraph* graph);
+/// Replaces the list's content with one record for each item. If memory runs out, the list keeps
+/// its old content.
+void assignSlices(std::list<Slice>& list, const CPieGraph& graph);
 
 } // namespace tovangl
 

@@ -15,7 +15,7 @@ struct CByteRange
     std::size_t size = 0;
 };
 
-/// Room to be written to.
+/// Memory to write to.
 struct CByteRoom
 {
     unsigned char* data = nullptr; // borrowed

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The different colours of a picture, numbered in the order in which they were met.
+/// The different colours of a picture, numbered in the order in which they were found.
 #ifndef TOVANGL_OUTPUT_CCOLORINDEX_H
 #define TOVANGL_OUTPUT_CCOLORINDEX_H
 
@@ -12,7 +12,7 @@
 
 namespace tovangl {
 
-/// A hash table with open addressing, four times as large as the palette that it may hold.
+/// A hash table with open addressing, four times as large as the largest palette.
 class CColorIndex
 {
 public:
@@ -20,8 +20,8 @@ public:
 
     static constexpr int kFull = -1;
 
-    /// The number of a colour, which is added where it is new. kFull, and nothing added, where it
-    /// would be the 257th.
+    /// The number of a colour, which is added if it is new. If it would be the 257th, nothing is
+    /// added and the result is kFull.
     [[nodiscard]] int add(QRgb color)
     {
         CSlot& slot = m_slots[findSlot(color)];
@@ -64,7 +64,7 @@ private:
         return (color * kGoldenRatio) >> (kColorBits - kHashBits);
     }
 
-    // The colour's slot, or the free one where it belongs.
+    // The colour's slot, or the free slot for it.
     [[nodiscard]] std::size_t findSlot(QRgb color) const
     {
         std::size_t slot = hash(color);

@@ -11,19 +11,18 @@ namespace tovangl {
 
 namespace {
 
-// Small pictures afford a longer search: it saves them an eighth and costs them a tenth of a
-// millisecond. In large ones the search takes its time in the antialiased edges of pies, and gains
-// little.
+// Small pictures can afford a longer search, which saves an eighth of the file and costs a tenth of
+// a millisecond. In large ones it takes long in the antialiased edges of pies, and gains little.
 constexpr std::size_t kSmallPicture = 128 * 1024; // bytes of packed rows
 constexpr std::size_t kLargePicture = 512 * 1024;
 constexpr int kSmallPictureLevel = 7;
 constexpr int kMiddlePictureLevel = 6;
 constexpr int kLargePictureLevel = 5;
 
-// Level 1 is no quicker on charts: it waits for itself in runs of equal bytes.
+// Level 1 is no faster on charts: in runs of equal bytes its steps depend on each other.
 constexpr int kQuickestLevel = 2;
 
-// The least room that is worth a try.
+// With less room, the fast compressor is not even tried.
 constexpr std::size_t kLeastRoom = 4096; // bytes
 
 int levelFor(std::size_t bytes, Compression compression)
@@ -49,7 +48,7 @@ CDeflater::CDeflater(CByteRange bytes, Compression compression)
 
 std::size_t CDeflater::deflate(CByteRoom room)
 {
-    // Small pictures are done in no time either way, and become smaller files this way.
+    // Small pictures take next to no time either way, and libdeflate makes smaller files.
     const bool isFast = m_compression == Compression::Fast && m_bytes.size >= kSmallPicture;
     if (isFast && room.size >= kLeastRoom) {
         if (const std::size_t size = deflateFast(m_bytes, room))

@@ -13,8 +13,8 @@ struct libdeflate_compressor;
 
 namespace tovangl {
 
-/// Makes a zlib stream of bytes that are all at hand. The stream depends on the bytes and the
-/// setting alone.
+/// Compresses bytes that are all in memory into a zlib stream. The stream depends only on the bytes
+/// and the setting.
 class CDeflater
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     /// Compresses into the room, if the stream fits.
     ///
-    /// @return the stream's length; 0 where it does not fit
+    /// @return the stream's length; 0 if it does not fit
     [[nodiscard]] std::size_t deflate(CByteRoom room);
 
     /// The length that no stream exceeds.
@@ -38,7 +38,7 @@ private:
 
     CByteRange m_bytes;
     Compression m_compression;
-    std::unique_ptr<libdeflate_compressor, CFree> m_compressor; // made where it is needed
+    std::unique_ptr<libdeflate_compressor, CFree> m_compressor; // made when first needed
 };
 
 } // namespace tovangl

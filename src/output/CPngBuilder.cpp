@@ -14,20 +14,20 @@ namespace {
 
 constexpr std::array<unsigned char, 8> kSignature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
 constexpr std::size_t kTypeBytes = 4;
-constexpr std::size_t kChunkFrame = 4 + kTypeBytes + 4; // length, type and check
+constexpr std::size_t kChunkFrame = 4 + kTypeBytes + 4; // length, type and checksum
 constexpr std::size_t kHeaderBytes = 13;
 constexpr std::size_t kResolutionBytes = 9;
 constexpr std::size_t kBytesPerColor = 3;
 
-// Kinds of pixels, and the only methods there are.
+// Pixel types, and the only methods that the format defines.
 constexpr unsigned kPaletteType = 3;
 constexpr unsigned kTrueColorType = 2;
 constexpr unsigned kDeflate = 0;
 constexpr unsigned kFilterByRow = 0;
 constexpr unsigned kNotInterlaced = 0;
 
-// Every picture says 100 dots an inch, as the offscreen platform of Qt 5 has it. Other versions and
-// platforms have other numbers, and a file must not depend on them.
+// Every picture declares 100 dots per inch, the resolution of Qt 5's offscreen platform. Other
+// versions and platforms have other resolutions, and a file must not depend on them.
 constexpr std::size_t kDotsPerMetre = 3937;
 constexpr unsigned kUnitIsMetre = 1;
 
@@ -43,7 +43,7 @@ std::size_t fileBytes(const CPackedPicture& picture, std::size_t rows)
 
 CPngBuilder::CPngBuilder(const CPackedPicture& picture, std::size_t room)
     : m_room(room)
-    // Deliberate: not make_unique, which would write zeros to all of it first.
+    // Deliberate: make_unique would first fill all of it with zeros.
     , m_data(new unsigned char[fileBytes(picture, room)])
     , m_next(std::copy(kSignature.begin(), kSignature.end(), m_data.get()))
 {

@@ -18,17 +18,17 @@ struct CPngFile
     std::size_t size = 0;
 };
 
-/// Writes what stands before the rows, leaves room for them, and closes the file behind them.
+/// Writes everything before the rows, leaves room for them, and closes the file after them.
 class CPngBuilder
 {
 public:
-    /// @param room  the most bytes that the compressed rows may take
+    /// @param room  the maximum size of the compressed rows in bytes
     CPngBuilder(const CPackedPicture& picture, std::size_t room);
 
     /// Where the compressed rows go.
     [[nodiscard]] CByteRoom room() const;
 
-    /// The file, in which the compressed rows have taken so many bytes.
+    /// The finished file, given the actual size of the compressed rows in bytes.
     [[nodiscard]] CPngFile finish(std::size_t size);
 
 private:
@@ -44,7 +44,7 @@ private:
     std::size_t m_room;
     std::unique_ptr<unsigned char[]> m_data;
     unsigned char* m_next;                    // where the next byte goes
-    const unsigned char* m_checked = nullptr; // where the chunk in work begins to be checked
+    const unsigned char* m_checked = nullptr; // where the checksum of the current chunk begins
 };
 
 } // namespace tovangl

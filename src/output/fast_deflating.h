@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The quickest compressor there is. It is there only where the library was built with ISA-L.
+/// The fastest compressor. It is available only if the library was built with ISA-L.
 #ifndef TOVANGL_OUTPUT_FAST_DEFLATING_H
 #define TOVANGL_OUTPUT_FAST_DEFLATING_H
 
@@ -8,12 +8,12 @@
 
 namespace tovangl {
 
-/// Whether deflateFast() ever compresses anything.
+/// Whether the compressor of deflateFast() is available.
 [[nodiscard]] bool canDeflateFast();
 
 /// Compresses into a zlib stream.
 ///
-/// @return the stream's length; 0 where it does not fit, or where there is no such compressor
+/// @return the stream's length; 0 if it does not fit, or if there is no such compressor
 [[nodiscard]] std::size_t deflateFast(CByteRange bytes, CByteRoom room);
 
 } // namespace tovangl

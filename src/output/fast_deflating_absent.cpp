@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Stands in for the quickest compressor where the library is built without ISA-L.
+// Replaces the fastest compressor if the library is built without ISA-L.
 #include "output/fast_deflating.h"
 
 namespace tovangl {

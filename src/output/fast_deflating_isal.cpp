@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The quickest compressor there is, by ISA-L.
+// The fastest compressor available, by ISA-L.
 #include "output/fast_deflating.h"
 
 #include <array>
@@ -11,11 +11,11 @@ namespace tovangl {
 
 namespace {
 
-// Higher levels were measured: they take longer and gain nothing on charts.
+// Higher levels take longer and gain nothing on charts, as measured.
 constexpr std::uint32_t kLevel = 1;
 
-// The stream and the room that its level works in, which is as small as it may be without larger
-// files. Together they are too large for the stack of a host's thread.
+// The stream and the work buffer of its level, which is as small as it can be without making files
+// larger. Together they are too large for the stack of a host's thread.
 struct CWork
 {
     isal_zstream stream;
@@ -44,7 +44,7 @@ std::size_t deflateFast(CByteRange bytes, CByteRoom room)
     const auto work = std::make_unique<CWork>();
     isal_zstream& stream = work->stream;
     prepare(*work);
-    // The interface has no const; the bytes are only read.
+    // The interface lacks const, but only reads the bytes.
     stream.next_in = const_cast<std::uint8_t*>(bytes.data);
     stream.avail_in = static_cast<std::uint32_t>(bytes.size);
     stream.next_out = room.data;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A picture's rows as a PNG file has them before they are compressed.
+// A picture's rows in the form that a PNG file compresses.
 #include "output/packed_picture.h"
 
 #include "output/picture_colors.h"
@@ -21,9 +21,9 @@ constexpr int kBitsPerByte = 8;
 constexpr std::size_t kFilterBytes = 1;
 constexpr std::size_t kChannels = 3; // red, green and blue
 
-// Where pixels are read, and where the packed rows go: both in the picture's own memory. A packed
-// row with its filter is at most as long as a row of pixels, so it never reaches pixels that are
-// still to be read, once those of its own row have been.
+// Reads pixels from the picture's own memory and writes packed rows into it. A packed row with its
+// filter is at most as long as a row of pixels, so once a row has been read, packing it never
+// overwrites unread pixels.
 class CRowMemory
 {
 public:
@@ -56,10 +56,10 @@ private:
     std::size_t m_rows;
 };
 
-// The indexes of a block's pixels, 0 where a shorter block has none.
+// The indexes of a block's pixels; a shorter block is filled up with 0.
 using IndexBlock = std::array<Byte, kBlockPixels>;
 
-// Puts so many bits of each index into bytes, the first index into the highest bits.
+// Packs the given number of bits of each index into bytes, the first index into the highest bits.
 template <int Depth>
 void packIndexes(const IndexBlock& indexes, Byte* packed)
 {
@@ -86,8 +86,8 @@ void packIndexes(const IndexBlock& indexes, std::size_t depth, Byte* packed)
     }
 }
 
-// Replaces the pixels of a picture by the indexes of a palette. Of a row only what has changed is
-// looked at; the rest is still there from the row above.
+// Replaces the pixels of a picture by palette indexes. It packs only the changed part of a row; the
+// rest is still there from the row above.
 class CPaletteWriter
 {
 public:
@@ -99,7 +99,7 @@ public:
         , m_filter(chooseFilter(rowBytes(), colors.repeatedRows,
                                 static_cast<int>(memory.rows()) - colors.repeatedRows))
         , m_pixelsAbove(static_cast<std::size_t>(width))
-        // The last block may be shorter than it is packed.
+        // The last block can be shorter than its packed form.
         , m_packed(rowBytes() + m_depth)
         , m_differences(m_filter == RowFilter::Up ? m_packed.size() : 0)
     {}
@@ -157,7 +157,7 @@ private:
                 index = static_cast<Byte>(m_colors.index.numberOf(pixels[x]));
             indexes[static_cast<std::size_t>(x - begin)] = index;
         }
-        std::array<Byte, kBlockPixels> packed; // of which a depth below 8 fills a part
+        std::array<Byte, kBlockPixels> packed; // a depth below 8 fills only a part
         packIndexes(indexes, m_depth, packed.data());
         storeBlock(packed.data(), static_cast<std::size_t>(begin / kBlockPixels) * m_depth);
     }
@@ -176,9 +176,9 @@ private:
     std::size_t m_depth; // also the bytes of a packed block
     const CPictureColors& m_colors;
     RowFilter m_filter;
-    std::vector<QRgb> m_pixelsAbove; // those of the last row that was no repetition
-    std::vector<Byte> m_packed;      // that row, and what has become of it so far; at first zeros
-    std::vector<Byte> m_differences; // what Up writes of the row in work
+    std::vector<QRgb> m_pixelsAbove; // those of the last row that was not a repetition
+    std::vector<Byte> m_packed;      // that row packed, with the changes so far; at first zeros
+    std::vector<Byte> m_differences; // what Up writes for the current row
 };
 
 std::vector<QRgb> paletteOf(const CColorIndex& index)
@@ -232,10 +232,10 @@ CPackedPicture packTrueColor(QImage& picture)
 
 } // namespace
 
-// A compressor writes a match for every 258 bytes. Where a row is left as it is, the matches of a
-// repeated one have to tell how far away the row above is, and cost about a byte more each than
-// those of the zeros that Up turns it into; Up itself costs two of them a row. In the other rows Up
-// costs about half a byte a match. Both were measured on 1,500 charts.
+// A compressor writes a match for every 258 bytes. Unfiltered, the matches of a repeated row encode
+// the distance to the row above, and each costs about a byte more than a match in the zeros that Up
+// produces; Up itself costs two matches a row. In the other rows Up costs about half a byte a
+// match. Both figures were measured on 1,500 charts.
 RowFilter chooseFilter(std::size_t rowBytes, int repeated, int others)
 {
     constexpr double kLongestMatch = 258; // bytes

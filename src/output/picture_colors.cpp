@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the first reading of a picture tells: its colours, and the rows that repeat the row above.
+// What one pass over a picture finds: its colours, and the rows that repeat the row above.
 #include "output/picture_colors.h"
 
 #include "output/pixel_blocks.h"
@@ -17,7 +17,7 @@ const QRgb* pixelRow(const QImage& picture, int y)
     return reinterpret_cast<const QRgb*>(picture.constScanLine(y));
 }
 
-// Adds the colours of one row to the index. Neighbours are mostly equal.
+// Adds the colours of one row to the index. Neighbouring pixels are mostly equal.
 class CColorReader
 {
 public:
@@ -26,7 +26,7 @@ public:
         , m_row(row)
     {}
 
-    // False where they are too many.
+    // False if there are too many.
     bool operator()(int begin, int end) const
     {
         for (int x = begin; x < end; ++x) {
@@ -43,7 +43,7 @@ private:
     const QRgb* m_row;
 };
 
-// Looks at some rows only: it soon finds nearly every picture of too many colours.
+// Samples a few rows, which quickly detects nearly every picture with too many colours.
 bool addSampledRows(CColorIndex& index, const QImage& picture)
 {
     constexpr int kSampledRows = 24;
@@ -55,7 +55,7 @@ bool addSampledRows(CColorIndex& index, const QImage& picture)
     return true;
 }
 
-// Most rows of a chart repeat the row above, or most of it; only what has changed is looked up.
+// Most rows of a chart repeat the row above, or most of it; only changed pixels are looked up.
 bool addAllRows(CPictureColors& colors, const QImage& picture)
 {
     const int width = picture.width();

@@ -12,17 +12,17 @@
 
 namespace tovangl {
 
-/// As many pixels as fill whole bytes at every depth of a palette.
+/// The smallest number of pixels that fills whole bytes at every palette depth.
 inline constexpr int kBlockPixels = 8;
 
 /// Calls visit(begin, end) for every block in which a row differs from the other, from left to
-/// right, until a call returns false. The last block may be shorter.
+/// right, until a call returns false. The last block can be shorter.
 ///
-/// @return whether no call has returned false
+/// @return false if a call returned false
 template <typename Visit>
 bool visitChangedBlocks(const QRgb* row, const QRgb* other, int width, Visit visit)
 {
-    constexpr int kPartPixels = 8 * kBlockPixels; // most parts are equal, and soon compared
+    constexpr int kPartPixels = 8 * kBlockPixels; // compared at once, because most are equal
     const auto areEqual = [row, other](int begin, int end) {
         const auto bytes = static_cast<std::size_t>(end - begin) * sizeof(QRgb);
         return std::memcmp(row + begin, other + begin, bytes) == 0;

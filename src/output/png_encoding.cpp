@@ -26,7 +26,7 @@ CPngFile encodePng(QImage& picture, Compression compression)
         return noFile();
     const CPackedPicture packed = packPicture(picture);
     CDeflater deflater(packed.rows, compression);
-    // The rows of nearly every chart fit into the memory that packing them has left over.
+    // For nearly every chart the compressed rows fit into the memory that packing has freed.
     if (const std::size_t size = deflater.deflate(packed.spare)) {
         CPngBuilder builder(packed, size);
         std::copy_n(packed.spare.data, size, builder.room().data);

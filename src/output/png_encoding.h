@@ -11,12 +11,11 @@ class QImage;
 
 namespace tovangl {
 
-/// The file, out of which a decoder gets exactly the picture's pixels. It depends on these and on
-/// the setting alone. Only std::bad_alloc can leave this call.
+/// The file, from which a decoder gets exactly the picture's pixels. It depends only on them and on
+/// the setting. Only std::bad_alloc can leave this call.
 ///
-/// @param picture  in ARGB32, and opaque. Its pixels are used up: what is needed on the way to the
-///                 file is written over them.
-/// @return no bytes, but no null pointer either, where the picture is null
+/// @param picture  in ARGB32, and opaque. Its pixels are overwritten with intermediate data.
+/// @return for a null picture no bytes, but a pointer that is not null
 [[nodiscard]] CPngFile encodePng(QImage& picture, Compression compression);
 
 } // namespace tovangl

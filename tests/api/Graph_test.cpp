@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "support/CTestChart.h"
-#include "support/public_records.h"
-#include <tovangl/Graph.h>
-#include <tovangl/VerticalBarGraph.h>
-
-#include <QLocale>
+#include "api/CBarBase.h"
+#include "support/host_pictures.h"
+#include <tovangl/tovangl.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,46 +16,17 @@ using ::testing::ElementsAre;
 
 constexpr int kMost = std::numeric_limits<int>::max();
 
-// A facade over the test chart, which puts the item's caption at (1, 2), 3 by 4 pixels large.
-class CTestGraph : public Graph
+// A facade with its chart in sight.
+class CTestGraph : public VerticalBarGraph
 {
 public:
     CTestGraph()
-        : m_chart([this](QPainter&) {
-            for (CBarGraphItem* item : m_chart.selectedItems())
-                item->setItemRect(QRect(1, 2, 3, 4));
-        })
-    {
-        m_graph = &m_chart;
-    }
+        : VerticalBarGraph(false)
+    {}
+    using VerticalBarGraph::getGraph;
 
-    CTestChart& chart() { return m_chart; }
-
-private:
-    CTestChart m_chart;
+    [[nodiscard]] const CGraph1dSettings& settings() const { return getGraph()->input().settings; }
 };
-
-struct CPicture
-{
-    unsigned char* data = nullptr;
-    int size = -1;
-
-    [[nodiscard]] QImage decoded() const { return QImage::fromData(data, size, "PNG"); }
-};
-
-CPicture exported(Graph& graph, int width, int height)
-{
-    CPicture picture;
-    graph.createPixmap(width, height, &picture.data, &picture.size);
-    return picture;
-}
-
-CPicture printed(Graph& graph, int width, int height, int factor)
-{
-    CPicture picture;
-    graph.createPixmapForPrinter(width, height, factor, &picture.data, &picture.size);
-    return picture;
-}
 
 static_assert(!std::is_copy_constructible_v<Graph> && !std::is_copy_assignable_v<Graph>);
 static_assert(std::has_virtual_destructor_v<Graph>);
@@ -106,12 +74,12 @@ TEST(Graph, ExportsAPngOfTheSizeAskedFor)
     EXPECT_EQ(exported(graph, 400, 300).decoded().size(), QSize(400, 300));
 }
 
-TEST(Graph, ExportsAWhitePictureForAChartThatDrawsNothing)
+TEST(Graph, ExportsThePixelsOfTheChart)
 {
     CTestGraph graph;
-    const QImage image = exported(graph, 40, 30).decoded();
-    EXPECT_EQ(image.pixel(0, 0), 0xffffffff);
-    EXPECT_EQ(image.pixel(39, 29), 0xffffffff);
+    graph.addItem(1, "caption");
+    const QImage image = exported(graph, 400, 300).decoded();
+    EXPECT_EQ(image, graph.getGraph()->getImage(400, 300));
 }
 
 TEST(Graph, PrintsAtAMultipleOfTheSize)
@@ -168,7 +136,7 @@ class SizeOfNoPicture : public ::testing::TestWithParam<std::pair<int, int>>
 TEST_P(SizeOfNoPicture, GivesABufferOfNoLength)
 {
     CTestGraph graph;
-    const CPicture picture = exported(graph, GetParam().first, GetParam().second);
+    const CHostPicture picture = exported(graph, GetParam().first, GetParam().second);
     EXPECT_NE(picture.data, nullptr);
     EXPECT_EQ(picture.size, 0);
 }
@@ -195,43 +163,35 @@ TEST(Graph, AnEmptyPictureReplacesTheOneBefore)
 TEST(Graph, ListsOneZeroRectangleForEachItemBeforeAnyExport)
 {
     CTestGraph graph;
-    graph.chart().add(1);
-    graph.chart().add(2);
-    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{0, 0, 0, 0}, Rectangle{0, 0, 0, 0}));
+    graph.addItem(1, "a");
+    graph.addItem(2, "b");
+    EXPECT_THAT(*graph.getRectangle(), ElementsAre(kNoRectangle, kNoRectangle));
 }
 
 TEST(Graph, ListsTheCaptionsOfTheLastExport)
 {
     CTestGraph graph;
-    graph.chart().add(1);
-    (void)exported(graph, 40, 30);
-    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{1, 2, 3, 4}));
+    graph.addItem(1, "a");
+    (void)exported(graph, 400, 300);
+    const QRect caption = graph.getGraph()->itemRectangles().front();
+    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{caption.x(), caption.y(),
+                                                             caption.width(), caption.height()}));
 }
 
-TEST(Graph, ListsTheRectangleOfAnEarlierExportForAnItemBelowTheThreshold)
+TEST(Graph, ListsZerosForACaptionThatIsHidden)
 {
     CTestGraph graph;
-    graph.chart().add(90);
-    graph.chart().add(10);
-    (void)exported(graph, 40, 30);
-    graph.chart().item(1)->setItemRect(QRect(5, 6, 7, 8));
-    graph.setThreshold(50);
-    (void)exported(graph, 40, 30);
-    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{1, 2, 3, 4}, Rectangle{5, 6, 7, 8}));
-}
-
-TEST(Graph, ListsZerosForACaptionThatWasHidden)
-{
-    CTestGraph graph;
-    graph.chart().add(1);
-    graph.chart().item(0)->setItemRect(QRect(QPoint(0, 0), QPoint(-1, -1)));
-    EXPECT_THAT(*graph.getRectangle(), ElementsAre(Rectangle{0, 0, 0, 0}));
+    graph.addItem(1, "a");
+    (void)exported(graph, 400, 300);
+    graph.setHorizontalAxis(AxisProperty::ShowLine, "");
+    (void)exported(graph, 400, 300);
+    EXPECT_THAT(*graph.getRectangle(), ElementsAre(kNoRectangle));
 }
 
 TEST(Graph, HandsOutTheSameListEachTime)
 {
     CTestGraph graph;
-    graph.chart().add(1);
+    graph.addItem(1, "a");
     const auto* list = graph.getRectangle();
     EXPECT_EQ(graph.getRectangle(), list);
     EXPECT_EQ(list->size(), 1u);
@@ -240,13 +200,13 @@ TEST(Graph, HandsOutTheSameListEachTime)
 TEST(Graph, ClearRemovesItemsAndKeepsSettings)
 {
     CTestGraph graph;
-    graph.chart().add(1);
+    graph.addItem(1, "a");
     graph.setThreshold(3);
     graph.setFont("DejaVu Sans", 20);
     graph.clear();
     EXPECT_TRUE(graph.getRectangle()->empty());
     EXPECT_EQ(graph.threshold(), 3.0);
-    EXPECT_EQ(graph.chart().fontSize(), 20);
+    EXPECT_EQ(graph.settings().fontSize, 20);
 }
 
 TEST(Graph, ANegativeThresholdActsAsZeroAtTheNextExport)
@@ -262,17 +222,17 @@ TEST(Graph, SetsTheFont)
 {
     CTestGraph graph;
     graph.setFont("DejaVu S\xc3\xa4ns", 20);
-    EXPECT_EQ(graph.chart().fontFamily(), QString::fromUtf8("DejaVu S\xc3\xa4ns"));
+    EXPECT_EQ(graph.settings().fontFamily, QString::fromUtf8("DejaVu S\xc3\xa4ns"));
     graph.setFont("Tahoma", 11);
-    EXPECT_EQ(graph.chart().fontFamily(), QString("Tahoma"));
-    EXPECT_EQ(graph.chart().fontSize(), 11);
+    EXPECT_EQ(graph.settings().fontFamily, QString("Tahoma"));
+    EXPECT_EQ(graph.settings().fontSize, 11);
 }
 
 TEST(Graph, SetsTheLocale)
 {
     CTestGraph graph;
     graph.setLocale("Deutsch", "at");
-    EXPECT_EQ(graph.chart().locale()->name(), QString("de_AT"));
+    EXPECT_EQ(graph.settings().locale.name(), QString("de_AT"));
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The pie chart of the public interface, seen as a host sees it.
+#include "support/host_pictures.h"
 #include <tovangl/tovangl.h>
 
 #include <QColor>
-#include <QImage>
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -23,16 +23,9 @@ protected:
 
     QImage render(int width = kWidth, int height = kHeight)
     {
-        unsigned char* data = nullptr;
-        int size = 0;
-        pie.createPixmap(width, height, &data, &size);
-        return QImage::fromData(data, size).convertToFormat(QImage::Format_ARGB32);
+        return tovangl::render(pie, width, height);
     }
-    [[nodiscard]] std::vector<Rectangle> rectangles()
-    {
-        const std::list<Rectangle>& list = *pie.getRectangle();
-        return std::vector<Rectangle>(list.begin(), list.end());
-    }
+    std::vector<Rectangle> rectangles() { return copied(pie.getRectangle()); }
     std::set<QRgb> colors()
     {
         const QImage image = render();
@@ -51,10 +44,6 @@ protected:
     static QColor sliceAt(const QImage& image, int dx, int dy)
     {
         return QColor(image.pixel(image.width() / 2 + 20 * dx, image.height() / 2 + 20 * dy));
-    }
-    [[nodiscard]] static bool isNull(const Rectangle& rect)
-    {
-        return rect.x == 0 && rect.y == 0 && rect.width == 0 && rect.height == 0;
     }
 
     PieGraph pie{false};
@@ -89,8 +78,8 @@ TEST_F(PieFacade, ASliceBelowTheThresholdKeepsAnEmptyPlaceInTheList)
     pie.addItem(96, "large");
     (void)render();
     ASSERT_EQ(rectangles().size(), 2u);
-    EXPECT_TRUE(isNull(rectangles()[0]));
-    EXPECT_FALSE(isNull(rectangles()[1]));
+    EXPECT_EQ(rectangles()[0], kNoRectangle);
+    EXPECT_NE(rectangles()[1], kNoRectangle);
 }
 
 TEST_F(PieFacade, ASliceBelowTheThresholdKeepsTheRectangleOfAnEarlierRendering)
@@ -99,11 +88,10 @@ TEST_F(PieFacade, ASliceBelowTheThresholdKeepsTheRectangleOfAnEarlierRendering)
     pie.addItem(96, "large");
     (void)render();
     const Rectangle earlier = rectangles()[0];
-    ASSERT_FALSE(isNull(earlier));
+    ASSERT_NE(earlier, kNoRectangle);
     pie.setThreshold(5.0);
     (void)render(2 * kWidth, kHeight);
-    EXPECT_EQ(rectangles()[0].x, earlier.x);
-    EXPECT_EQ(rectangles()[0].y, earlier.y);
+    EXPECT_EQ(rectangles()[0], earlier);
 }
 
 TEST_F(PieFacade, NegativeAndZeroValuesAreAcceptedButNotDrawn)
@@ -113,9 +101,9 @@ TEST_F(PieFacade, NegativeAndZeroValuesAreAcceptedButNotDrawn)
     EXPECT_TRUE(pie.addItem(std::numeric_limits<long>::min(), "least"));
     EXPECT_TRUE(pie.addItem(1, "one", Color{1, 200, 3}));
     EXPECT_EQ(sliceAt(render(), -1, -1), QColor(1, 200, 3));
-    EXPECT_TRUE(isNull(rectangles()[0]));
-    EXPECT_TRUE(isNull(rectangles()[1]));
-    EXPECT_TRUE(isNull(rectangles()[2]));
+    EXPECT_EQ(rectangles()[0], kNoRectangle);
+    EXPECT_EQ(rectangles()[1], kNoRectangle);
+    EXPECT_EQ(rectangles()[2], kNoRectangle);
 }
 
 TEST_F(PieFacade, SetColorsTakesOutlineTextAndLineInThatOrder)
@@ -177,10 +165,22 @@ TEST_F(PieFacade, SetPropertyZeroLeavesCollidingLabelsWhereTheyAre)
     (void)render();
     int moved = 0;
     for (std::size_t i = 0; i < arranged.size(); ++i) {
-        EXPECT_FALSE(isNull(rectangles()[i]));
+        EXPECT_NE(rectangles()[i], kNoRectangle);
         moved += rectangles()[i].y == arranged[i].y ? 0 : 1;
     }
     EXPECT_GT(moved, 10);
+}
+
+TEST_F(PieFacade, RectanglesBelongToTheirItemsWhereLabelsAreMovedApart)
+{
+    for (int i = 0; i < 30; ++i)
+        pie.addItem(1, "name");
+    (void)render();
+    const Rectangle upperLeft = rectangles()[3];
+    const Rectangle lowerRight = rectangles()[18];
+    EXPECT_NE(upperLeft, kNoRectangle);
+    EXPECT_LT(upperLeft.x, lowerRight.x);
+    EXPECT_LT(upperLeft.y, lowerRight.y);
 }
 
 TEST_F(PieFacade, ShortenFromLeftChangesOnlyLongNames)
@@ -230,10 +230,7 @@ TEST_F(PieFacade, TextsAreDecodedFromUtf8WithWhatIsBrokenReplaced)
 TEST_F(PieFacade, TheBackgroundIsTheConstructorsChoice)
 {
     PieGraph withBackground(true);
-    unsigned char* data = nullptr;
-    int size = 0;
-    withBackground.createPixmap(kWidth, kHeight, &data, &size);
-    const QImage image = QImage::fromData(data, size);
+    const QImage image = tovangl::render(withBackground, kWidth, kHeight);
     EXPECT_NE(QColor(image.pixel(kWidth / 2, 5)), QColor(Qt::white));
     EXPECT_EQ(QColor(render().pixel(kWidth / 2, 5)), QColor(Qt::white));
 }
@@ -241,10 +238,7 @@ TEST_F(PieFacade, TheBackgroundIsTheConstructorsChoice)
 TEST_F(PieFacade, ThePrinterPictureIsLargerByTheFactor)
 {
     pie.addItem(1, "all", Color{0, 0, 0});
-    unsigned char* data = nullptr;
-    int size = 0;
-    pie.createPixmapForPrinter(kWidth, kHeight, 2, &data, &size);
-    const QImage image = QImage::fromData(data, size);
+    const QImage image = printed(pie, kWidth, kHeight, 2).decoded();
     EXPECT_EQ(image.size(), QSize(2 * kWidth, 2 * kHeight));
     EXPECT_EQ(sliceAt(image, 1, 1), QColor(153, 153, 153));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What both bar chart facades do alike.
-#include "api/bar_facade_support.h"
+// The facades of the two bar charts.
+#include "api/CBarBase.h"
+#include "support/host_pictures.h"
+#include <tovangl/tovangl.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,7 +19,24 @@ constexpr Color kRed{255, 0, 0};
 constexpr Color kBlack{0, 0, 0};
 constexpr Color kBlue{0, 0, 255};
 constexpr Color kNoColor{256, 0, 0};
-constexpr Rectangle kNothing{0, 0, 0, 0};
+
+// The facade, with its chart in sight.
+template <typename Facade>
+class CShownFacade : public Facade
+{
+public:
+    explicit CShownFacade(bool background = false)
+        : Facade(background)
+    {}
+    using Facade::getGraph;
+
+    [[nodiscard]] const CBarInput& input() const { return getGraph()->input(); }
+    // The one that was added last.
+    [[nodiscard]] const CGraph1dItem& item() const { return input().items.back(); }
+};
+
+using CVerticalFacade = CShownFacade<VerticalBarGraph>;
+using CHorizontalFacade = CShownFacade<HorizontalBarGraph>;
 
 template <typename Facade>
 class BarFacade : public ::testing::Test
@@ -34,12 +53,6 @@ struct CFacadeNames
 
 using Facades = ::testing::Types<CVerticalFacade, CHorizontalFacade>;
 TYPED_TEST_SUITE(BarFacade, Facades, CFacadeNames);
-
-// The rectangles as a value.
-std::vector<Rectangle> copied(const std::list<Rectangle>* list)
-{
-    return {list->begin(), list->end()};
-}
 
 int pixelsOf(const QImage& image, QRgb color)
 {
@@ -62,28 +75,27 @@ TYPED_TEST(BarFacade, HasAChartFromItsConstructionOn)
 {
     const TypeParam plain(false);
     const TypeParam decorated(true);
-    ASSERT_NE(plain.getGraph(), nullptr);
-    EXPECT_FALSE(plain.getGraph()->hasBackground());
-    EXPECT_TRUE(decorated.getGraph()->hasBackground());
+    EXPECT_FALSE(plain.input().hasBackground);
+    EXPECT_TRUE(decorated.input().hasBackground);
 }
 
 TYPED_TEST(BarFacade, FirstThreeBarsHaveTheFirstThreeDefaultColours)
 {
     TypeParam chart;
     EXPECT_TRUE(chart.addItem(3, "a"));
-    EXPECT_EQ(chart.item().color(), QColor(23, 52, 124));
+    EXPECT_EQ(chart.item().color, QColor(23, 52, 124));
     chart.addItem(2, "b");
-    EXPECT_EQ(chart.item().color(), QColor(91, 115, 176));
+    EXPECT_EQ(chart.item().color, QColor(91, 115, 176));
     chart.addItem(1, "c");
-    EXPECT_EQ(chart.item().color(), QColor(174, 191, 234));
-    EXPECT_EQ(chart.item().outlineColor(), QColor(174, 191, 234).darker(150));
+    EXPECT_EQ(chart.item().color, QColor(174, 191, 234));
+    EXPECT_EQ(chart.item().outlineColor, QColor(174, 191, 234).darker(150));
 }
 
 TYPED_TEST(BarFacade, OwnColoursAreDrawn)
 {
     TypeParam chart;
     EXPECT_TRUE(chart.addItem(3, "", kRed, kBlue));
-    const QImage image = chart.exported();
+    const QImage image = render(chart);
     const Rectangle bar = chart.getBarRectangle()->front();
     EXPECT_EQ(image.pixel(bar.x + bar.width / 2, bar.y + bar.height / 2), 0xffff0000);
     EXPECT_EQ(image.pixel(bar.x + bar.width / 2, bar.y), 0xff0000ff);
@@ -93,15 +105,15 @@ TYPED_TEST(BarFacade, ColourOutOfRangeCountsAsNotSet)
 {
     TypeParam chart;
     chart.addItem(3, "", kNoColor, kNoColor);
-    EXPECT_EQ(chart.item().color(), QColor(23, 52, 124));
-    EXPECT_EQ(chart.item().outlineColor(), QColor(23, 52, 124).darker(150));
+    EXPECT_EQ(chart.item().color, QColor(23, 52, 124));
+    EXPECT_EQ(chart.item().outlineColor, QColor(23, 52, 124).darker(150));
 }
 
 TYPED_TEST(BarFacade, CaptionIsUtf8OfItsWholeLength)
 {
     TypeParam chart;
     chart.addItem(3, std::string("\xC3\xA9\0b", 4));
-    EXPECT_EQ(chart.item().text(), QString::fromUtf8("\xC3\xA9\0b", 4));
+    EXPECT_EQ(chart.item().text, QString::fromUtf8("\xC3\xA9\0b", 4));
 }
 
 TYPED_TEST(BarFacade, NegativeBarWidthIsZero)
@@ -118,36 +130,37 @@ TYPED_TEST(BarFacade, PositionReachesTheChart)
 {
     TypeParam chart;
     chart.setPosition(-5, 3);
-    EXPECT_EQ(chart.getGraph()->position(), QPoint(-1, 3));
+    EXPECT_EQ(chart.input().position, QPoint(-1, 3));
 }
 
 TYPED_TEST(BarFacade, VerticalAxisReachesTheChart)
 {
     TypeParam chart;
     chart.setVerticalAxis(AxisProperty::ShowTitle + AxisProperty::BoldTitle, "t\xC3\xA9");
-    EXPECT_EQ(chart.getGraph()->verticalAxisProperties(),
-              CAxis::Properties(CAxis::ShowTitle | CAxis::BoldTitle));
+    EXPECT_EQ(chart.input().verticalAxis.properties,
+              CAxisSettings::ShowTitle | CAxisSettings::BoldTitle);
+    EXPECT_EQ(chart.input().verticalAxis.title, QString::fromUtf8("t\xC3\xA9"));
 }
 
 TYPED_TEST(BarFacade, BitsWithoutAMeaningAreKept)
 {
     TypeParam chart;
     chart.setVerticalAxis(-1, "");
-    EXPECT_EQ(int(chart.getGraph()->verticalAxisProperties()), -1);
-    EXPECT_FALSE(chart.exported().isNull());
+    EXPECT_EQ(int(chart.input().verticalAxis.properties), -1);
+    EXPECT_FALSE(render(chart).isNull());
 }
 
 TYPED_TEST(BarFacade, TextColourReachesAxesAndValues)
 {
     TypeParam chart;
     chart.addItem(3, "caption", {255, 255, 255}, {255, 255, 255});
-    EXPECT_GT(pixelsOf(chart.exported(), 0xff000000), 100);
+    EXPECT_GT(pixelsOf(render(chart), 0xff000000), 100);
     chart.setColor(kRed);
-    const QImage red = chart.exported();
+    const QImage red = render(chart);
     EXPECT_EQ(pixelsOf(red, 0xff000000), 0);
     EXPECT_GT(pixelsOf(red, 0xffff0000), 100);
     chart.setColor(kBlack);
-    EXPECT_EQ(pixelsOf(chart.exported(), 0xffff0000), 0);
+    EXPECT_EQ(pixelsOf(render(chart), 0xffff0000), 0);
 }
 
 TYPED_TEST(BarFacade, HasNoBarRectanglesBeforeAnExport)
@@ -155,7 +168,7 @@ TYPED_TEST(BarFacade, HasNoBarRectanglesBeforeAnExport)
     TypeParam chart;
     chart.addItem(3, "a");
     EXPECT_THAT(copied(chart.getBarRectangle()), IsEmpty());
-    EXPECT_EQ(copied(chart.getRectangle()), std::vector<Rectangle>{kNothing});
+    EXPECT_EQ(copied(chart.getRectangle()), std::vector<Rectangle>{kNoRectangle});
 }
 
 TYPED_TEST(BarFacade, HasOneBarRectangleForEveryBarDrawn)
@@ -165,18 +178,18 @@ TYPED_TEST(BarFacade, HasOneBarRectangleForEveryBarDrawn)
     chart.addItem(1, "b");
     chart.addItem(90, "c");
     chart.setThreshold(5);
-    chart.exported();
+    (void)render(chart);
     EXPECT_THAT(copied(chart.getBarRectangle()), SizeIs(2));
     EXPECT_THAT(copied(chart.getRectangle()), SizeIs(3));
-    EXPECT_EQ(copied(chart.getRectangle())[1], kNothing);
+    EXPECT_EQ(copied(chart.getRectangle())[1], kNoRectangle);
 }
 
 TYPED_TEST(BarFacade, BarRectanglesAreThoseOfTheChart)
 {
     TypeParam chart;
     chart.addItem(100, "a");
-    chart.exported();
-    const QRect bar = chart.item().barRect();
+    (void)render(chart);
+    const QRect bar = chart.getGraph()->layout().bars.front().rect;
     EXPECT_EQ(copied(chart.getBarRectangle()),
               (std::vector<Rectangle>{{bar.left(), bar.top(), bar.width(), bar.height()}}));
 }
@@ -186,7 +199,7 @@ TYPED_TEST(BarFacade, BarRectangleListIsOneAndTheSame)
     TypeParam chart;
     chart.addItem(3, "a");
     const std::list<Rectangle>* before = chart.getBarRectangle();
-    chart.exported();
+    (void)render(chart);
     EXPECT_EQ(chart.getBarRectangle(), before);
     EXPECT_THAT(copied(before), SizeIs(1));
 }
@@ -196,7 +209,7 @@ TYPED_TEST(BarFacade, ClearRemovesTheBarsAndKeepsTheSettings)
     TypeParam chart;
     chart.addItem(3, "a");
     chart.setBarWidth(12);
-    chart.exported();
+    (void)render(chart);
     chart.clear();
     EXPECT_THAT(copied(chart.getBarRectangle()), IsEmpty());
     EXPECT_THAT(copied(chart.getRectangle()), IsEmpty());
@@ -208,11 +221,11 @@ TYPED_TEST(BarFacade, LocaleCanChangeBetweenTwoExports)
     TypeParam chart;
     chart.addItem(1234567, "a");
     chart.setLocale("en", "us");
-    const QImage english = chart.exported();
+    const QImage english = render(chart);
     chart.setLocale("de", "de");
-    EXPECT_NE(chart.exported().isNull(), true);
+    EXPECT_FALSE(render(chart).isNull());
     chart.setLocale("en", "us");
-    EXPECT_EQ(chart.exported(), english);
+    EXPECT_EQ(render(chart), english);
 }
 
 TYPED_TEST(BarFacade, TakesAnyNumber)
@@ -226,8 +239,99 @@ TYPED_TEST(BarFacade, TakesAnyNumber)
     for (const int extreme : {kLeast, -1, 0, kMost}) {
         chart.setPosition(extreme, extreme);
         chart.setBarWidth(extreme);
-        EXPECT_FALSE(chart.exported(60, 50).isNull());
+        EXPECT_FALSE(render(chart, 60, 50).isNull());
     }
+}
+
+// --- each kind for itself
+
+TEST(VerticalBarGraph, HasAChartOfStandingBars)
+{
+    CVerticalFacade chart;
+    chart.addItem(3, "a");
+    chart.addItem(3, "b");
+    (void)render(chart);
+    const Rectangle first = chart.getBarRectangle()->front();
+    const Rectangle second = chart.getBarRectangle()->back();
+    EXPECT_EQ(first.y, second.y);
+    EXPECT_LT(first.x + first.width, second.x);
+}
+
+TEST(VerticalBarGraph, HorizontalAxisIsThatOfTheCategories)
+{
+    CVerticalFacade chart;
+    chart.addItem(3, "a");
+    chart.setHorizontalAxis(AxisProperty::ShowTitle, "categories");
+    chart.setVerticalAxis(AxisProperty::ShowLine, "values");
+    (void)render(chart);
+    const CBarLayout& layout = chart.getGraph()->layout();
+    EXPECT_EQ(layout.categoryAxis->title.getText(), QString("categories"));
+    EXPECT_FALSE(layout.categoryAxis->line);
+    EXPECT_TRUE(layout.numberAxis->line);
+    EXPECT_TRUE(layout.numberAxis->texts.empty());
+    EXPECT_EQ(chart.input().verticalAxis.title, QString("values"));
+}
+
+TEST(VerticalBarGraph, CaptionsStandBelowTheirBars)
+{
+    CVerticalFacade chart;
+    chart.addItem(3, "a");
+    (void)render(chart);
+    const Rectangle bar = chart.getBarRectangle()->front();
+    const Rectangle caption = chart.getRectangle()->front();
+    EXPECT_GT(caption.y, bar.y + bar.height);
+    EXPECT_NEAR(caption.x + caption.width / 2, bar.x + bar.width / 2, 1);
+}
+
+// Whether a facade lets the host change its horizontal axis.
+template <typename Facade, typename = void>
+struct HasHorizontalAxis : std::false_type
+{};
+
+template <typename Facade>
+struct HasHorizontalAxis<
+    Facade, std::void_t<decltype(std::declval<Facade>().setHorizontalAxis(0, std::string()))>>
+    : std::true_type
+{};
+
+static_assert(HasHorizontalAxis<VerticalBarGraph>::value);
+static_assert(!HasHorizontalAxis<HorizontalBarGraph>::value,
+              "the values stand beside the bars, and the scale cannot be changed");
+
+TEST(HorizontalBarGraph, HasAChartOfLyingBars)
+{
+    CHorizontalFacade chart;
+    chart.addItem(3, "a");
+    chart.addItem(3, "b");
+    (void)render(chart);
+    const Rectangle first = chart.getBarRectangle()->front();
+    const Rectangle second = chart.getBarRectangle()->back();
+    EXPECT_EQ(first.x, second.x);
+    EXPECT_LT(first.y + first.height, second.y);
+}
+
+TEST(HorizontalBarGraph, VerticalAxisIsThatOfTheCategories)
+{
+    CHorizontalFacade chart;
+    chart.addItem(3, "a");
+    chart.setVerticalAxis(AxisProperty::ShowTitle, "categories");
+    (void)render(chart);
+    const CBarLayout& layout = chart.getGraph()->layout();
+    EXPECT_EQ(layout.categoryAxis->title.getText(), QString("categories"));
+    EXPECT_EQ(layout.numberAxis->title.getText(), QString());
+    EXPECT_TRUE(layout.numberAxis->line);
+    EXPECT_TRUE(layout.numberAxis->texts.empty());
+}
+
+TEST(HorizontalBarGraph, CaptionsStandLeftOfTheirBars)
+{
+    CHorizontalFacade chart;
+    chart.addItem(3, "a");
+    (void)render(chart);
+    const Rectangle bar = chart.getBarRectangle()->front();
+    const Rectangle caption = chart.getRectangle()->front();
+    EXPECT_LT(caption.x + caption.width, bar.x);
+    EXPECT_NEAR(caption.y + caption.height / 2, bar.y + bar.height / 2, 1);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a chart of any kind says of a rendering that went wrong.
 #include "api/problem_text.h"
+#include "support/host_pictures.h"
 #include <tovangl/tovangl.h>
 
 #include <gmock/gmock.h>
@@ -38,11 +39,7 @@ std::unique_ptr<Graph> makeChart()
 class ProblemOfEveryChart : public ::testing::TestWithParam<CKind>
 {
 protected:
-    void render(int width, int height)
-    {
-        unsigned char* data = nullptr;
-        chart->createPixmap(width, height, &data, &size);
-    }
+    void render(int width, int height) { size = exported(*chart, width, height).size; }
 
     std::unique_ptr<Graph> chart = GetParam().make();
     int size = 0;
@@ -90,8 +87,7 @@ TEST_P(ProblemOfEveryChart, IsASizeThatNoPictureCanHave)
 
 TEST_P(ProblemOfEveryChart, IsASizeThatOnlyThePrintFactorMakesTooLarge)
 {
-    unsigned char* data = nullptr;
-    chart->createPixmapForPrinter(kSide, kSide, 1000, &data, &size);
+    (void)printed(*chart, kSide, kSide, 1000);
     EXPECT_EQ(chart->problem(), Problem::SizeOutOfRange);
 }
 

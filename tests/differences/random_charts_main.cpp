@@ -2,7 +2,7 @@
 // Draws random charts and tells, in one line a chart, what a host gets of them. It sees nothing but
 // the public interface, so that it can be built against the library of another commit.
 //
-// random_charts [--charts N] [--seed-fault pixel|rectangle|description|setting|crash]
+// random_charts [--charts N] [--seed-fault pixel|rectangle|description|setting|crash|exit]
 // random_charts --show NUMBER [FOLDER]: one chart in full, its pictures into FOLDER
 #include "differences/CHash.h"
 #include "differences/batch_run.h"
@@ -58,11 +58,21 @@ std::string hashText(const std::string& text)
     return digits;
 }
 
+// At once, or when the process leaves.
+void seedEnding(const std::string& fault)
+{
+    if (fault == "crash")
+        std::abort();
+    constexpr int kSeededExit = 3;
+    if (fault == "exit")
+        (void)std::atexit([] { std::_Exit(kSeededExit); });
+}
+
 std::string drawLine(unsigned number, const COptions& options)
 {
     const bool isSeeded = number == kSeededChart;
-    if (isSeeded && options.seededFault == "crash")
-        std::abort();
+    if (isSeeded)
+        seedEnding(options.seededFault);
     const CChartRecord record =
         drawRandomChart(number, "", isSeeded ? faultOf(options.seededFault) : SeededFault::None);
     return hashText(record.pixels) + '\t' + hashText(record.rectangles) + '\t' +

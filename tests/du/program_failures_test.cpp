@@ -52,7 +52,7 @@ TEST_F(DiskUsageFailure, OutputIsAFolderOfSomethingElse)
 
 TEST_F(DiskUsageFailure, OutputIsAFile)
 {
-    EXPECT_THAT(lineOf("tovangl-du tree -o tree/a/file"), HasSubstr("is no folder"));
+    EXPECT_THAT(lineOf("tovangl-du tree -o tree/a/file"), HasSubstr("is not a folder"));
 }
 
 TEST_F(DiskUsageFailure, OutputHasNoPlace)

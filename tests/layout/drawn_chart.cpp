@@ -2,98 +2,88 @@
 // Draws a described chart and tells its layout.
 #include "layout/drawn_chart.h"
 
-#include "bar/CBarGraph.h"
-#include "bar/CLabeledBarGraph.h"
+#include "api/CBarBase.h"
+#include "api/CPieGraph.h"
+#include "api/bar_facade.h"
 #include "layout/CDump.h"
 #include "layout/CTextRecorder.h"
 #include "layout/layout_dump.h"
-#include "pie/CPieGraph.h"
 
-#include <QPainter>
+#include <algorithm>
 
 namespace tovangl {
 
 namespace {
 
-// Draws as the chart does, and while its settings for this drawing are in force dumps the layout
-// and draws once more onto a device that records texts.
-template <typename Chart>
-class CDumpingChart : public Chart
+CAxisSettings settingsOf(const CChartFile::CAxisSetting& axis)
 {
-public:
-    using Chart::Chart;
+    return {CAxisSettings::Properties(QFlag(axis.properties)), axis.title};
+}
 
-    void drawContents(QPainter& painter) override
-    {
-        Chart::drawContents(painter);
-        CTextRecorder recorder(QSize(this->m_width, this->m_height));
-        QPainter textPainter(&recorder);
-        this->initPainter(textPainter);
-        Chart::drawContents(textPainter);
-        textPainter.end();
-
-        m_dump.line("picture").number(this->m_width).number(this->m_height);
-        m_dump.word("scale").number(this->m_scale);
-        m_dump.flag("for print", this->m_outputDevice == CGraph1dBase::PrinterDevice);
-        dumpLayout(*this, m_dump);
-        dumpTexts(recorder.texts(), m_dump);
-    }
-    [[nodiscard]] std::string layout() const { return m_dump.text(); }
-
-private:
-    CDump m_dump;
-};
-
-void applyCommonSettings(CGraph1dBase& chart, const CChartFile& file)
+void applyCommonSettings(CGraph1dInput& input, const CChartFile& file)
 {
     if (file.font)
-        chart.setFont(file.font->family, file.font->pixelSize);
+        input.settings.setFont(file.font->family, file.font->pixelSize);
     if (file.locale)
-        chart.setLocale(file.locale->language, file.locale->country);
-    if (file.threshold)
-        chart.setThreshold(*file.threshold);
+        input.settings.setLocale(file.locale->language, file.locale->country);
     for (const CChartFile::CItem& item : file.items)
-        chart.addItem(item.value, item.text, item.color);
+        input.addItem(item.value, item.text, item.color, QColor());
 }
 
-void applySettings(CPieGraph& chart, const CChartFile& file)
+void applySettings(CPieInput& input, const CChartFile& file)
 {
     if (file.options)
-        chart.setOptions(CPieGraph::Options(QFlag(*file.options)));
+        input.options = CPieInput::Options(QFlag(*file.options));
     if (file.colors) {
-        chart.setPieOutlineColor(file.colors->at(0));
-        chart.setTextColor(file.colors->at(1));
-        chart.setLabelLineColor(file.colors->at(2));
+        input.outlineColor = file.colors->at(0);
+        input.textColor = file.colors->at(1);
+        input.labelLineColor = file.colors->at(2);
     }
 }
 
-void applySettings(CBarBase& chart, const CChartFile& file)
+void applySettings(CBarInput& input, const CChartFile& file)
 {
     if (file.across)
-        chart.setHorizontalAxis(CAxis::Properties(QFlag(file.across->properties)),
-                                file.across->title);
+        input.horizontalAxis = settingsOf(*file.across);
     if (file.upright)
-        chart.setVerticalAxis(CAxis::Properties(QFlag(file.upright->properties)),
-                              file.upright->title);
+        input.verticalAxis = settingsOf(*file.upright);
     if (file.position)
-        chart.setPosition(file.position->x(), file.position->y());
+        setPosition(input, file.position->x(), file.position->y());
     if (file.barWidth)
-        chart.setBarWidth(*file.barWidth);
-    chart.setTextColor(file.textColor);
+        setBarWidth(input, *file.barWidth);
+    input.textColor = file.textColor;
+}
+
+// Paints the layout once more, onto a device that records texts.
+template <typename Chart>
+std::string layoutText(const Chart& chart, const QSize& size, std::optional<int> printFactor)
+{
+    const int scale = std::max(printFactor.value_or(1), 1);
+    CTextRecorder recorder(size);
+    CCanvas(recorder, chart.input().settings, scale).paint(chart.layout());
+
+    CDump dump;
+    dump.line("picture").number(size.width()).number(size.height());
+    dump.word("scale").number(scale).flag("for print", printFactor.has_value());
+    dumpLayout(chart.layout(), chart.input(), dump);
+    dumpTexts(recorder.texts(), dump);
+    return dump.text();
 }
 
 template <typename Chart>
 CDrawnChart drawAs(const CChartFile& file)
 {
-    CDumpingChart<Chart> chart(file.background);
-    applySettings(chart, file);
-    applyCommonSettings(chart, file);
+    Chart chart(file.background);
+    applySettings(chart.input(), file);
+    applyCommonSettings(chart.input(), file);
+    if (file.threshold)
+        chart.setThreshold(*file.threshold);
     const int width = file.size.width();
     const int height = file.size.height();
     const QImage image = file.printFactor
                              ? chart.getImageForPrinter(width, height, *file.printFactor)
                              : chart.getImage(width, height);
-    return {image, chart.layout()};
+    return {image, layoutText(chart, image.size(), file.printFactor)};
 }
 
 } // namespace

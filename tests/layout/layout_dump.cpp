@@ -2,12 +2,15 @@
 // Tells the layout of a chart that was just drawn.
 #include "layout/layout_dump.h"
 
-#include "bar/CBarBase.h"
-#include "labels/CBarTextLabel.h"
+#include "base/CKilo.h"
+#include "input/CBarInput.h"
+#include "input/CPieInput.h"
+#include "layout/CBarLayout.h"
 #include "layout/CDump.h"
+#include "layout/CPieLayout.h"
+#include "layout/CPieTextLabel.h"
 #include "layout/CTextRecorder.h"
-#include "pie/CPieGraph.h"
-#include "pie/CPieTextLabel.h"
+#include "layout/captions.h"
 
 #include <algorithm>
 
@@ -15,32 +18,34 @@ namespace tovangl {
 
 namespace {
 
-// Slices by their places in the pie: the removal of overlaps leaves the labels in another order.
-std::vector<const CPieTextLabel*> labelsByItem(const CPieGraph& chart)
+// The removal of overlaps leaves the labels in another order than the slices.
+const CPlacedPieLabel& labelOf(const CPieSlice& slice, const CPieLayout& layout)
 {
-    std::vector<const CPieTextLabel*> labels;
-    for (const CPieBaseItem* item : chart.selectedItems()) {
-        const auto& all = chart.labels();
-        const auto found = std::find_if(all.begin(), all.end(), [item](const CPieTextLabel* label) {
-            return label->getItem() == item;
-        });
-        if (found != all.end())
-            labels.push_back(*found);
-    }
-    return labels;
+    return *std::find_if(layout.labels.begin(), layout.labels.end(),
+                         [&slice](const auto& label) { return label.item == slice.item; });
 }
 
-void dumpSlice(const CPieTextLabel& label, CDump& dump)
+// The text as it is where nothing has to be shortened or dropped.
+QString wholeText(const CGraph1dItem& item, const CPieInput& input)
 {
-    const auto& item = *static_cast<const CPieBaseItem*>(label.getItem());
-    dump.line("slice").quoted(item.text()).number(item.value());
-    dump.word("from").number(item.startAngle()).word("span").number(item.spanAngle());
-    dump.line("label", 1).quoted(label.getText());
-    dump.flag("hidden", label.isHidden()).flag("bold", label.isBold());
-    dump.flag("cut from the left", label.isShortFromLeft());
-    dump.line("caption at", 1).rect(item.itemRect());
-    dump.line("beam", 1).point(label.beamStart()).word("to").point(label.elbow());
-    dump.line("line to", 1).point(label.lineEnd()).word("text").point(label.labelPos());
+    if (!input.options.testFlag(CPieInput::ShowSizes))
+        return item.text;
+    return item.text + getSizeText(item.value, input.settings.locale, kKilo1024);
+}
+
+void dumpSlice(const CPieSlice& slice, const CPieLayout& layout, const CPieInput& input,
+               CDump& dump)
+{
+    const CGraph1dItem& item = input.items[slice.item];
+    const CPlacedPieLabel& label = labelOf(slice, layout);
+    dump.line("slice").quoted(item.text).number(item.value);
+    dump.word("from").number(slice.angles.start).word("span").number(slice.angles.span);
+    dump.line("label", 1).quoted(wholeText(item, input)).flag("hidden", label.isHidden);
+    dump.flag("bold", input.options.testFlag(CPieInput::BoldLabels));
+    dump.flag("cut from the left", input.options.testFlag(CPieInput::ShortenFromLeft));
+    dump.line("caption at", 1).rect(label.itemRect);
+    dump.line("beam", 1).point(label.beamStart).word("to").point(label.elbow);
+    dump.line("line to", 1).point(label.lineEnd).word("text").point(label.labelPos);
 }
 
 const char* directionName(LabelDirection direction)
@@ -56,53 +61,60 @@ const char* directionName(LabelDirection direction)
     return "?";
 }
 
-void dumpTickLabel(const CBarTextLabel& label, CDump& dump)
+void dumpTickLabel(const CBarTextLabel& label, const CAxisLayout& axis, CDump& dump)
 {
-    dump.line("label", 1).quoted(label.getText()).word("tick").number(label.tickCoord());
-    dump.word("at").point(label.orientedPos());
-    dump.flag("hidden", label.isHidden()).flag("turned", label.isRotated());
-    dump.flag("bold", label.isBold());
+    dump.line("label", 1).quoted(label.text.getText()).word("tick").number(label.tickCoord);
+    dump.word("at").point(label.orientedPos).flag("hidden", label.isHidden);
+    dump.flag("turned", axis.isRotated()).flag("bold", label.text.style().isBold);
 }
 
-void dumpAxis(const char* name, const CAxis& axis, CDump& dump)
+void dumpAxis(const char* name, const CAxisLayout& axis, CDump& dump)
 {
-    dump.line(name).rect(axis.axisRect()).word("line from").point(axis.origin());
-    dump.word("start").number(axis.axisStart()).word("length").number(axis.axisLength());
-    dump.word("width").number(axis.lineWidth());
-    dump.line("labels", 1).word(directionName(axis.labelDirection())).size(axis.labelRect().size());
-    dump.flag("hidden", axis.areLabelsHidden());
-    dump.line("title", 1).quoted(axis.titleLabel().getText()).size(axis.titleRect().size());
-    dump.word("at").point(axis.titleLabel().orientedPos()).flag("hidden", axis.isTitleHidden());
-    for (const CBarTextLabel* label : axis.labels())
-        dumpTickLabel(*label, dump);
+    dump.line(name).rect(axis.rect).word("line from").point(axis.origin);
+    dump.word("length").number(axis.length).word("width").number(axis.shape.lineWidth);
+    dump.line("labels", 1).word(directionName(axis.shape.direction)).size(axis.shape.labelSize);
+    dump.flag("hidden", axis.areLabelsHidden);
+    dump.line("title", 1).quoted(axis.title.getText()).size(axis.shape.titleRect.size());
+    dump.word("at").point(axis.titlePos).flag("hidden", axis.isTitleHidden);
+    for (const CBarTextLabel& label : axis.labels)
+        dumpTickLabel(label, axis, dump);
+}
+
+void dumpAxes(const CBarLayout& layout, CDump& dump)
+{
+    dumpAxis("categories", *layout.categoryAxis, dump);
+    dump.line("bar width", 1).number(layout.barWidth);
+    dumpAxis("values", *layout.numberAxis, dump);
+    dump.line("scale", 1).number(layout.scale.min).word("to").number(layout.scale.max);
 }
 
 } // namespace
 
-void dumpLayout(const CPieGraph& chart, CDump& dump)
+void dumpLayout(const CPieLayout& layout, const CPieInput& input, CDump& dump)
 {
-    dump.line("area").rect(chart.area());
-    dump.line("pie").rect(chart.pieRect());
-    dump.line("label box").rect(chart.labelRect());
-    dump.line("sizes").word(CPieTextLabel::canDrawSizeLabel() ? "shown" : "dropped");
-    for (const CPieTextLabel* label : labelsByItem(chart))
-        dumpSlice(*label, dump);
+    dump.line("area").rect(layout.area);
+    dump.line("pie").rect(layout.pieRect);
+    dump.line("label box").rect(layout.labelRect);
+    dump.line("sizes").word(layout.sizesShown ? "shown" : "dropped");
+    for (const CPieSlice& slice : layout.slices)
+        dumpSlice(slice, layout, input, dump);
 }
 
-void dumpLayout(const CBarBase& chart, CDump& dump)
+void dumpLayout(const CBarLayout& layout, const CBarInput& input, CDump& dump)
 {
-    dump.line("spaces left").number(chart.leftAxisSpace()).word("top").number(chart.topAxisSpace());
-    dump.word("right").number(chart.rightAxisSpace());
-    dump.word("bottom").number(chart.bottomAxisSpace());
-    dump.line("plot").rect(chart.plotRect()).flag("does not fit", !chart.plotRect().isValid());
-    dumpAxis("categories", *chart.categoryAxis(), dump);
-    dump.line("bar width", 1).number(chart.categoryAxis()->drawBarWidth());
-    dumpAxis("values", *chart.numberAxis(), dump);
-    dump.line("scale", 1).number(chart.numberAxis()->scaleMin()).word("to");
-    dump.number(chart.numberAxis()->scaleMax());
-    for (const CBarGraphItem* item : chart.selectedItems()) {
-        dump.line("bar").quoted(item->text()).number(item->value()).rect(item->barRect());
-        dump.word("value at").rect(item->barLabelRect()).word("caption at").rect(item->itemRect());
+    const CAxisSpaces& spaces = layout.spaces;
+    dump.line("spaces left").number(spaces.left).word("top").number(spaces.top);
+    dump.word("right").number(spaces.right).word("bottom").number(spaces.bottom);
+    dump.line("plot").rect(layout.plotRect).flag("does not fit", !layout.fits());
+    if (!layout.fits())
+        return;
+    dumpAxes(layout, dump);
+    const std::vector<QRect> captions = captionRects(layout);
+    for (std::size_t i = 0; i < layout.bars.size(); ++i) {
+        const CBar& bar = layout.bars[i];
+        const CGraph1dItem& item = input.items[bar.item];
+        dump.line("bar").quoted(item.text).number(item.value).rect(bar.rect);
+        dump.word("value at").rect(bar.labelRect).word("caption at").rect(captions[i]);
     }
 }
 

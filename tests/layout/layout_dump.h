@@ -8,13 +8,15 @@
 
 namespace tovangl {
 
-class CBarBase;
 class CDump;
-class CPieGraph;
+struct CBarInput;
+struct CBarLayout;
+struct CPieInput;
+struct CPieLayout;
 struct CRecordedText;
 
-void dumpLayout(const CPieGraph& chart, CDump& dump);
-void dumpLayout(const CBarBase& chart, CDump& dump);
+void dumpLayout(const CPieLayout& layout, const CPieInput& input, CDump& dump);
+void dumpLayout(const CBarLayout& layout, const CBarInput& input, CDump& dump);
 void dumpTexts(const std::vector<CRecordedText>& texts, CDump& dump);
 
 } // namespace tovangl

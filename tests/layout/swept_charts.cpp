@@ -105,7 +105,7 @@ void sweepFontSizes(CSweep& sweep)
 {
     constexpr int kLeast = -3;
     constexpr int kGreatest = 40;
-    constexpr std::array<const char*, 3> kFamilies = {"Tahoma", "DejaVu Sans", ""};
+    constexpr std::array kFamilies = {"Tahoma", "DejaVu Sans", "", "Tahoma, DejaVu Sans"};
     CChartFile chart = chartOfFour();
     chart.size *= 2;
     for (int size = kLeast; size <= kGreatest; ++size) {

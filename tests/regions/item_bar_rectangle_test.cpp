@@ -172,7 +172,7 @@ TYPED_TEST(ItemBarRectangle, IsZeroForItemsAddedAfterTheRendering)
 TYPED_TEST(ItemBarRectangle, IsInPixelsOfThePrintedPicture)
 {
     this->addThree();
-    const QImage image = renderForPrint(this->m_chart, 400, 300, 3);
+    const QImage image = printed(this->m_chart, 400, 300, 3).decoded();
     ASSERT_EQ(image.width(), 1200);
     const Rectangle bar = this->itemBars()[2];
     EXPECT_EQ(colorAt(image, bar.x + bar.width / 2, bar.y + bar.height / 2), kBlue);

@@ -15,6 +15,11 @@ inline bool operator==(const Rectangle& a, const Rectangle& b)
     return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
 }
 
+inline bool operator!=(const Rectangle& a, const Rectangle& b)
+{
+    return !(a == b);
+}
+
 inline std::ostream& operator<<(std::ostream& stream, const Rectangle& rect)
 {
     return stream << '(' << rect.x << ' ' << rect.y << ' ' << rect.width << ' ' << rect.height

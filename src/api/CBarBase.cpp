@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// The bar charts behind the public interface.
+#include "api/CBarBase.h"
+
+namespace tovangl {
+
+CBarBase::CBarBase(BarKind kind, bool hasBackground)
+    : CGraph1d(CBarInput(kind, hasBackground))
+{}
+
+std::vector<QRect> CBarBase::barRectangles() const
+{
+    std::vector<QRect> rects;
+    rects.reserve(layout().bars.size());
+    for (const CBar& bar : layout().bars)
+        rects.push_back(bar.rect);
+    return rects;
+}
+
+std::vector<QRect> CBarBase::itemBarRectangles() const
+{
+    std::vector<QRect> rects(input().items.size());
+    if (!isDrawn())
+        return rects;
+    for (const CBar& bar : layout().bars) {
+        if (bar.rect.isValid())
+            rects[bar.item] = bar.rect;
+    }
+    return rects;
+}
+
+const char* CBarBase::kindName() const
+{
+    return input().kind == BarKind::Standing ? "Vertical bar chart" : "Horizontal bar chart";
+}
+
+CItemSelection CBarBase::selectItems() const
+{
+    return selectBars(input().items, input().settings.threshold);
+}
+
+} // namespace tovangl

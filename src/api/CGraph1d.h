@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The steps of every chart: from input to layout to picture.
+#ifndef TOVANGL_API_CGRAPH1D_H
+#define TOVANGL_API_CGRAPH1D_H
+
+#include "api/CGraph1dBase.h"
+#include "layout/captions.h"
+#include "paint/CCanvas.h"
+
+#include <utility>
+
+namespace tovangl {
+
+/// A chart made of an input struct and a layout struct. computeLayout(), captionRects() and
+/// CCanvas::paint() are overloaded for them.
+template <typename Input, typename Layout>
+class CGraph1d : public CGraph1dBase
+{
+public:
+    [[nodiscard]] Input& input() override { return m_input; }
+    [[nodiscard]] const Input& input() const override { return m_input; }
+    /// The last layout; empty before the first rendering.
+    [[nodiscard]] const Layout& layout() const { return m_layout; }
+
+protected:
+    explicit CGraph1d(Input input)
+        : m_input(std::move(input))
+    {}
+
+    std::optional<std::vector<QRect>> drawContents(CCanvas& canvas, const CRequest& request,
+                                                   const std::vector<std::size_t>& drawn) final
+    {
+        m_layout = computeLayout(m_input, drawn, request, canvas.measurer());
+        if (!m_layout.fits())
+            return std::nullopt;
+        canvas.paint(m_layout);
+        return captionRects(m_layout);
+    }
+    void forgetLayout() final { m_layout = Layout(); }
+
+private:
+    Input m_input;
+    Layout m_layout;
+};
+
+} // namespace tovangl
+
+#endif

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// A chart behind the public interface.
+#include "api/CGraph1dBase.h"
+
+#include "api/description.h"
+#include "base/CGlobal.h"
+#include "input/CGraph1dInput.h"
+#include "output/raster_surface.h"
+#include "paint/CCanvas.h"
+
+#include <algorithm>
+
+namespace tovangl {
+
+CGraph1dBase::CGraph1dBase() = default;
+
+CGraph1dBase::~CGraph1dBase() = default;
+
+void CGraph1dBase::clear()
+{
+    input().items.clear();
+    m_itemRects.clear();
+    m_selectedItems.clear();
+    forgetLayout();
+}
+
+void CGraph1dBase::setThreshold(double percent)
+{
+    input().settings.threshold = percent;
+    m_actingThreshold.reset();
+}
+
+double CGraph1dBase::threshold() const
+{
+    return m_actingThreshold.value_or(input().settings.threshold);
+}
+
+QImage CGraph1dBase::getImage(int width, int height)
+{
+    return draw({width, height, 1, OutputDevice::Screen, getGlobal()->kilo()});
+}
+
+QImage CGraph1dBase::getImageForPrinter(int width, int height, int factor)
+{
+    const int scale = std::max(factor, 1);
+    return draw({scalePixels(width, scale), scalePixels(height, scale), scale,
+                 OutputDevice::Printer, getGlobal()->kilo()});
+}
+
+std::vector<std::size_t> CGraph1dBase::drawnItems() const
+{
+    return m_isDrawn ? m_selectedItems : std::vector<std::size_t>();
+}
+
+std::vector<QRect> CGraph1dBase::itemRectangles() const
+{
+    std::vector<QRect> rects = m_itemRects;
+    rects.resize(input().items.size());
+    return rects;
+}
+
+std::string CGraph1dBase::describe() const
+{
+    return describeChart(kindName(), input(), drawnItems());
+}
+
+void CGraph1dBase::forgetDrawing()
+{
+    m_isDrawn = false;
+    m_problem = Problem::NoMemory;
+}
+
+QImage CGraph1dBase::draw(const CRequest& request)
+{
+    forgetDrawing();
+    if (!isRasterSize(request.width, request.height)) {
+        m_problem = Problem::SizeOutOfRange;
+        return QImage();
+    }
+    QImage image = makeRasterSurface(request.width, request.height);
+    if (!image.isNull())
+        drawGraph(image, request);
+    return image;
+}
+
+void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
+{
+    CItemSelection selection = selectItems();
+    m_actingThreshold = selection.threshold;
+    m_selectedItems = std::move(selection.items);
+    recordCaptions(std::vector<QRect>(m_selectedItems.size()));
+
+    CCanvas canvas(device, input().settings, request.scale);
+    const auto captions = drawContents(canvas, request, m_selectedItems);
+    if (captions)
+        recordCaptions(*captions);
+    m_isDrawn = captions.has_value();
+    m_problem = m_isDrawn ? Problem::None : Problem::TooSmallForChart;
+}
+
+void CGraph1dBase::recordCaptions(const std::vector<QRect>& captions)
+{
+    m_itemRects.resize(input().items.size());
+    for (std::size_t i = 0; i < captions.size(); ++i)
+        m_itemRects[m_selectedItems[i]] = captions[i];
+}
+
+} // namespace tovangl

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Hides what differs between Qt 5.15 and 6 in threads. No other file in this folder tests the Qt
+/// version.
+#ifndef TOVANGL_API_QT_THREADS_H
+#define TOVANGL_API_QT_THREADS_H
+
+#include <QtGlobal>
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QThreadPool>
+#endif
+
+namespace tovangl {
+namespace qt {
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+inline constexpr bool kPaintsInThreads = false;
+inline void endPaintThreads() {}
+#else
+inline constexpr bool kPaintsInThreads = true;
+
+/// Ends the idle threads of the pool that does antialiased fills; the next fill starts new ones. It
+/// waits long enough for a thread that is just finishing a fill, but not for one that works for the
+/// host.
+inline void endPaintThreads()
+{
+    constexpr int kTimeToBecomeIdle = 100; // milliseconds
+    if (QThreadPool* pool = QThreadPool::globalInstance())
+        pool->waitForDone(kTimeToBecomeIdle);
+}
+#endif
+
+} // namespace qt
+} // namespace tovangl
+
+#endif

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// The settings that every chart has.
+#include "input/CGraph1dSettings.h"
+
+namespace tovangl {
+
+namespace {
+
+constexpr int kDefaultFontSize = 11;    // pixels
+constexpr int kLongestFontFamily = 256; // characters
+constexpr int kLocalePartLength = 2;    // characters
+
+QLocale groupingLocale(QLocale locale)
+{
+    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
+    return locale;
+}
+
+} // namespace
+
+CGraph1dSettings::CGraph1dSettings()
+    : fontFamily(QLatin1String("Tahoma"))
+    , fontSize(kDefaultFontSize)
+    , locale(groupingLocale(QLocale()))
+{}
+
+void CGraph1dSettings::setFont(const QString& family, int pixelSize)
+{
+    fontFamily = family.left(kLongestFontFamily);
+    fontSize = pixelSize;
+}
+
+void CGraph1dSettings::setLocale(const QString& language, const QString& country)
+{
+    const QString name = language.left(kLocalePartLength).toLower() + QLatin1Char('_') +
+                         country.left(kLocalePartLength).toUpper();
+    locale = groupingLocale(QLocale(name));
+}
+
+} // namespace tovangl

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// A pie with everything in its place.
+#ifndef TOVANGL_LAYOUT_CPIELAYOUT_H
+#define TOVANGL_LAYOUT_CPIELAYOUT_H
+
+#include "layout/CPlacedText.h"
+#include "layout/slice_angles.h"
+
+#include <QColor>
+#include <QPointF>
+#include <QRect>
+#include <QRectF>
+
+#include <vector>
+
+namespace tovangl {
+
+/// A slice as it is painted.
+struct CPieSlice
+{
+    std::size_t item = 0; ///< its position among all items
+    CSliceAngles angles;
+    QColor color; ///< adapted to the device
+};
+
+/// A slice's label: a dotted beam from the pie to an elbow, a line from there to the text, and the
+/// text. All positions but the last are relative to the pie's centre, y growing downward.
+struct CPlacedPieLabel
+{
+    std::size_t item = 0; ///< its position among all items
+    bool isHidden = false;
+    QPointF beamStart;
+    QPointF elbow;
+    QPointF lineEnd;
+    QPointF labelPos; ///< the text's near edge and its top
+    /// The name and after it the size, as far as there is room; none if the label is hidden.
+    std::vector<CPlacedText> texts;
+    QRect itemRect; ///< what the texts cover on the picture; null if nothing is drawn
+};
+
+/// All that painting a pie needs, and all that can be queried about it afterwards.
+struct CPieLayout
+{
+    /// The origin of the labels' positions.
+    [[nodiscard]] QPointF center() const { return area.center(); }
+    /// Whether the picture has room for the pie.
+    [[nodiscard]] bool fits() const { return hasRoom; }
+
+    bool hasRoom = false;       ///< if not, nothing of the pie must be drawn
+    bool hasBackground = false; ///< the gradient is painted behind the pie
+    QPointF shift;              ///< by which everything on the background is moved
+    QRectF area;                ///< the square that holds the pie and the beams of its labels
+    QRectF pieRect;
+    QRectF drawnPieRect; ///< the pie's ellipse on the picture, with the shift
+    QRectF labelRect;    ///< the rectangle that the labels share; at (0, 0)
+    QColor outlineColor;
+    int outlineWidth = 1; ///< pixels
+    QColor labelLineColor;
+    double beamWidth = 0; ///< pixels
+    double textLineWidth = 0;
+    bool isWholeDisc = false; ///< the only slice is drawn without a seam
+    bool sizesShown = true;   ///< whether labels show sizes that were asked for: all or none
+    std::vector<CPieSlice> slices;
+    std::vector<CPlacedPieLabel> labels; ///< in the order of drawing
+};
+
+} // namespace tovangl
+
+#endif

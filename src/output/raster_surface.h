@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Makes the picture that a chart is drawn into.
+#ifndef TOVANGL_OUTPUT_RASTER_SURFACE_H
+#define TOVANGL_OUTPUT_RASTER_SURFACE_H
+
+class QImage;
+
+namespace tovangl {
+
+/// Whether a picture of that size can be made: 1 to 1,000,000 pixels a side, and at most 2^31 - 1
+/// bytes at four bytes a pixel.
+[[nodiscard]] bool isRasterSize(int width, int height);
+
+/// A new picture in ARGB32, not yet painted. Null if isRasterSize() is false, or if memory runs
+/// out.
+[[nodiscard]] QImage makeRasterSurface(int width, int height);
+
+} // namespace tovangl
+
+#endif

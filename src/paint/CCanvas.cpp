@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// The surface that a chart is painted on.
+#include "paint/CCanvas.h"
+
+#include "base/pixel_arithmetic.h"
+#include "input/CGraph1dSettings.h"
+#include "paint/bar_painting.h"
+#include "paint/pie_painting.h"
+#include "text/qt_text.h"
+
+#include <algorithm>
+
+namespace tovangl {
+
+namespace {
+
+constexpr int kLargestFontSize = 30000; // pixels
+
+QFont chartFont(const CGraph1dSettings& settings, int scale, const QPaintDevice& device)
+{
+    QFont font;
+    qt::setFamily(font, settings.fontFamily);
+    const int pixelSize = std::min(scalePixels(settings.fontSize, scale), kLargestFontSize);
+    if (pixelSize > 0)
+        font.setPixelSize(pixelSize);
+    else
+        qt::setDefaultSize(font, device);
+    // Deliberate: texts are not antialiased, which keeps small ones legible. The render hint alone
+    // has no effect on raster text; the font's strategy does.
+    font.setStyleStrategy(QFont::NoAntialias);
+    return font;
+}
+
+// Sets up a painter before anything is measured with it.
+QPainter& initPainter(QPainter& painter, const QFont& font)
+{
+    painter.setFont(font);
+    painter.setRenderHint(QPainter::TextAntialiasing, false);
+    painter.fillRect(painter.window(), QColor(255, 255, 255));
+    return painter;
+}
+
+} // namespace
+
+CCanvas::CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale)
+    : m_painter(&device)
+    , m_measurer(initPainter(m_painter, chartFont(settings, scale, device)))
+{}
+
+void CCanvas::paint(const CBarLayout& layout)
+{
+    paintBars(m_painter, layout);
+}
+
+void CCanvas::paint(const CPieLayout& layout)
+{
+    paintPie(m_painter, layout);
+}
+
+} // namespace tovangl

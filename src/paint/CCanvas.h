@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The surface that a chart is painted on.
+#ifndef TOVANGL_PAINT_CCANVAS_H
+#define TOVANGL_PAINT_CCANVAS_H
+
+#include "text/CTextMeasurer.h"
+
+#include <QPainter>
+
+class QPaintDevice;
+
+namespace tovangl {
+
+struct CBarLayout;
+struct CGraph1dSettings;
+struct CPieLayout;
+
+/// A painter on a device, set up for one chart: white, with the chart's font. Its measurer measures
+/// the layout that is painted on it.
+class CCanvas
+{
+public:
+    /// @param device  not null; it must outlive the canvas
+    /// @param scale   device pixels for each pixel of a setting
+    CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale);
+    Q_DISABLE_COPY(CCanvas)
+
+    [[nodiscard]] CTextMeasurer& measurer() { return m_measurer; }
+    void paint(const CBarLayout& layout);
+    void paint(const CPieLayout& layout);
+
+private:
+    QPainter m_painter;
+    CTextMeasurer m_measurer;
+};
+
+} // namespace tovangl
+
+#endif

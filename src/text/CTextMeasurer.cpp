@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// Measures texts as the painter of a picture draws them.
+#include "text/CTextMeasurer.h"
+
+#include "text/qt_text.h"
+
+#include <QPainter>
+
+namespace tovangl {
+
+namespace {
+
+// Sets the painter's bold font for a scope; the plain one is already set.
+class CFontScope
+{
+public:
+    CFontScope(QPainter& painter, const QFont& font, bool isBold)
+        : m_painter(isBold ? &painter : nullptr)
+    {
+        if (!m_painter)
+            return;
+        m_plain = painter.font();
+        painter.setFont(font);
+    }
+    ~CFontScope()
+    {
+        if (m_painter)
+            m_painter->setFont(m_plain);
+    }
+    Q_DISABLE_COPY(CFontScope)
+
+private:
+    QPainter* m_painter; // null where nothing was changed
+    QFont m_plain;
+};
+
+bool isShort(const QString& text)
+{
+    return text.size() == 1 || text == cdraw::ellipsis();
+}
+
+} // namespace
+
+CTextMeasurer::CTextMeasurer(QPainter& painter)
+    : m_painter(painter)
+    , m_plain{painter.font(), {}}
+    , m_bold{painter.font(), {}}
+{
+    m_bold.font.setWeight(QFont::Bold);
+}
+
+QRectF CTextMeasurer::boundingRect(const QString& text, bool isBold)
+{
+    const CFontScope scope(m_painter, m_bold.font, isBold);
+    return qt::measureText(m_painter, QRectF(), cdraw::measuredPart(text));
+}
+
+int CTextMeasurer::fontHeight() const
+{
+    return qt::fontHeight(m_painter);
+}
+
+bool CTextMeasurer::canShorten(const QString& text, double width, const CTextStyle& style)
+{
+    const CFontScope scope(m_painter, m_bold.font, style.isBold);
+    return cdraw::canShortenText(text, width, style.isShortFromLeft, cdraw::kStripSpaces,
+                                 measureIn(face(style.isBold)));
+}
+
+QString CTextMeasurer::shortened(const QString& text, double width, const CTextStyle& style)
+{
+    const CFontScope scope(m_painter, m_bold.font, style.isBold);
+    return cdraw::shortenText(text, width, style.isShortFromLeft, cdraw::kStripSpaces,
+                              measureIn(face(style.isBold)))
+        .text;
+}
+
+double CTextMeasurer::width(const QString& text, CFace& face)
+{
+    const auto measured = [&] { return m_painter.boundingRect(QRectF(), 0, text).width(); };
+    if (!isShort(text))
+        return measured();
+    const auto known = face.shortWidths.constFind(text);
+    return known != face.shortWidths.constEnd() ? *known
+                                                : *face.shortWidths.insert(text, measured());
+}
+
+cdraw::TextMeasure CTextMeasurer::measureIn(CFace& face)
+{
+    return [this, &face](const QString& text) { return width(text, face); };
+}
+
+} // namespace tovangl
