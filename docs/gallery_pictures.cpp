@@ -156,7 +156,7 @@ void scripts(PictureFolder& folder)
     folder.draw(chart, "scripts", 420, 150);
 }
 
-// Charts without axes, small enough for a table's cell.
+// Charts without axes, small enough for a table cell.
 void thumbnails(PictureFolder& folder)
 {
     VerticalBarGraph rise(false);

@@ -38,7 +38,7 @@ void addAll(Chart& chart, const Items& items)
 const Items kMonths = {{320, "January"}, {410, "February"}, {275, "March"},
                        {180, "April"},   {505, "May"},      {460, "June"}};
 
-// --- bars that stand
+// --- vertical bars
 
 void helloBars(PictureFolder& folder)
 {
@@ -122,7 +122,7 @@ void verticalNegative(PictureFolder& folder)
     folder.draw(chart, "vertical_negative", 400, 200);
 }
 
-// --- bars that lie
+// --- horizontal bars
 
 void horizontalBars(PictureFolder& folder)
 {
@@ -312,7 +312,7 @@ void writeFrames(std::ostream& page, const std::list<Rectangle>& regions, const 
              << "px;height:" << r.height << "px\"></div>\n";
 }
 
-// The frames are laid over the picture by the page, where the lists say.
+// The page draws the frames over the picture, at the places that the lists give.
 void regionsOfBars(PictureFolder& folder)
 {
     VerticalBarGraph chart(false);

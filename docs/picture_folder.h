@@ -11,7 +11,7 @@
 #include <string>
 #include <utility>
 
-/// A folder that charts are drawn into. It remembers whether all of them could be written.
+/// A folder for pictures of charts. It remembers whether all of them could be written.
 class PictureFolder
 {
 public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A pie of what a folder's entries hold: disk_usage [FOLDER [FILE]]
+// A pie of the sizes of a folder's entries: disk_usage [FOLDER [FILE]]
 #include <tovangl/tovangl.h>
 
 #include <algorithm>
@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Bytes of a file, or of everything below a folder; what cannot be read counts as nothing.
+// Bytes of a file, or of everything below a folder; what cannot be read counts as 0.
 long sizeOf(const fs::directory_entry& entry)
 {
     std::error_code error;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A page whose slices and captions can be clicked: image_map [FOLDER]
+// A page with clickable slices and captions: image_map [FOLDER]
 #include <tovangl/tovangl.h>
 
 #include <fstream>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Lying bars with their values, in colours of their own: labelled_bars [FILE]
+// Horizontal bars with their values, in custom colours: labelled_bars [FILE]
 #include <tovangl/tovangl.h>
 
 #include <fstream>

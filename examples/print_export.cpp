@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One chart for the screen and for paper: print_export [SCREEN-FILE [PRINT-FILE]]
+// One chart for screen and print: print_export [SCREEN-FILE [PRINT-FILE]]
 #include <tovangl/tovangl.h>
 
 #include <fstream>
@@ -29,8 +29,8 @@ int main(int count, char** arguments)
     pie.createPixmap(420, 260, &data, &size);
     const bool isOnScreen = write(count > 1 ? arguments[1] : "screen.png", data, size);
 
-    // Four times as many pixels each way: 420 x 260 points at 288 dots an inch. Colours are paler,
-    // to save ink, and the background is white. The bytes of the first export are gone now.
+    // Four times as many pixels each way: 420 x 260 points at 288 dots per inch. Colours are paler,
+    // to save ink, and the background is white. This frees the bytes of the first export.
     constexpr int kFactor = 4;
     pie.createPixmapForPrinter(420, 260, kFactor, &data, &size);
     const bool isOnPaper = write(count > 2 ? arguments[2] : "print.png", data, size);

@@ -13,8 +13,8 @@ namespace {
 constexpr int kThreads = 4;
 constexpr int kChartsPerThread = 5;
 
-// A chart belongs to one thread at a time; different charts need no lock. Using one chart again,
-// after clear(), saves setting it up.
+// Only one thread at a time can use a chart; different charts need no lock. Reusing a chart after
+// clear() saves setting it up again.
 bool drawCharts(const std::string& folder, int thread)
 {
     tovangl::VerticalBarGraph chart(true);

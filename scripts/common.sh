@@ -1,9 +1,10 @@
 # shellcheck shell=bash
-# What the scripts share. A script sources this first; it then stands in the root of the tree.
+# What the scripts share. A script sources this first; its working directory is then the root of the
+# tree.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# cores: how many things to run at a time.
+# cores: how many jobs to run at a time.
 cores() { nproc 2>/dev/null || echo 2; }
 
 # build_preset PRESET [CMAKE-OPTION...] [-- TARGET...]: configures and builds in build/PRESET.
@@ -43,7 +44,7 @@ count_results() {
     echo "$((tests - failed - skipped)) passed, $failed failed"
 }
 
-# attribute NAME TEXT: the first NAME="number" in TEXT, 0 where there is none.
+# attribute NAME TEXT: the first NAME="number" in TEXT, 0 if there is none.
 attribute() {
     if [[ $2 =~ [[:space:]]$1=\"([0-9]+)\" ]]; then echo "${BASH_REMATCH[1]}"; else echo 0; fi
 }
@@ -59,7 +60,7 @@ build_harness() {
     harness=build/$preset/tests/$program
 }
 
-# must_fail WHAT COMMAND...: runs a command that has to find a fault seeded on purpose.
+# must_fail WHAT COMMAND...: runs a command that must find a fault seeded on purpose.
 must_fail() {
     local what=$1
     shift

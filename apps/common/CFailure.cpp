@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stops a program.
+// An error that stops a program.
 #include "common/CFailure.h"
 
 #include "common/text_checks.h"

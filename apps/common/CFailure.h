@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// What stops a program: one line for the user that says where and why.
+/// An error that stops a program: one line for the user that says where and why.
 #ifndef TOVANGL_COMMON_CFAILURE_H
 #define TOVANGL_COMMON_CFAILURE_H
 
@@ -9,17 +9,17 @@
 
 namespace tovangl::program {
 
-/// The message has no line break and no name of the program; the frame of the program adds both.
+/// The message has no line break and no program name; runProgram() adds both.
 class CFailure : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// The failure of the system call that has just set errno, about the file or option named.
+/// The failure of the system call that has just set errno, for the named file or option.
 [[nodiscard]] CFailure systemFailure(const std::string& where);
 
-/// The same with a number that was kept from errno.
+/// The same with a saved value of errno.
 [[nodiscard]] CFailure systemFailure(const std::string& where, int errorNumber);
 
 } // namespace tovangl::program

@@ -60,7 +60,7 @@ std::string CLineReader::place() const
     return m_name + ':' + std::to_string(m_lineNumber);
 }
 
-// Moves what is left to the front and appends what the next read brings.
+// Moves the remaining bytes to the front and appends the next ones.
 void CLineReader::fillBuffer()
 {
     m_buffer.erase(0, m_next);

@@ -9,8 +9,8 @@
 
 namespace tovangl::program {
 
-/// Throws CFailure where the file cannot be opened or read, or where a line has no end: beyond
-/// kMaxLineBytes the input is no text, and reading on would only fill the memory.
+/// Throws CFailure if the file cannot be opened or read, or if a line has no end: beyond
+/// kMaxLineBytes the input is not text, and reading on would only fill the memory.
 class CLineReader
 {
 public:
@@ -28,7 +28,7 @@ public:
     /// @return whether there was a line
     [[nodiscard]] bool readLine(std::string& line);
 
-    /// Where the line read last stands, for messages: "sizes.txt:3".
+    /// The place of the last line read, for messages: "sizes.txt:3".
     [[nodiscard]] std::string place() const;
 
 private:
@@ -37,7 +37,7 @@ private:
     std::string m_name;
     int m_file;
     std::string m_buffer;
-    std::size_t m_next = 0; // first byte of m_buffer that is not handed out
+    std::size_t m_next = 0; // first byte of m_buffer that was not returned yet
     std::size_t m_lineNumber = 0;
     bool m_atEnd = false;
 };

@@ -10,15 +10,15 @@
 
 namespace tovangl::program {
 
-/// The permissions of new files and folders, before the process's mask is taken off.
+/// The permissions of new files and folders, before the process's umask is applied.
 inline constexpr mode_t kNewFilePermissions = 0666;
 inline constexpr mode_t kNewFolderPermissions = 0777;
 
-/// The permissions without those that the process's mask forbids.
+/// The permissions that the process's umask leaves.
 [[nodiscard]] mode_t maskedPermissions(mode_t permissions);
 
-/// An open file, closed at the latest with this object. Every operation throws CFailure, with the
-/// name, where the system refuses it.
+/// An open file, which the destructor closes if it is still open. Every operation throws CFailure,
+/// with the name, if the system refuses it.
 class COpenFile
 {
 public:
@@ -32,9 +32,9 @@ public:
 
     void write(std::string_view bytes) const;
     void setPermissions(mode_t permissions) const;
-    /// Some file systems cannot promise anything here, which is no failure of this file.
+    /// Some file systems do not support this, which does not count as a failure.
     void bringToDisk() const;
-    /// Late errors, such as those of a disk across the network, show here.
+    /// Late errors, such as those of a network file system, show here.
     void close();
 
 private:

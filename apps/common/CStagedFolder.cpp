@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A folder of results that appears under its name when it is complete.
+// A folder of results that appears under its name only when it is complete.
 #include "common/CStagedFolder.h"
 
 #include "common/CFailure.h"
@@ -18,8 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The whole path, links resolved as far as it exists. A path that ends in a slash has an empty last
-// part, which names nothing that could be moved.
+// The absolute path, with links resolved as far as it exists. A path that ends in a slash has an
+// empty last part, which cannot be renamed.
 fs::path placeOf(const std::string& path)
 {
     std::error_code error;
@@ -39,7 +39,7 @@ bool requireFree(const std::string& name, const fs::path& place,
     if (error)
         throw systemFailure(name, error.value());
     if (!fs::is_directory(status))
-        throw CFailure(makePrintable(name) + ": stands there already, and is no folder");
+        throw CFailure(makePrintable(name) + ": exists already, and is not a folder");
     const bool isEmpty = fs::is_empty(place, error);
     if (error)
         throw systemFailure(name, error.value());
@@ -98,8 +98,8 @@ void CStagedFolder::makeProvisional()
         throw systemFailure(m_name);
 }
 
-// What stood there ends up under the provisional name, and goes with this object. Where the file
-// system cannot exchange two folders at once, there is a moment without either.
+// The old folder ends up under the provisional name, and the destructor removes it. If the file
+// system cannot exchange two folders atomically, neither exists for a moment.
 void CStagedFolder::exchange()
 {
     if (::renameat2(AT_FDCWD, m_provisional.c_str(), AT_FDCWD, m_target.c_str(), RENAME_EXCHANGE) ==

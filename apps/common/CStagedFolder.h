@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// A folder of results that appears under its name when it is complete.
+/// A folder of results that appears under its name only when it is complete.
 #ifndef TOVANGL_COMMON_CSTAGEDFOLDER_H
 #define TOVANGL_COMMON_CSTAGEDFOLDER_H
 
@@ -10,17 +10,17 @@
 
 namespace tovangl::program {
 
-/// Files are written into a folder under another name beside the place of the new one. It takes
-/// that place, and what stood there goes, when publish() is called; without that nothing is left
-/// behind. Every operation throws CFailure where the system refuses it.
+/// Files are first written into a provisional folder beside the final place. publish() moves it
+/// there and removes what was there before; without publish() nothing is left behind. Every
+/// operation throws CFailure if the system refuses it.
 class CStagedFolder
 {
 public:
-    /// What may be replaced: told by whoever knows the results.
+    /// Decides which existing folder may be replaced.
     using MayReplace = bool (*)(const std::filesystem::path& folder);
 
-    /// Throws where something stands at the path that may not be replaced (an empty folder may be),
-    /// or where no folder can be made. Nothing is made yet.
+    /// Throws if something at the path may not be replaced (an empty folder always may), or if no
+    /// folder can be made there. Makes nothing yet.
     CStagedFolder(const std::string& path, MayReplace mayReplace);
     ~CStagedFolder();
 
@@ -29,7 +29,7 @@ public:
 
     void write(const std::string& name, std::string_view bytes);
 
-    /// Moves the folder, which has files by now, to its place.
+    /// Moves the folder, which must contain files, to its final place.
     void publish();
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Bytes as they can stand in an address.
+// Encodes bytes for use in a URL.
 #include "common/base64.h"
 
 #include <algorithm>
@@ -12,10 +12,10 @@ namespace {
 constexpr std::string_view kAlphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 constexpr char kFiller = '=';
-constexpr std::size_t kBytes = 3; // become a group of
+constexpr std::size_t kBytes = 3; // that become a group of
 constexpr std::size_t kCharacters = 4;
 
-// One to three bytes; those that are missing count as 0.
+// One to three bytes; missing ones count as 0.
 void appendGroup(std::string& text, std::string_view bytes)
 {
     std::uint32_t bits = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Bytes as they can stand in an address.
+/// Encodes bytes for use in a URL.
 #ifndef TOVANGL_COMMON_BASE64_H
 #define TOVANGL_COMMON_BASE64_H
 
@@ -9,7 +9,7 @@
 
 namespace tovangl::program {
 
-/// The bytes in base 64 with the alphabet of RFC 4648, section 4, filled up to groups of four.
+/// The bytes in base 64 with the alphabet of RFC 4648, section 4, padded to groups of four.
 [[nodiscard]] std::string encodeBase64(std::string_view bytes);
 
 } // namespace tovangl::program

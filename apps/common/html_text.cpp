@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Text from outside as it can stand in a page.
+// Makes untrusted text safe for a page.
 #include "common/html_text.h"
 
 #include "common/text_checks.h"

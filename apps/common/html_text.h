@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Text from outside as it can stand in a page.
+/// Makes untrusted text safe for a page.
 #ifndef TOVANGL_COMMON_HTML_TEXT_H
 #define TOVANGL_COMMON_HTML_TEXT_H
 
@@ -9,13 +9,13 @@
 
 namespace tovangl::program {
 
-/// The text with the characters that mean something in HTML replaced, so that it can stand between
+/// The text with the characters that have a meaning in HTML escaped, so that it can stand between
 /// tags and between either kind of quotation marks.
 [[nodiscard]] std::string escapeHtml(std::string_view text);
 
-/// A file name, which may hold any bytes, as one line of UTF-8 to be looked at: control characters
-/// become their pictures (U+2400 and on), broken bytes and marks that turn the direction of what
-/// follows become U+FFFD. Two names may look the same.
+/// A file name, which can hold any bytes, as one readable line of UTF-8: control characters become
+/// their symbols (U+2400 and on); invalid bytes and marks that change the direction of the
+/// following text become U+FFFD. Two names can look the same.
 [[nodiscard]] std::string displayName(std::string_view bytes);
 
 } // namespace tovangl::program

@@ -13,7 +13,7 @@ namespace tovangl::program {
 
 namespace {
 
-// A tenth of a pixel: what rounding adds to an outline stays far below a pixel.
+// Rounds to a tenth of a pixel, which keeps the outline's error far below a pixel.
 std::string decimal(double number)
 {
     constexpr int kDecimals = 1;

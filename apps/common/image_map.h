@@ -11,19 +11,19 @@
 
 namespace tovangl::program {
 
-/// What a region says and where it leads; plain text, not escaped yet.
+/// The texts and the link of a region; plain text, not escaped yet.
 struct RegionLink
 {
     std::string target; ///< address of the page or place
     std::string title;  ///< shown while the pointer rests on the region
-    std::string text;   ///< read in the region's place
+    std::string text;   ///< the region's alternative text
 };
 
 /// A map that an <img> names with usemap. Where regions overlap, the one added first wins.
 class CImageMap
 {
 public:
-    /// @param name  unlike that of any other map of the page; letters only
+    /// @param name  unique among the maps of a page; letters only
     explicit CImageMap(std::string name);
 
     /// Adds a region; a record that is all zero adds nothing.
@@ -44,9 +44,9 @@ private:
 struct MappedPicture
 {
     std::string source; ///< address of the picture
-    int width;          ///< in pixels, as it is shown: a map does not scale with its picture
+    int width;          ///< in pixels, as shown: a map does not scale with its picture
     int height;
-    std::string description; ///< read in the picture's place; plain text
+    std::string description; ///< the picture's alternative text; plain text
 };
 
 /// The picture with its map.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Lets a program that runs for long clean up when it is told to end.
+// Lets a long-running program clean up when it receives a signal to end.
 #include "common/interruption.h"
 
 #include "common/CFailure.h"

@@ -29,8 +29,8 @@ std::string nameOf(const std::string& path)
     return path == kStandardOutput ? "standard output" : path;
 }
 
-/// What the path leads to; nothing where a new file would be made. A link to nowhere is refused:
-/// making its target could put a file where nobody looks for one.
+/// What the path leads to; nothing if a new file would be made. A dangling link is refused, because
+/// making its target could put a file where nobody expects one.
 std::optional<FileStatus> statusOf(const std::string& path)
 {
     FileStatus status = {};
@@ -49,8 +49,8 @@ bool isStandardOutput(const FileStatus& status)
            standard.st_ino == status.st_ino;
 }
 
-/// "/dev/stdout" counts as standard output also where that is a file: the shell's file is meant,
-/// not another one in its place.
+/// "/dev/stdout" counts as standard output even if that is a file, because the user means the
+/// shell's open file, not a new one in its place.
 bool leadsToStandardOutput(const std::string& path)
 {
     if (path == kStandardOutput)
@@ -109,7 +109,8 @@ std::string resolveLinks(const std::string& path)
     return real.get();
 }
 
-/// A file beside its place, gone with this object unless it was moved there.
+/// A provisional file beside its final place, which the destructor removes unless it was moved
+/// there.
 class CStagedFile
 {
 public:
@@ -139,7 +140,7 @@ public:
         file.close();
     }
 
-    /// Moves the file, written, to its place.
+    /// Moves the written file to its final place.
     void publish()
     {
         if (::rename(m_provisional.c_str(), m_target.c_str()) != 0)
@@ -161,7 +162,7 @@ private:
         return old->st_mode & kAllPermissions;
     }
 
-    /// Renaming asks for no right to the file that it replaces; a write-protected one is meant to
+    /// Renaming needs no permission for the file that it replaces, but a write-protected file must
     /// stay.
     void requireReplaceable(const FileStatus& old) const
     {
@@ -192,8 +193,8 @@ void writeFiles(const std::vector<const Output*>& outputs)
 
 void writeOutputs(const std::vector<Output>& outputs)
 {
-    // Streams first: they may block for as long as a reader likes, when no provisional file stands
-    // about yet, and a file appears only when they have succeeded.
+    // Streams first: they can block for as long as a reader likes, so no provisional file should
+    // exist yet, and files must appear only after the streams have succeeded.
     std::vector<const Output*> files;
     for (const Output& output : outputs) {
         if (isStream(output.path))

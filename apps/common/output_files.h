@@ -19,13 +19,13 @@ struct Output
     std::string_view bytes;
 };
 
-/// Writes every output. Pipes and devices are written to directly. A file is written under another
-/// name beside its place, and takes its place when all of it is on the disk and the other outputs
-/// have succeeded as well; until then the old file stands, and a failure leaves nothing behind. A
-/// file that exists keeps its permissions, and a link is followed. Throws CFailure.
+/// Writes every output. Pipes and devices are written to directly. A file is first written under a
+/// provisional name beside its place, and renamed when all of it is on the disk and the other
+/// outputs have succeeded too; until then the old file stays, and a failure leaves nothing behind.
+/// An existing file keeps its permissions, and links are followed. Throws CFailure.
 void writeOutputs(const std::vector<Output>& outputs);
 
-/// Throws CFailure where the path leads to a terminal, which is no place for binary data.
+/// Throws CFailure if the path leads to a terminal, which cannot show binary data.
 void refuseTerminal(const std::string& path);
 
 /// Whether two paths lead to one file, or both to standard output.

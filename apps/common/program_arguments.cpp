@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kOptionColumn = 30; // characters
 
-/// CLI11 may write several lines; the first says what is wrong.
+/// CLI11 can write several lines; the first says what is wrong.
 CFailure usageFailure(const CLI::ParseError& error, const std::string& program)
 {
     const std::string message = error.what();

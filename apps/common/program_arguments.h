@@ -10,16 +10,16 @@
 
 namespace tovangl::program {
 
-/// Reads the arguments, and prints help or version where they ask for it.
+/// Reads the arguments, and prints help or version if they ask for it.
 ///
 /// @param program  with its name set; its callbacks run
-/// @return false where nothing more is to be done
-/// @throws CFailure where the arguments are wrong: one line that leads to the help
+/// @return false if nothing is left to do
+/// @throws CFailure if the arguments are wrong: one line that refers to the help
 bool parseArguments(CLI::App& program, int count, const char* const* arguments);
 
-/// Gives the help of a program the looks that all have in common.
+/// Gives a program's help the layout that all share.
 ///
-/// @param teaching  stands at the help's end
+/// @param teaching  the end of the help
 void describeProgram(CLI::App& program, const char* name, const char* version,
                      const char* teaching);
 

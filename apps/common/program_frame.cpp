@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How every program starts, and how it ends when something stops it.
+// How every program starts, and how it ends on an error.
 #include "common/program_frame.h"
 
 #include "common/CFailure.h"
@@ -13,8 +13,8 @@ namespace tovangl::program {
 
 namespace {
 
-/// A closed pipe and a file size limit are to be told as failed writes; by default they kill the
-/// process, which could neither say so nor clean up.
+/// A closed pipe and a file size limit must appear as failed writes; by default they kill the
+/// process, which could then neither report them nor clean up.
 void ignoreWriteSignals()
 {
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));

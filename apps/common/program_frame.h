@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// How every program starts, and how it ends when something stops it.
+/// How every program starts, and how it ends on an error.
 #ifndef TOVANGL_COMMON_PROGRAM_FRAME_H
 #define TOVANGL_COMMON_PROGRAM_FRAME_H
 
@@ -8,14 +8,14 @@
 
 namespace tovangl::program {
 
-/// The exit status of a program that could not do what it was asked for.
+/// The exit status of a program that failed.
 inline constexpr int kExitFailure = 2;
 
-/// Runs a program's work. Whatever stops it becomes one line on standard error and exit status 2;
-/// so does a standard output that does not take what was printed.
+/// Runs a program's work. Any error becomes one line on standard error and exit status 2; so does a
+/// failed write to standard output.
 ///
 /// @param name  the program, for messages
-/// @param work  throws CFailure where it cannot go on
+/// @param work  throws CFailure if it cannot continue
 /// @return the exit status for main()
 int runProgram(const char* name, const std::function<void()>& work);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Text from outside: is it UTF-8, and how is it shown in a message.
+// Checks untrusted text for UTF-8, and makes it printable in messages.
 #include "common/text_checks.h"
 
 #include <array>
@@ -14,7 +14,8 @@ constexpr unsigned kDelete = 0x7f;
 constexpr unsigned kFirstBeyondC1Controls = 0xa0;
 
 /// Characters whose first byte lies in [first, last]: their length, and the range of the second
-/// byte, which alone shuts out overlong forms, surrogates and numbers beyond the last character.
+/// byte, which is enough to exclude overlong forms, surrogates and numbers beyond the last
+/// character.
 struct Utf8Form
 {
     unsigned first;

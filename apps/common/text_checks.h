@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Text from outside: is it UTF-8, and how is it shown in a message.
+/// Checks untrusted text for UTF-8, and makes it printable in messages.
 #ifndef TOVANGL_COMMON_TEXT_CHECKS_H
 #define TOVANGL_COMMON_TEXT_CHECKS_H
 
@@ -10,21 +10,23 @@
 
 namespace tovangl::program {
 
-/// The number of bytes of the UTF-8 character that the text, not empty, starts with; 0: it is none.
+/// The length in bytes of the UTF-8 character that a text starts with; 0 if there is none there.
+/// The text must not be empty.
 [[nodiscard]] std::size_t characterLength(std::string_view text);
 
-/// Whether a character, whole and sound, moves a cursor or changes a terminal's state.
+/// Whether a valid character moves a cursor or changes a terminal's state.
 [[nodiscard]] bool isControl(std::string_view character);
 
-/// The offset of the first byte that belongs to no UTF-8 character; npos where the text is sound.
-/// Overlong forms, surrogates and numbers beyond the last character are no characters.
+/// The offset of the first byte that belongs to no UTF-8 character; npos if the text is valid.
+/// Overlong forms, surrogates and numbers beyond the last character are invalid.
 [[nodiscard]] std::size_t findBrokenUtf8(std::string_view text);
 
-/// The text as it can stand in a line on a terminal: control characters and broken bytes become
-/// question marks, so that a message stays one line and no file name can steer the terminal.
+/// The text in a form that is safe to print on a terminal: control characters and invalid bytes
+/// become question marks, so that a message stays one line and no file name can control the
+/// terminal.
 [[nodiscard]] std::string makePrintable(std::string_view text);
 
-/// The text between quotation marks, printable, and cut after some forty characters.
+/// The text between quotation marks, printable, and cut after about forty characters.
 [[nodiscard]] std::string quote(std::string_view text);
 
 } // namespace tovangl::program

@@ -1,8 +1,8 @@
 # fish completion for tovangl-du
 complete -c tovangl-du -x -a '(__fish_complete_directories)'
 complete -c tovangl-du -s o -l output -x -a '(__fish_complete_directories)' -d 'Write the pages into this folder'
-complete -c tovangl-du -l pages -x -d 'Write so many pages at most'
-complete -c tovangl-du -l depth -x -d 'Write pages of so many levels at most'
+complete -c tovangl-du -l pages -x -d 'Write at most this many pages'
+complete -c tovangl-du -l depth -x -d 'Write pages down to this many levels'
 complete -c tovangl-du -s x -l one-file-system -d 'Leave out other file systems'
 complete -c tovangl-du -s h -l help -d 'Show the help'
 complete -c tovangl-du -l version -d 'Show the version'

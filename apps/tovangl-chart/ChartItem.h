@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// One item as it was read.
+/// One item as read.
 #ifndef TOVANGL_CHART_CHARTITEM_H
 #define TOVANGL_CHART_CHARTITEM_H
 
@@ -22,7 +22,7 @@ struct ChartItem
 
 using ChartItems = std::vector<ChartItem>;
 
-/// Stands for a colour that was not given: the library uses its default in its place.
+/// Stands for a missing colour: the library then uses its default.
 inline constexpr Color kNoColor = {-1, -1, -1};
 
 } // namespace tovangl::program

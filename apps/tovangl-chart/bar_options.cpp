@@ -23,10 +23,10 @@ void addBarOptions(CLI::App& command, BarOptions& options)
 {
     addAxisOptions(command, "category", options.categoryAxis);
     addOption(command, "--bar-width", options.barWidth, parseWhole,
-              "Width of every bar; 0: they share the axis [0]")
+              "Width of every bar; 0 lets them share the axis [0]")
         ->type_name("PIXELS");
     addOption(command, "--position", options.position, parsePosition,
-              "Where the axes cross; -1: left to the layout [-1,-1]")
+              "Where the axes cross; -1 leaves it to the layout [-1,-1]")
         ->type_name("X,Y");
     addOption(command, "--text-color", options.textColor, parseColor, "Axes, captions and numbers")
         ->type_name("#RRGGBB");

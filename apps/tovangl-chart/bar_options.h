@@ -20,9 +20,9 @@ struct AxisOptions
 
     [[nodiscard]] bool isGiven() const { return properties || title; }
 
-    /// What the axis shows. A title is shown by naming it.
+    /// What the axis shows. Giving a title also shows it.
     ///
-    /// @param defaults  what it shows where the options do not say
+    /// @param defaults  what it shows if the options do not say
     [[nodiscard]] int propertiesOr(int defaults) const;
 };
 
@@ -42,7 +42,7 @@ inline constexpr int kDefaultValueAxis = kDefaultCategoryAxis | AxisProperty::Un
 /// The end of a command's help: what an axis can show.
 inline constexpr const char* kAxisTeaching = R"(
 Axis properties, joined by commas, replace what the axis shows by default:
-  line, labels, title      show these; naming a title shows it as well
+  line, labels, title      show these; giving a title shows it too
   bold-labels, bold-title  in bold type
   prefixes                 12 K instead of 12,288 (the value axis of bars)
   hide-overlapped          thin out labels that would overlap
@@ -54,7 +54,7 @@ void addAxisOptions(CLI::App& command, const std::string& name, AxisOptions& opt
 
 void addBarOptions(CLI::App& command, BarOptions& options);
 
-/// Hands the items, and those of the settings that both charts have in common, to the chart.
+/// Adds the items to the chart, and applies the settings that both charts share.
 template <typename BarChart>
 void applyBarOptions(BarChart& chart, const ChartItems& items, const BarOptions& options)
 {

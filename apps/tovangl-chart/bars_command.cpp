@@ -13,7 +13,7 @@ namespace tovangl::program {
 namespace {
 
 constexpr const char* kName = "bars";
-constexpr const char* kDescription = "Bars standing on an axis, with a scale at the left";
+constexpr const char* kDescription = "Vertical bars, with a scale at the left";
 
 constexpr const char* kExamples =
     R"(Examples:
@@ -21,7 +21,7 @@ constexpr const char* kExamples =
   cut -d: -f7 /etc/passwd | sort | uniq -c | tovangl-chart bars -o shells.png
   tovangl-chart bars --value-axis line,labels,bold-labels --bar-width 20 n.txt -o n.png
 
-Behind the caption a line may have a fill colour and an outline colour, each behind a tab.
+After the caption a line can have a fill colour and an outline colour, each after a tab.
 )";
 
 struct UprightBarOptions

@@ -49,8 +49,8 @@ RegionLink linkOf(const ChartItems& items, std::size_t index)
     return {'#' + anchorOf(index), text, text};
 }
 
-// Where regions overlap the first one wins: a caption on a bar or a slice is what the reader points
-// at.
+// Where regions overlap, the first one wins, so captions come before bars and slices: that is what
+// the reader points at.
 CImageMap imageMap(const ChartItems& items, const ChartRegions& regions)
 {
     CImageMap map(kMapName);

@@ -12,7 +12,7 @@
 
 namespace tovangl::program {
 
-/// Whether a file of this name is meant to be a page: it ends in ".html" or ".htm", in any case.
+/// Whether a file name means a page: it ends in ".html" or ".htm", in upper or lower case.
 [[nodiscard]] bool isPageName(std::string_view name);
 
 /// A page that needs no other file: the picture, the regions of its items, and a table of the items

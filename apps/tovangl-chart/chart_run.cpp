@@ -39,7 +39,7 @@ bool makesPage(const CommonOptions& options)
     return isPageName(options.map);
 }
 
-/// Where the picture goes; empty: nowhere, as it is in the page.
+/// Where the picture goes; empty if only the page holds it.
 std::string pictureOutput(const CommonOptions& options)
 {
     return options.output.value_or(makesPage(options) ? "" : kStandardOutput);

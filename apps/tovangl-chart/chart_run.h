@@ -13,15 +13,15 @@
 
 namespace tovangl::program {
 
-/// Throws CFailure where the outputs cannot be meant as they are: before anything is read.
+/// Throws CFailure if the outputs make no sense together. Call it before anything is read.
 void checkOutputs(const CommonOptions& options);
 
-/// Renders the chart on screen or for print. Throws CFailure where there is no picture.
+/// Renders the chart for screen or print. Throws CFailure if there is no picture.
 ///
 /// @return the bytes, which the chart owns
 [[nodiscard]] std::string_view renderPicture(Graph& chart, const CommonOptions& options);
 
-/// What every chart tells of itself after a rendering.
+/// What every chart reports about itself after a rendering.
 ///
 /// @param kind  name of the chart's command
 [[nodiscard]] ChartRegions captionRegions(Graph& chart, const char* kind,
@@ -37,11 +37,11 @@ template <typename BarChart>
     return regions;
 }
 
-/// Writes the picture and, where it is asked for, the map.
+/// Writes the picture and, if the options ask for it, the map.
 void writeChart(std::string_view picture, const ChartItems& items, const ChartRegions& regions,
                 const CommonOptions& options);
 
-/// Says on standard error what is wrong with the picture that was written, if anything is.
+/// Prints on standard error what is wrong with the picture that was written, if anything.
 void tellProblem(const Graph& chart, const CommonOptions& options);
 
 } // namespace tovangl::program

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The command line: one command a chart.
+// The command line: one command per chart.
 #include "tovangl-chart/command_line.h"
 
 #include "common/program_arguments.h"
@@ -12,8 +12,8 @@ namespace {
 constexpr const char* kDescription = "Draws a chart of numbers as a PNG picture.";
 
 constexpr const char* kTeaching =
-    R"(Input: one item a line: a whole number, white space, a caption. A colour (#rrggbb)
-may follow behind a tab.
+    R"(Input: one item per line: a whole number, white space, a caption. A colour (#rrggbb)
+can follow after a tab.
 
   1200 Rent
   430  Food	#d04030

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The command line: one command a chart.
+/// The command line: one command per chart.
 #ifndef TOVANGL_CHART_COMMAND_LINE_H
 #define TOVANGL_CHART_COMMAND_LINE_H
 
@@ -10,18 +10,18 @@
 
 namespace tovangl::program {
 
-/// Adds the commands; each runs when it is parsed. Defined beside what they run.
+/// Adds the commands; each runs when it is parsed. Each is defined beside the code that it runs.
 void addPieCommand(CLI::App& program);
 void addBarsCommand(CLI::App& program);
 void addHbarsCommand(CLI::App& program);
 
-/// Adds a command with the looks that all have in common.
+/// Adds a command with the layout that all share.
 CLI::App* addChartCommand(CLI::App& program, const char* name, const char* description,
                           const char* examples);
 
 /// Reads the arguments and does what they ask for. Throws CFailure.
 ///
-/// @param version  told by --version
+/// @param version  printed by --version
 void runCommandLine(int count, const char* const* arguments, const char* version);
 
 } // namespace tovangl::program

@@ -6,7 +6,7 @@ namespace tovangl::program {
 
 namespace {
 
-// What the library uses where only one half of a font is given.
+// The library's defaults, for a font of which only the family or the size is given.
 constexpr const char* kDefaultFamily = "Tahoma";
 constexpr int kDefaultFontSize = 11;
 
@@ -20,15 +20,15 @@ std::string parsePath(const std::string& text)
 void addFileOptions(CLI::App& command, CommonOptions& options)
 {
     addOption(command, "FILE", options.input, parsePath,
-              "Items, one a line; without it, standard input")
+              "Items, one per line; without it, standard input")
         ->type_name("");
     addOption(
         command, "-o,--output", options.output, parsePath,
-        "Write the picture (PNG) here; without it, to standard output, unless there is a page")
+        "Write the picture (PNG) here; without it, to standard output or into the page of --map")
         ->type_name("FILE");
     addOption(command, "--map", options.map, parsePath,
-              "Write where each item was drawn here: a page with the picture and its regions "
-              "where FILE ends in .html, JSON otherwise")
+              "Write where each item was drawn: a page with the picture and its regions "
+              "if FILE ends in .html, JSON otherwise")
         ->type_name("FILE");
 }
 
@@ -37,20 +37,19 @@ void addLookOptions(CLI::App& command, CommonOptions& options)
     addOption(command, "--size", options.size, parseSize, "Size of the picture [800x600]")
         ->type_name("WxH");
     addOption(command, "--print", options.printFactor, parseWhole,
-              "For print: N times as many pixels, in paler colours")
+              "For print: N times as many pixels each way, slices in paler colours")
         ->type_name("N");
     addOption(command, "--font", options.fontFamily, parseText, "Font family [Tahoma]")
         ->type_name("NAME");
     addOption(command, "--font-size", options.fontSize, parseWhole, "Font size in pixels [11]")
         ->type_name("N");
-    addOption(command, "--locale", options.locale, parseLocale,
-              "How numbers are written, such as de_AT")
+    addOption(command, "--locale", options.locale, parseLocale, "Number format, such as de_AT")
         ->type_name("LL_CC");
     addOption(command, "--threshold", options.threshold, parseReal,
-              "Leave out items below this share of the total")
+              "Leave out items with a smaller share of the total")
         ->type_name("PERCENT");
-    command.add_flag("--background", options.background, "Paint the background");
-    command.add_flag("--fast", options.fast, "Save sooner, in a larger file");
+    command.add_flag("--background", options.background, "Paint a gradient behind the chart");
+    command.add_flag("--fast", options.fast, "Save faster, in a larger file");
 }
 
 } // namespace

@@ -35,10 +35,10 @@ struct CommonOptions
 /// Adds the options that every chart has to its command.
 void addCommonOptions(CLI::App& command, CommonOptions& options);
 
-/// Hands those of the settings that were given to the chart.
+/// Applies the settings that were given to the chart.
 void applyCommonOptions(Graph& chart, const CommonOptions& options);
 
-/// Adds an option whose value parse reads. A value that parse refuses is told with the option.
+/// Adds an option whose value parse() reads. The message about a refused value names the option.
 ///
 /// @param parse  one of the parse… functions
 template <typename Target, typename Parse>

@@ -13,7 +13,7 @@ namespace tovangl::program {
 namespace {
 
 constexpr const char* kName = "hbars";
-constexpr const char* kDescription = "Bars lying one below the other, each with its value";
+constexpr const char* kDescription = "Horizontal bars, each with its value";
 
 constexpr const char* kExamples =
     R"(Examples:
@@ -21,7 +21,7 @@ constexpr const char* kExamples =
   tovangl-chart hbars --locale de_AT --threshold 1 votes.txt -o votes.png
   tovangl-chart hbars --category-axis line,labels,bold-labels n.txt -o n.png --map n.json
 
-Behind the caption a line may have a fill colour and an outline colour, each behind a tab.
+After the caption a line can have a fill colour and an outline colour, each after a tab.
 )";
 
 void applyAxis(HorizontalBarGraph& chart, const AxisOptions& axis)

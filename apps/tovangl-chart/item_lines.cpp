@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads items, one a line.
+// Reads items, one per line.
 #include "tovangl-chart/item_lines.h"
 
 #include "common/CFailure.h"
@@ -26,7 +26,7 @@ void requireUtf8(std::string_view line)
         throw CFailure("byte " + std::to_string(broken + 1) + " of the line is not UTF-8");
 }
 
-/// Takes the colour behind the last tab off the text, if there is one.
+/// Removes the colour after the last tab from the text, if there is one.
 std::optional<Color> takeColor(std::string_view& text)
 {
     const std::size_t tab = text.rfind('\t');

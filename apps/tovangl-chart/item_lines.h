@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Reads items, one a line: a whole number, white space, a caption, and colours behind tabs.
+/// Reads items, one per line: a whole number, white space, a caption, and colours after tabs.
 #ifndef TOVANGL_CHART_ITEM_LINES_H
 #define TOVANGL_CHART_ITEM_LINES_H
 
@@ -11,7 +11,7 @@
 
 namespace tovangl::program {
 
-/// How many colours may end a line.
+/// How many colours can end a line.
 enum class LineColors
 {
     Fill,          ///< one
@@ -19,11 +19,11 @@ enum class LineColors
 };
 
 /// Reads one line. White space before the number is skipped, and so is all white space up to the
-/// caption. What stands behind the last tab is a colour if it has the form of one ("#rrggbb");
-/// otherwise it belongs to the caption. Throws CFailure with the reason where the line is no item.
+/// caption. A field after the last tab is a colour if it has the form "#rrggbb"; otherwise it
+/// belongs to the caption. Throws CFailure with the reason if the line is not an item.
 [[nodiscard]] ChartItem parseItemLine(std::string_view line, LineColors colors);
 
-/// Reads all items of a file, or of standard input where the path is "-". Throws CFailure with the
+/// Reads all items of a file, or of standard input if the path is "-". Throws CFailure with the
 /// place and the reason.
 [[nodiscard]] ChartItems readItems(const std::string& path, LineColors colors);
 

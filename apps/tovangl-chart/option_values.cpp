@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the values of options mean.
+// Parses the values of options.
 #include "tovangl-chart/option_values.h"
 
 #include "common/CFailure.h"
@@ -47,7 +47,7 @@ std::string rangeText()
     return std::to_string(std::numeric_limits<Number>::digits + 1) + " bits";
 }
 
-/// std::from_chars() knows no plus sign.
+/// std::from_chars() does not accept a plus sign.
 std::string_view withoutPlus(std::string_view text)
 {
     return text.size() > 1 && text[0] == '+' && text[1] != '-' ? text.substr(1) : text;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// What the values of options mean. Every parse… function throws CFailure with the reason where the
-/// text has another form.
+/// Parses the values of options. Every parse… function throws CFailure with the reason if the text
+/// has another form.
 #ifndef TOVANGL_CHART_OPTION_VALUES_H
 #define TOVANGL_CHART_OPTION_VALUES_H
 
@@ -31,13 +31,13 @@ struct AxisPosition
     int y = -1;
 };
 
-/// "#rrggbb", in either case; nothing where the text has another form.
+/// "#rrggbb", in upper or lower case; nothing if the text has another form.
 [[nodiscard]] std::optional<Color> findColor(std::string_view text);
 
-/// The value of an item: a whole number of 64 bits, with or without a sign.
+/// The value of an item: a 64-bit whole number, with or without a sign.
 [[nodiscard]] long parseItemValue(std::string_view text);
 
-/// A whole number that an int holds.
+/// A whole number that fits into an int.
 [[nodiscard]] int parseWhole(std::string_view text);
 
 /// A decimal number, such as 2 or 1.5.

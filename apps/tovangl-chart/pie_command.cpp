@@ -19,12 +19,12 @@ constexpr const char* kExamples =
   du -b -d1 /usr | tovangl-chart pie -o usr.png
   tovangl-chart pie --threshold 2 --without-sizes --background votes.txt -o votes.png
   tovangl-chart pie --size 400x300 --print 4 sizes.txt -o page.png --map page.json
-  du -b -d1 /usr | tovangl-chart pie --map usr.html      (one page, with regions to point at)
+  du -b -d1 /usr | tovangl-chart pie --map usr.html      (one page, with clickable regions)
 
 Slices run clockwise from nine o'clock. Only numbers above 0 are drawn.)";
 
-// What the library draws while no colours are set. An unset colour of the lines would follow the
-// outlines, and be white on a white ground.
+// The library's own default. An unset line colour would follow the outlines, and the lines would be
+// white on white.
 constexpr Color kDefaultLineColor = {0, 0, 0};
 
 struct PieOptions
@@ -41,11 +41,11 @@ struct PieOptions
 
 void addPieOptions(CLI::App& command, PieOptions& options)
 {
-    command.add_flag("--bold", options.bold, "Write captions in bold type");
+    command.add_flag("--bold", options.bold, "Draw captions in bold type");
     command.add_flag("--shorten-left", options.shortenFromLeft,
                      "Cut long captions at their beginning");
-    command.add_flag("--keep-overlaps", options.keepOverlaps, "Leave captions where they collide");
-    command.add_flag("--without-sizes", options.withoutSizes, "Write captions alone");
+    command.add_flag("--keep-overlaps", options.keepOverlaps, "Let captions overlap");
+    command.add_flag("--without-sizes", options.withoutSizes, "Draw captions without sizes");
     const std::string form = "#RRGGBB";
     addOption(command, "--outline-color", options.outline, parseColor, "Outlines of the slices")
         ->type_name(form);

@@ -8,7 +8,7 @@ namespace tovangl::program {
 
 namespace {
 
-// The order of keys is the order of writing.
+// Keys keep the order in which they are written.
 using Json = nlohmann::ordered_json;
 
 constexpr int kIndent = 2;

@@ -15,7 +15,7 @@
 
 namespace tovangl::program {
 
-/// What a rendered chart tells of itself. Every list has one record for each item.
+/// What a rendered chart reports about itself. Every list has one record for each item.
 struct ChartRegions
 {
     std::string kind;        ///< name of the chart's command

@@ -11,8 +11,8 @@ namespace {
 
 using Folder = std::unique_ptr<FolderSummary>;
 
-// Of folders of one size the outer one stays: it may hold the other. The path settles the rest, so
-// that the order in which a file system tells its folders does not matter.
+// Of two folders of equal size the outer one stays, because it can contain the other. Otherwise the
+// path decides, so that the order in which a file system lists its folders does not matter.
 bool staysLonger(const Folder& a, const Folder& b)
 {
     const auto rank = [](const FolderSummary& folder) {

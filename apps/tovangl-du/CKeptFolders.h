@@ -11,15 +11,15 @@
 
 namespace tovangl::program {
 
-/// Which folders are kept: no more than this many, none deeper than that.
+/// Limits on the folders that are kept: how many, and how deep.
 struct PageLimits
 {
     std::size_t pages = 300;
     int depth = 1000000;
 };
 
-/// Keeps the largest folders, and the root of the walk. A folder is at least as large as any that
-/// it holds, so whatever is kept lies in folders that are kept.
+/// Keeps the largest folders, and the root of the walk. A folder is at least as large as any folder
+/// in it, so the parents of a kept folder are kept too.
 class CKeptFolders
 {
 public:
@@ -27,14 +27,14 @@ public:
         : m_limits(limits)
     {}
 
-    /// Folders come in any order; those without bytes are of no interest.
+    /// Folders can be added in any order; those without bytes are ignored.
     void add(std::unique_ptr<FolderSummary> folder);
 
-    /// Null where that folder is not kept.
+    /// Null if that folder is not kept.
     [[nodiscard]] const FolderSummary* find(FolderId id) const;
     [[nodiscard]] std::size_t size() const { return m_folders.size(); }
 
-    /// To be called when all have come, before find().
+    /// Must be called after all folders were added and before find().
     void sortById();
 
 private:

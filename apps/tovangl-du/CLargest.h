@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The largest of any number of things, in bounded memory.
+/// The largest of any number of entries, in bounded memory.
 #ifndef TOVANGL_DU_CLARGEST_H
 #define TOVANGL_DU_CLARGEST_H
 
@@ -15,7 +15,7 @@
 namespace tovangl::program {
 
 /// Keeps the largest entries, and counts the others. The result does not depend on the order of
-/// adding. An entry has a size in bytes and a name, by which entries of one size are told apart.
+/// adding. An entry has a size in bytes and a name, which orders entries of equal size.
 template <typename Entry>
 class CLargest
 {
@@ -40,16 +40,16 @@ public:
         std::push_heap(m_entries.begin(), m_entries.end(), isBefore);
     }
 
-    /// Whether an entry of this size would be kept, if no other came.
+    /// Whether an entry of this size would be kept at this point.
     [[nodiscard]] bool takes(long bytes) const
     {
         return m_entries.size() < m_limit || bytes >= m_entries.front().bytes;
     }
 
-    /// In no order.
+    /// In no particular order.
     [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
 
-    /// The largest first, entries of one size by name.
+    /// The largest first, entries of equal size by name.
     [[nodiscard]] std::vector<Entry> sorted() const
     {
         std::vector<Entry> result = m_entries;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Bytes by the month in which they were changed last.
+// Bytes by the month of their last change.
 #include "tovangl-du/CMonthTable.h"
 
 #include "tovangl-du/byte_text.h"
@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int64_t kSecondsPerDay = 86400;
 constexpr std::int64_t kMonthsPerYear = 12;
-constexpr std::int64_t kTenDigits = 10; // months below this are written with a 0 before them
+constexpr std::int64_t kTenDigits = 10; // months below this get a leading 0
 
 std::int64_t floorDivide(std::int64_t a, std::int64_t b)
 {
@@ -21,8 +21,8 @@ std::int64_t floorDivide(std::int64_t a, std::int64_t b)
 
 } // namespace
 
-// Counts the days from the start of a March: leap days are then the last of their year, and the
-// lengths of the months before follow one rule (153 days in five months).
+// Counts days in years that start in March: leap days then come last in their year, and the lengths
+// of the months before them follow one rule (153 days in five months).
 MonthNumber monthOf(std::int64_t seconds)
 {
     constexpr std::int64_t kDaysToMarchOfYear0 = 719468; // before 1970

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Bytes by the month in which they were changed last.
+/// Bytes by the month of their last change.
 #ifndef TOVANGL_DU_CMONTHTABLE_H
 #define TOVANGL_DU_CMONTHTABLE_H
 
@@ -11,8 +11,7 @@
 
 namespace tovangl::program {
 
-/// Months are numbered through all years: year * 12 + month, the month from 0 to 11, by universal
-/// time.
+/// Months are numbered across years: year * 12 + month, with months from 0 to 11, in UTC.
 using MonthNumber = std::int64_t;
 
 /// @param seconds  since the start of 1970; any number
@@ -21,7 +20,7 @@ using MonthNumber = std::int64_t;
 /// 2024-05
 [[nodiscard]] std::string monthName(MonthNumber month);
 
-/// The bytes of each of the last ten years' months, and of what lies before and after them.
+/// The bytes of each month of the last ten years, and of all time before and after them.
 class CMonthTable
 {
 public:
@@ -39,8 +38,8 @@ public:
     /// Adds another table, of the same current month.
     void add(const CMonthTable& other);
 
-    /// The months in their order, from the first with bytes to the last, with "earlier" before and
-    /// "later" behind them where there are such bytes.
+    /// The months in order, from the first with bytes to the last, with "earlier" before and
+    /// "later" after them if there are such bytes.
     [[nodiscard]] std::vector<Row> rows() const;
 
 private:

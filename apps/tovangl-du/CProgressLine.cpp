@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A line on a terminal that tells how far a program has come.
+// A line on a terminal that shows a program's progress.
 #include "tovangl-du/CProgressLine.h"
 
 #include "common/text_checks.h"
@@ -24,8 +24,8 @@ std::size_t columns()
     return size.ws_col;
 }
 
-// Cut by bytes, which are never fewer than the columns; a character cut in two is no character, and
-// shows as a question mark.
+// Cuts by bytes, which are never fewer than the columns; a character cut in two shows as a question
+// mark.
 std::string fitted(const std::string& text)
 {
     return makePrintable(text.substr(0, columns() - 1));

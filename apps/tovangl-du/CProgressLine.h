@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// A line on a terminal that tells how far a program has come.
+/// A line on a terminal that shows a program's progress.
 #ifndef TOVANGL_DU_CPROGRESSLINE_H
 #define TOVANGL_DU_CPROGRESSLINE_H
 
@@ -10,8 +10,8 @@
 
 namespace tovangl::program {
 
-/// Rewrites one line on standard error, ten times a second at most; nothing where that is no
-/// terminal. The line is gone with this object.
+/// Rewrites one line on standard error, at most ten times a second; does nothing if that is not a
+/// terminal. The destructor clears the line.
 class CProgressLine
 {
 public:
@@ -21,7 +21,7 @@ public:
     CProgressLine(const CProgressLine&) = delete;
     CProgressLine& operator=(const CProgressLine&) = delete;
 
-    /// @param text  makes the line, where it is time for one; any bytes
+    /// @param text  makes the line when an update is due; any bytes
     void show(const std::function<std::string()>& text);
 
 private:

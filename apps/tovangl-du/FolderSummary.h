@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// What the report tells of one folder.
+/// What the report shows about one folder.
 #ifndef TOVANGL_DU_FOLDERSUMMARY_H
 #define TOVANGL_DU_FOLDERSUMMARY_H
 
@@ -12,14 +12,14 @@
 
 namespace tovangl::program {
 
-/// Tells folders apart; 0 is no folder.
+/// Identifies a folder; 0 means none.
 using FolderId = std::uint64_t;
 
 /// Something that lies directly in a folder.
 struct ListedChild
 {
     std::string name; ///< any bytes
-    long bytes;       ///< of a folder: with all that lies below it
+    long bytes;       ///< for a folder, including everything below it
     FolderId folder;  ///< 0 for a file
 };
 
@@ -34,7 +34,7 @@ struct ListedFile
 inline constexpr std::size_t kListedChildren = 100;
 inline constexpr std::size_t kListedFiles = 20;
 
-/// Sums over everything below the folder, in memory that does not grow with what lies there.
+/// Sums over everything below the folder, in memory that does not grow with its content.
 struct FolderSummary
 {
     FolderSummary(FolderId folder, std::string pathFromRoot, int levels, MonthNumber currentMonth)

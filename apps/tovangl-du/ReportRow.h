@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// One line of a table, and what stands for it in the picture beside.
+/// One row of a table, and its item in the picture beside it.
 #ifndef TOVANGL_DU_REPORTROW_H
 #define TOVANGL_DU_REPORTROW_H
 

@@ -17,19 +17,19 @@ namespace tovangl::program {
 
 namespace {
 
-constexpr const char* kDescription = "Writes pages that show where the space of a folder goes.";
+constexpr const char* kDescription = "Writes pages that show what takes up the space in a folder.";
 
 constexpr const char* kTeaching =
-    R"(Every folder's page has a pie of what lies in it, its largest files, and its bytes by
-month of last change. Slices, bars and captions lead to the folder's page or to the row
-that tells more.
+    R"(Every folder's page has a pie of its contents, its largest files, and its bytes by
+month of last change. Slices, bars and captions link to the folder's page or to its row
+in the table.
 
 Examples:
   tovangl-du                          this folder, into ./tovangl-report
   tovangl-du /usr/share -o report     then open report/index.html
   tovangl-du / -x --depth 3           one file system, three levels of pages
 
-Links are not followed. What cannot be read is told and left out.)";
+Symbolic links are not followed. What cannot be read is listed and left out.)";
 
 constexpr int kMostLevels = 1000000;
 constexpr std::size_t kMostPages = 100000;
@@ -43,25 +43,26 @@ struct DiskUsageOptions
 void addOptions(CLI::App& program, DiskUsageOptions& options)
 {
     options.walk.root = ".";
-    program.add_option("FOLDER", options.walk.root, "What to look at; without it, this folder")
+    program
+        .add_option("FOLDER", options.walk.root, "The folder to scan; without it, the current one")
         ->type_name("");
     program
         .add_option("-o,--output", options.output,
-                    "Write the pages into this folder [tovangl-report]; a report that stands "
-                    "there is replaced")
+                    "Write the pages into this folder [tovangl-report]; an existing report is "
+                    "replaced")
         ->type_name("FOLDER");
     program
         .add_option("--pages", options.walk.limits.pages,
-                    "Write so many pages at most, of the largest folders [300]")
+                    "Write pages for the N largest folders at most [300]")
         ->type_name("N")
         ->check(CLI::Range(std::size_t{1}, kMostPages));
     program
         .add_option("--depth", options.walk.limits.depth,
-                    "Write pages of folders so many levels down at most")
+                    "Write pages for folders down to N levels")
         ->type_name("N")
         ->check(CLI::Range(0, kMostLevels));
     program.add_flag("-x,--one-file-system", options.walk.isOneFileSystem,
-                     "Leave out folders that lie on other file systems");
+                     "Leave out folders on other file systems");
 }
 
 std::string walkText(const WalkProgress& progress)

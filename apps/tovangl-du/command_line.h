@@ -8,7 +8,7 @@ namespace tovangl::program {
 
 /// Reads the arguments and writes the report that they ask for. Throws CFailure.
 ///
-/// @param version  told by --version
+/// @param version  printed by --version
 void runDiskUsage(int count, const char* const* arguments, const char* version);
 
 } // namespace tovangl::program

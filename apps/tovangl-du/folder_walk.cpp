@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A folder that is being read: where the walk stands in it, and what it has found so far.
+// A folder that is being read: the walk's position in it, and what it has found so far.
 struct COpenFolder
 {
     fs::path path;
@@ -26,8 +26,8 @@ struct COpenFolder
     std::unique_ptr<FolderSummary> summary;
 };
 
-// Every folder on the way down stays open. A path has some two thousand parts at most, which many
-// systems allow only to those who ask.
+// Every folder on the way down stays open. A path has up to about two thousand parts, and on many
+// systems a process must raise its limit to open that many files.
 void allowManyOpenFiles()
 {
     rlimit limit{};
@@ -43,7 +43,7 @@ std::optional<dev_t> fileSystemOf(const fs::path& path)
     return ::stat(path.c_str(), &status) == 0 ? std::optional(status.st_dev) : std::nullopt;
 }
 
-// The clock of files has an epoch of its own, a whole number of seconds away from the system's.
+// The file clock has its own epoch, a whole number of seconds away from the system clock's.
 std::int64_t secondsSince1970(fs::file_time_type time)
 {
     using std::chrono::seconds;

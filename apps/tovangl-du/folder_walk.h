@@ -27,10 +27,10 @@ struct UnreadablePlace
     std::string reason;
 };
 
-/// How many such places are told one by one.
+/// How many such places are listed by name.
 inline constexpr std::size_t kToldUnreadable = 20;
 
-/// How far a walk has come.
+/// The progress of a walk.
 struct WalkProgress
 {
     std::uint64_t files = 0;
@@ -46,10 +46,10 @@ struct WalkResult
     std::vector<UnreadablePlace> unreadable; ///< the first of them
 };
 
-/// Links are not followed, except the root itself. What is no file and no folder counts nothing. A
-/// file with several names counts under each. Memory does not grow with the number of files and
-/// folders, and the walk goes as deep as paths can be long. Throws CFailure where the root cannot
-/// be read.
+/// Symbolic links are not followed, except the root itself. Anything but files and folders is
+/// ignored. A file with several hard links counts under each name. Memory does not grow with the
+/// number of files and folders, and the walk goes as deep as the length of paths allows. Throws
+/// CFailure if the root cannot be read.
 ///
 /// @param report  called before each entry
 [[nodiscard]] WalkResult walkFolder(const WalkOptions& options,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// tovangl-du: shows in pages where the space of a disk goes.
+// tovangl-du: writes pages that show what takes up the space in a folder.
 #include "common/program_frame.h"
 #include "tovangl-du/command_line.h"
 #include <tovangl/Version.h>

@@ -17,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kFirstNumber = 1;
-constexpr std::size_t kHeadBytes = 400; // of a page; they hold the name of its writer
+constexpr std::size_t kHeadBytes = 400; // of a page; they include the name of the generator
 
 struct Page
 {
@@ -26,7 +26,8 @@ struct Page
     std::string name;   // any bytes
 };
 
-/// The pages in the order of their numbers: what is nearer to the root, and larger, comes first.
+/// The pages in the order of their numbers: folders nearer to the root come first, larger ones
+/// before smaller ones.
 class CPageList
 {
 public:

@@ -12,16 +12,15 @@
 
 namespace tovangl::program {
 
-/// The page to begin with.
+/// The first page of the report.
 inline constexpr const char* kFirstPage = "index.html";
 
-/// Whether a folder holds nothing but what this program writes, so that a new report may take its
-/// place.
+/// Whether a folder holds only what this program writes, so that a new report may replace it.
 [[nodiscard]] bool isReport(const std::filesystem::path& folder);
 
 /// Writes a page for each folder that was kept and can be reached from the first one by links.
 ///
-/// @param rootName  how the root of the walk is called
+/// @param rootName  the name of the root of the walk
 /// @param now       seconds since the start of 1970
 /// @param report    called before each page with its number
 /// @return the number of pages

@@ -58,7 +58,7 @@ std::string table(const ReportRows& rows, long total, const char* heading)
     return "<table>\n" + tableHead(heading) + tableBody(rows, 0, rows.size(), total) + "</table>\n";
 }
 
-// The first rows, which the picture's regions may lead to, and a fold with the others.
+// The first rows, which the picture's regions can link to, and a fold with the others.
 std::string foldedTable(const ReportRows& rows, long total, const char* heading)
 {
     if (rows.size() <= kUnfoldedRows + kLeastFolded)
@@ -69,7 +69,7 @@ std::string foldedTable(const ReportRows& rows, long total, const char* heading)
            "</table>\n</details>\n";
 }
 
-/// Puts the page together, and gathers its pictures.
+/// Builds the page, and collects its pictures.
 class CPage
 {
 public:
@@ -111,7 +111,7 @@ private:
                ".</p>\n</header>\n";
     }
 
-    // The folders on the way lead back; the last one is this page.
+    // The parent folders link back; the last one is this page.
     [[nodiscard]] std::string way() const
     {
         std::string html;
@@ -172,7 +172,7 @@ private:
     [[nodiscard]] std::string footer() const
     {
         return "<footer>Read on " + escapeHtml(m_contents.time) +
-               ". Sizes are those that the files claim; months are by universal time.</footer>\n";
+               ". Sizes are apparent sizes, holes included; months are in UTC.</footer>\n";
     }
 
     const PageContents& m_contents;

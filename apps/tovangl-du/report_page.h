@@ -13,10 +13,10 @@
 
 namespace tovangl::program {
 
-/// Who wrote a page, as its head says.
+/// The generator that the head of a page names.
 inline constexpr const char* kGenerator = "tovangl-du";
 inline constexpr const char* kStyleName = "style.css";
-/// What the style file holds.
+/// The content of the style file.
 [[nodiscard]] std::string reportStyle();
 
 /// A folder on the way to the page's own.
@@ -31,7 +31,7 @@ struct PageContents
     const FolderSummary& folder;
     std::vector<PathPart> path; ///< from the root of the walk to this folder, both included
     std::string pictureStem;    ///< the pictures' names start with it
-    const std::vector<UnreadablePlace>& unreadable; ///< told where the folder is the root
+    const std::vector<UnreadablePlace>& unreadable; ///< listed if the folder is the root
     std::string time;                               ///< of the walk
 };
 

@@ -36,7 +36,7 @@ RegionLink linkOf(const ReportRow& row, long total)
             row.name + ", " + size};
 }
 
-// The page is in English, so its pictures are.
+// The page is in English, and so are its pictures.
 void applyLook(Graph& chart)
 {
     chart.setFont(kFontFamily, kFontSize);
@@ -54,7 +54,7 @@ ReportPicture render(Graph& chart, int height, const char* name)
             kWidth, height, chart.describe(), CImageMap(name)};
 }
 
-// Captions come first: where one lies on a bar or a slice, it is what the reader points at.
+// Captions come first: where one overlaps a bar or a slice, the reader points at the caption.
 void addCaptions(ReportPicture& picture, Graph& chart, const ReportRows& rows, long total)
 {
     auto row = rows.begin();

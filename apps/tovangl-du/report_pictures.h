@@ -20,10 +20,10 @@ struct ReportPicture
     CImageMap map;
 };
 
-/// Each draws one item for each row, and makes the item's regions lead where the row leads. Throws
-/// CFailure where there is no picture.
+/// Each draws one item for each row, and links the item's regions to the row's target. Throws
+/// CFailure if there is no picture.
 ///
-/// @param total  what shares are taken of; above 0
+/// @param total  100 per cent of all shares; above 0
 /// @param name   of the image map
 [[nodiscard]] ReportPicture drawPie(const ReportRows& rows, long total, const char* name);
 [[nodiscard]] ReportPicture drawLyingBars(const ReportRows& rows, long total, const char* name);

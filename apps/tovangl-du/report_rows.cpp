@@ -15,7 +15,7 @@ namespace {
 constexpr Color kOtherColor = {176, 176, 176};
 constexpr Color kMonthColor = {78, 121, 167};
 
-// One for each slice of its own; neighbours are easy to tell apart.
+// One colour for each named slice; neighbours are easy to tell apart.
 constexpr std::array<Color, 11> kColors{{{78, 121, 167},
                                          {242, 142, 43},
                                          {89, 161, 79},
@@ -66,7 +66,7 @@ bool hasOwnSlice(std::size_t index, long bytes, long total)
            static_cast<double>(bytes) >= kLeastSlice * static_cast<double>(total);
 }
 
-// All that has no slice of its own.
+// Everything without its own slice.
 ReportRow otherSlice(const FolderSummary& folder, const ReportRows& slices, std::size_t count)
 {
     long bytes = folder.bytes;

@@ -12,18 +12,18 @@
 
 namespace tovangl::program {
 
-/// The page of a folder; empty where it has none.
+/// The page of a folder; empty if it has none.
 using PageOf = std::function<std::string(FolderId)>;
 
 struct ChildRows
 {
-    ReportRows table; ///< the largest first; last what is not listed one by one
+    ReportRows table; ///< the largest first; the last row sums up what is not listed
     ReportRows pie;   ///< the largest, and one for all others
     /// The colours of the children that the pie shows, by name.
     std::map<std::string, Color> colors;
 };
 
-/// What lies directly in the folder. Folders lead to their pages.
+/// What lies directly in the folder. Folders link to their pages.
 [[nodiscard]] ChildRows childRows(const FolderSummary& folder, const PageOf& pageOf);
 
 /// The largest files below the folder, each in the colour of the child that it lies in.

@@ -6,7 +6,7 @@
 
 namespace tovangl {
 
-/// The bits that the axis setters of the bar charts take, as a sum.
+/// The bits that the axis setters of the bar charts accept, as a sum.
 struct AxisProperty
 {
     /// One of the bits.

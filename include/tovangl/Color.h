@@ -7,7 +7,7 @@
 namespace tovangl {
 
 /// An opaque colour. Each channel ranges from 0 to 255; a colour with a channel outside that range
-/// counts as not set, and the chart uses its default in its place.
+/// counts as not set, and the chart uses its default instead.
 struct Color
 {
     int red;   ///< 0 to 255

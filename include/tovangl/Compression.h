@@ -15,10 +15,10 @@ enum class Compression
     Fast      ///< larger files, by a fifth to twice the size, in about half the time
 };
 
-/// What Compression::Fast compresses large pictures with in this build of the library: "ISA-L", or
-/// "libdeflate" where it was built without ISA-L.
+/// The name of the compressor that Compression::Fast uses for large pictures in this build of the
+/// library: "ISA-L", or "libdeflate" if it was built without ISA-L.
 ///
-/// @return a string that is always there; never null
+/// @return a string that lives as long as the process; never null
 TOVANGL_EXPORT const char* fastCompressor() noexcept;
 
 } // namespace tovangl

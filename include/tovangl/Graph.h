@@ -19,8 +19,8 @@ class CGraph1dBase;
 /// The base of the charts: settings, export as PNG, and the caption rectangles.
 ///
 /// Use VerticalBarGraph, HorizontalBarGraph or PieGraph; a plain Graph holds no chart, and its
-/// operations do nothing. A chart is used by one thread at a time; different charts may be used by
-/// different threads at once. Strings are UTF-8; broken sequences become replacement characters.
+/// operations do nothing. Only one thread at a time can use a chart; different threads can use
+/// different charts at once. Strings are UTF-8; invalid sequences become replacement characters.
 ///
 /// Only std::bad_alloc can leave a call. The chart can be used again afterwards.
 class TOVANGL_EXPORT Graph
@@ -40,8 +40,8 @@ public:
 
     /// Leaves out items whose share of the total is smaller than this.
     ///
-    /// The total is the sum of all magnitudes. Nothing is drawn for an item left out, and its value
-    /// is not gathered anywhere.
+    /// The total is the sum of all magnitudes. Nothing is drawn for an item left out, and the chart
+    /// has no bar or slice for the rest.
     ///
     /// @param percent  per cent of the total; a negative value acts as 0, NaN leaves out every item
     void setThreshold(double percent);
@@ -51,8 +51,8 @@ public:
 
     /// Sets the font of all texts. The default is "Tahoma" at 11 pixels.
     ///
-    /// @param family     family name; a family that is not installed is replaced by the system's
-    ///                   best match; only its first 256 characters are used
+    /// @param family     family name, of which the first 256 characters are used; the system's best
+    ///                   match replaces a family that is not installed
     /// @param pixelSize  size in pixels before the print factor; below 1 the system's default size
     ///                   is used, above 30,000 it is 30,000
     void setFont(const std::string& family, int pixelSize);
@@ -62,13 +62,14 @@ public:
     /// The default is the process's locale (LC_ALL, LC_NUMERIC, LANG in the environment).
     ///
     /// @param language  its first two characters count, e.g. "de"
-    /// @param country   its first two characters count, e.g. "at"; a pair that the system does not
-    ///                  know gives the "C" locale
+    /// @param country   its first two characters count, e.g. "at"; an unknown pair gives the "C"
+    ///                  locale
     void setLocale(const std::string& language, const std::string& country);
 
     /// Chooses between small files and a short time. The default is Compression::Balanced.
     ///
-    /// The pixels are the same, and so is the file of the same picture under the same setting.
+    /// The pixels are the same either way. The same picture with the same setting gives the same
+    /// file.
     void setCompression(Compression compression);
 
     /// Where the captions were drawn: one rectangle for each item, in the order of adding.
@@ -81,12 +82,12 @@ public:
 
     /// Describes the last rendering in one English sentence, for a picture's alternative text.
     ///
-    /// It tells the kind of chart, how many of its items were drawn, and the greatest and the least
-    /// of these with captions: Pie chart, 2 of 3 items drawn: the greatest is “Rent” with 1,200,
-    /// the least is “Food” with 430. Drawn are the items that the threshold left in, if the picture
-    /// had room for the chart. Numbers are written as the locale has it. The sentence is one line:
-    /// white space and control characters of a caption become spaces, and of a caption longer than
-    /// 256 characters the first 256 are used.
+    /// It names the kind of chart, the number of items drawn, and the greatest and the least of
+    /// these with their captions: Pie chart, 2 of 3 items drawn: the greatest is “Rent” with 1,200,
+    /// the least is “Food” with 430. The items drawn are those that the threshold left in, or none
+    /// if the picture had no room for the chart. Numbers follow the chart's locale. The sentence is
+    /// one line: white space and control characters in captions become spaces, and only the first
+    /// 256 characters of a caption are used.
     ///
     /// @return UTF-8; empty where there is no chart
     std::string describe() const;
@@ -96,7 +97,7 @@ public:
     /// is no chart.
     Problem problem() const;
 
-    /// The same in one English sentence, such as: The picture has no room for the chart.
+    /// The problem in one English sentence, such as: The picture has no room for the chart.
     ///
     /// @return empty where nothing was wrong
     std::string problemText() const;

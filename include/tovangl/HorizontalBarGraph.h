@@ -38,20 +38,20 @@ public:
     ///
     /// @param x  distance of the vertical axis line from the picture's left edge, in pixels before
     ///           the print factor
-    /// @param y  distance of the horizontal axis line from the top edge, likewise. A negative or
-    ///           too large x or y leaves that line where the layout puts it
+    /// @param y  distance of the horizontal axis line from the top edge, likewise. If x or y is
+    ///           negative or too large, the layout places that line
     void setPosition(int x, int y);
 
     /// Sets the width of every bar.
     ///
-    /// @param width  pixels before the print factor; 0, the default, or less lets the bars share
+    /// @param width  pixels before the print factor; 0 (the default) or less lets the bars share
     ///               the axis
     void setBarWidth(int width);
 
     /// The width last set; 0 where bars share the axis.
     int barWidth() const;
 
-    /// Sets what the category axis, at the left, shows, and its title. The value axis cannot be
+    /// Sets what the category axis at the left shows, and its title. The value axis cannot be
     /// changed: the values stand beside the bars.
     ///
     /// @param properties  sum of AxisProperty bits; the default is ShowLine + ShowLabels +
@@ -72,10 +72,10 @@ public:
 
     /// Which bar belongs to which item: one rectangle for each item, in the order of adding.
     ///
-    /// The rectangles are those of the last rendering and of no earlier one. All four fields are 0
+    /// The rectangles always describe the last rendering. All four fields are 0
     /// where that rendering drew no bar: the item was below the threshold, its bar has no extent,
     /// it was added later, or the picture had no room for the chart or could not be made. A bar
-    /// whose width was set may reach beyond the picture.
+    /// whose width was set can reach beyond the picture.
     ///
     /// @return a list owned by this object and rewritten by the next call; never null
     std::list<Rectangle>* getItemBarRectangle();

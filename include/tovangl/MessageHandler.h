@@ -9,7 +9,7 @@
 namespace tovangl {
 
 /// Installs a Qt message handler that discards every Qt debug, warning and critical message of the
-/// process. The handler that was installed before is not kept. Nothing leaves the call.
+/// process. It does not remember the handler that was installed before. Nothing is thrown.
 TOVANGL_EXPORT void installEmptyMsgHandler();
 
 } // namespace tovangl

@@ -26,7 +26,7 @@ public:
     enum Property
     {
         BoldLabels = 0x08,          ///< labels in bold type
-        ShortenFromLeft = 0x40,     ///< long captions lose their beginning, not their end
+        ShortenFromLeft = 0x40,     ///< long captions are cut at the beginning, not at the end
         RemoveLabelOverlaps = 0x80, ///< colliding labels are moved apart, surplus ones hidden
         ShowSizes = 0x100,          ///< labels end in the value as a size in bytes: [1.5 KB]
         DefaultProperties = RemoveLabelOverlaps | ShowSizes
@@ -38,8 +38,8 @@ public:
 
     /// Adds a slice in the next of six default colours.
     ///
-    /// @param value  any number; only values above 0 are drawn, and the magnitudes of negative ones
-    ///               count toward the total that the threshold is taken from
+    /// @param value  any number; only values above 0 are drawn, but the magnitudes of negative ones
+    ///               count toward the total that the threshold refers to
     /// @param text   caption, UTF-8
     /// @return true
     bool addItem(long value, const std::string& text);
@@ -59,10 +59,10 @@ public:
 
     /// Where the slices were drawn: one record for each item, in the order of adding.
     ///
-    /// The records are those of the last rendering and of no earlier one. All fields are 0 where
-    /// that rendering drew no slice: the value was not above 0, its share is below the threshold or
-    /// rounds to no angle at all (under a sixteenth of a degree), the item was added later, or the
-    /// picture had no room for the chart or could not be made.
+    /// The records always describe the last rendering. All fields are 0 where
+    /// that rendering drew no slice: the value was not above 0, its share was below the threshold
+    /// or rounded to no angle at all (under a sixteenth of a degree), the item was added later, or
+    /// the picture had no room for the chart or could not be made.
     ///
     /// getPolygon() turns a record into an outline.
     ///

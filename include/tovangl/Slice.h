@@ -29,11 +29,11 @@ struct Slice
 /// The outline of a slice, for an image map.
 ///
 /// The polygon's edges stay within half a pixel of the arc as it is drawn, at any size of the
-/// picture. It starts at the centre, unless the slice is the whole pie, and goes on along the arc
-/// counter-clockwise. The last point is not the first one again.
+/// picture. It starts at the centre, unless the slice is the whole pie, and follows the arc
+/// counter-clockwise. The last point does not repeat the first.
 ///
-/// @param slice  a record of PieGraph::getSlice(), or one made by the host: any angles will do, and
-///               a negative span runs clockwise
+/// @param slice  a record of PieGraph::getSlice(), or one made by the host: any angles are allowed,
+///               and a negative span runs clockwise
 /// @return the corners; none where width or height is not above 0, the span is 0, an edge of the
 ///         pie lies beyond a billion pixels, or a field is not a finite number
 TOVANGL_EXPORT std::vector<Point> getPolygon(const Slice& slice);

@@ -17,7 +17,7 @@ namespace tovangl {
 /// The version of the library that the process has loaded, such as "1.0.0". It may be later than
 /// TOVANGL_VERSION_STRING, which the host was compiled with.
 ///
-/// @return a string that is never freed; nothing leaves the call
+/// @return a string that lives as long as the process
 TOVANGL_EXPORT const char* version() noexcept;
 
 } // namespace tovangl
