@@ -93,6 +93,12 @@ TEST(NumberText, GroupsTheDigitsWhereALocaleWantsTwoBeforeTheFirstSeparator)
     EXPECT_EQ(written(1048575, PrefixedOneDecimal, kKilo1024, "es_ES"), "1.024,0 K");
 }
 
+TEST(NumberText, RoundsOneAndAHalfKiloToTwoOnBothSidesOfZero)
+{
+    EXPECT_EQ(written(1536, PrefixedWhole, kKilo1024), "2 K");
+    EXPECT_EQ(written(-1536, PrefixedWhole, kKilo1024), "-2 K");
+}
+
 TEST(NumberText, GroupsByTwoWhereALocaleDoes)
 {
     EXPECT_EQ(written(1234567, PlainNumber, kKilo1024, "en_IN"), "12,34,567");
