@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How fast texts and the gradient shapes are painted.
+#include "layout/CPieLayout.h"
 #include "layout/CPlacedText.h"
 #include "paint/gradient_shapes.h"
 #include "paint/text_painting.h"
@@ -32,7 +33,7 @@ void drawDefaultBackground(benchmark::State& state)
     QImage image(800, 400, QImage::Format_ARGB32);
     for (auto _ : state) {
         QPainter painter(&image);
-        cdraw::drawDefaultGradientBackground(painter);
+        cdraw::drawGradientBackground(painter, CPieBackground(), 1);
     }
 }
 BENCHMARK(drawDefaultBackground);

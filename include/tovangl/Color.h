@@ -13,6 +13,9 @@ struct Color
     int red;   ///< 0 to 255
     int green; ///< 0 to 255
     int blue;  ///< 0 to 255
+
+    /// The colour that is not set.
+    static constexpr Color notSet() { return Color{-1, -1, -1}; }
 };
 
 } // namespace tovangl

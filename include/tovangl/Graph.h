@@ -4,13 +4,16 @@
 #ifndef TOVANGL_GRAPH_H
 #define TOVANGL_GRAPH_H
 
+#include <tovangl/Color.h>
 #include <tovangl/Compression.h>
 #include <tovangl/Export.h>
 #include <tovangl/Problem.h>
 #include <tovangl/Rectangle.h>
+#include <tovangl/Theme.h>
 
 #include <list>
 #include <string>
+#include <vector>
 
 namespace tovangl {
 
@@ -72,6 +75,77 @@ public:
     /// file.
     void setCompression(Compression compression);
 
+    /// Sets a setting by its name, as the table of settings() has it.
+    ///
+    /// Where several are set, the order is that of the table: a theme replaces the colours that
+    /// were set before it.
+    ///
+    /// @param name   such as "font_size"
+    /// @param value  UTF-8, as the setting's type has it
+    /// @return empty, or why nothing was set: the value is not a whole number from 1 to 1000
+    std::string setByName(const std::string& name, const std::string& value);
+
+    /// Sets the palette and all colours at once, those of items with a colour of their own aside.
+    ///
+    /// It is the sum of settings that can be called one by one; what is set later replaces it.
+    void setTheme(Theme theme);
+
+    /// Sets the title: one line in bold type, centred above the chart, in the colour of the texts,
+    /// and shortened to the picture's width. The chart has the room that it leaves.
+    ///
+    /// @param text  UTF-8; empty, the default, for no title
+    void setTitle(const std::string& text);
+
+    /// Where the last rendering drew the title; all zero where it drew none.
+    Rectangle titleRectangle() const;
+
+    /// Gathers what the threshold leaves out into one more item, drawn after all others.
+    ///
+    /// Its value is the sum of theirs, of which a pie takes those above 0; where there is nothing
+    /// to gather, nothing is drawn for it. getRectangle() and its like then have one more record,
+    /// the last, for this item.
+    ///
+    /// @param caption  UTF-8; empty, the default, drops what the threshold leaves out
+    void setOthers(const std::string& caption);
+
+    /// Sets the colours of items that have none of their own: the first is that of the first item,
+    /// and after the last comes the first again. A colour that is not set leaves that item's
+    /// colour to the default. An empty list is the default palette, of six colours.
+    void setPalette(const std::vector<Color>& colors);
+
+    /// Sets what the picture is filled with before anything is drawn. Not set: white.
+    void setPictureColor(const Color& color);
+
+    /// Fills the picture with nothing: the PNG is transparent where nothing is drawn.
+    void setPictureTransparent();
+
+    /// Sets the colour of captions, numbers and the title, and of axis lines that have none of
+    /// their own. Not set: black.
+    void setTextColor(const Color& color);
+
+    /// Sets the colour of the background that the chart was constructed with, in place of its
+    /// gradient. Not set: the gradient.
+    void setPlotColor(const Color& color);
+
+    /// Sets the colour of the background's border. Not set: shades of grey.
+    void setBorderColor(const Color& color);
+
+    /// Sets the colour of the outlines of slices, and of bars that have none of their own. Not set:
+    /// slices have white ones, or dark grey ones in print; those of bars are darker than the bar.
+    void setOutlineColor(const Color& color);
+
+    /// Sets the size of a kilo for this chart: what a prefix such as K stands for, and the steps of
+    /// the value scale.
+    ///
+    /// @param size  1024 or 1000; any other number is the default: 1024
+    void setKilo(int size);
+
+    /// Draws this many pixels each way for each pixel of the size, with the look of the screen, for
+    /// displays of high density. Rectangles are in pixels of the picture. Print ignores it.
+    ///
+    /// @param scale  below 1 counts as 1, which is the default; above 1000 as 1000
+    void setScale(int scale);
+
     /// Where the captions were drawn: one rectangle for each item, in the order of adding.
     ///
     /// The rectangles are those of the last rendering: all zero for a hidden caption and for an
@@ -129,12 +203,7 @@ protected:
     CGraph1dBase* m_graph; ///< owned by the derived class; null in a plain Graph
 
 private:
-    template <typename Surface>
-    void paintDevice2Bytes(Surface& surface, unsigned char** data, int* size);
-
-    unsigned char* m_pixmapData;        // owned
     std::list<Rectangle>* m_rectangles; // owned
-    Compression m_compression;
 };
 
 } // namespace tovangl

@@ -62,6 +62,15 @@ public:
     /// Sets the colour of axes, labels and values. There is no way back to the default, black.
     void setColor(const Color& color);
 
+    /// Sets the colour of the axis lines. Not set: that of the texts.
+    void setAxisColor(const Color& color);
+
+    /// Sets the colour of the axis titles. Not set: black.
+    void setAxisTitleColor(const Color& color);
+
+    /// Sets the colour of the values beside the bars. Not set: that of the texts.
+    void setValueColor(const Color& color);
+
     /// Where the bars were drawn in the last rendering: one rectangle for each bar that the
     /// threshold did not leave out, in the order of adding. A bar of value 0 has width 0; all
     /// four fields are 0 where the scale has no room. Empty before the first rendering, and after

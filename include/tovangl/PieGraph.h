@@ -57,6 +57,12 @@ public:
     /// dark grey in print, texts are black, and lines take the colour of the outlines.
     void setColors(const Color& outline, const Color& text, const Color& line);
 
+    /// Sets the colour of the lines that lead to the captions. Not set: that of the outlines.
+    void setLineColor(const Color& color);
+
+    /// Sets the unit of the sizes, which stands after the number: "B" by default, as in [1.5 KB].
+    void setUnit(const std::string& unit);
+
     /// Where the slices were drawn: one record for each item, in the order of adding.
     ///
     /// The records always describe the last rendering. All fields are 0 where

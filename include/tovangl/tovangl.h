@@ -15,7 +15,9 @@
 #include <tovangl/Point.h>
 #include <tovangl/Problem.h>
 #include <tovangl/Rectangle.h>
+#include <tovangl/Setting.h>
 #include <tovangl/Slice.h>
+#include <tovangl/Theme.h>
 #include <tovangl/Version.h>
 #include <tovangl/VerticalBarGraph.h>
 

@@ -28,6 +28,7 @@ protected:
         : m_input(std::move(input))
     {}
 
+    [[nodiscard]] CSettingTarget settingTarget() final { return CSettingTarget(m_input); }
     std::optional<std::vector<QRect>> drawContents(CCanvas& canvas, const CRequest& request,
                                                    const std::vector<std::size_t>& drawn) final
     {

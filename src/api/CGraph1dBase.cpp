@@ -30,6 +30,14 @@ void CGraph1dBase::setThreshold(double percent)
     m_actingThreshold.reset();
 }
 
+std::string CGraph1dBase::setByName(std::string_view name, std::string_view value)
+{
+    std::string problem = applySetting(settingTarget(), name, value);
+    if (problem.empty() && name == "threshold")
+        m_actingThreshold.reset();
+    return problem;
+}
+
 double CGraph1dBase::threshold() const
 {
     return m_actingThreshold.value_or(input().settings.threshold);
@@ -37,14 +45,16 @@ double CGraph1dBase::threshold() const
 
 QImage CGraph1dBase::getImage(int width, int height)
 {
-    return draw({width, height, 1, OutputDevice::Screen, getGlobal()->kilo()});
+    const int scale = input().settings.scale;
+    return draw({scalePixels(width, scale), scalePixels(height, scale), scale, OutputDevice::Screen,
+                 kilo()});
 }
 
 QImage CGraph1dBase::getImageForPrinter(int width, int height, int factor)
 {
     const int scale = std::max(factor, 1);
     return draw({scalePixels(width, scale), scalePixels(height, scale), scale,
-                 OutputDevice::Printer, getGlobal()->kilo()});
+                 OutputDevice::Printer, kilo()});
 }
 
 std::vector<std::size_t> CGraph1dBase::drawnItems() const
@@ -68,6 +78,20 @@ void CGraph1dBase::forgetDrawing()
 {
     m_isDrawn = false;
     m_problem = Problem::NoMemory;
+}
+
+const CPngFile& CGraph1dBase::paintDevice2Bytes(QImage& image)
+{
+    const Problem ofDrawing = m_problem;
+    m_problem = Problem::NoMemory; // in case memory runs out from here on
+    m_file = encodePng(image, input().settings.compression);
+    m_problem = ofDrawing;
+    return m_file;
+}
+
+CKilo CGraph1dBase::kilo() const
+{
+    return input().settings.kilo.value_or(getGlobal()->kilo());
 }
 
 QImage CGraph1dBase::draw(const CRequest& request)

@@ -5,7 +5,9 @@
 #define TOVANGL_API_CGRAPH1DBASE_H
 
 #include "input/item_selection.h"
+#include "input/setting_rules.h"
 #include "layout/CRequest.h"
+#include "output/png_encoding.h"
 #include <tovangl/Problem.h>
 
 #include <QImage>
@@ -13,6 +15,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tovangl {
@@ -34,6 +37,8 @@ public:
     void setThreshold(double percent);
     /// The threshold that was set; after a rendering, as applied there.
     [[nodiscard]] double threshold() const;
+    /// Sets a setting by its name; returns what is wrong with that, or nothing.
+    [[nodiscard]] std::string setByName(std::string_view name, std::string_view value);
     [[nodiscard]] virtual CGraph1dInput& input() = 0;
     [[nodiscard]] virtual const CGraph1dInput& input() const = 0;
 
@@ -41,6 +46,10 @@ public:
     [[nodiscard]] QImage getImage(int width, int height);
     /// Draws at factor times the resolution (at least 1) in the colours for print.
     [[nodiscard]] QImage getImageForPrinter(int width, int height, int factor);
+    /// Saves a picture as PNG with the chart's compression, and packs its pixels for that. The
+    /// bytes live until the next call or freePixmap(); there are none where the picture is null.
+    const CPngFile& paintDevice2Bytes(QImage& image);
+    void freePixmap() { m_file = CPngFile(); }
     /// Whether the last rendering drew the chart: the picture could be made and had room for it.
     [[nodiscard]] bool isDrawn() const { return m_isDrawn; }
     /// What was wrong with the last rendering.
@@ -54,9 +63,13 @@ public:
     [[nodiscard]] std::vector<std::size_t> drawnItems() const;
     /// One caption rectangle for each item, in the order of adding; null if it was never drawn.
     [[nodiscard]] std::vector<QRect> itemRectangles() const;
+    /// Where the last rendering drew the title; null where it drew none.
+    [[nodiscard]] QRect titleRectangle() const { return m_titleRect; }
     [[nodiscard]] std::string describe() const;
 
 protected:
+    /// The input, for the table of settings.
+    [[nodiscard]] virtual CSettingTarget settingTarget() = 0;
     /// The beginning of the chart's description.
     [[nodiscard]] virtual const char* kindName() const = 0;
     [[nodiscard]] virtual CItemSelection selectItems() const = 0;
@@ -70,6 +83,7 @@ protected:
     virtual void forgetLayout() = 0;
 
 private:
+    [[nodiscard]] CKilo kilo() const;
     [[nodiscard]] QImage draw(const CRequest& request);
     void drawGraph(QPaintDevice& device, const CRequest& request);
     void recordCaptions(const std::vector<QRect>& captions);
@@ -79,6 +93,8 @@ private:
     std::vector<QRect> m_itemRects; // by item; shorter if items were added since
     std::vector<std::size_t> m_selectedItems;
     std::optional<double> m_actingThreshold; // none since the threshold was set
+    QRect m_titleRect;
+    CPngFile m_file; // of the last rendering
     bool m_isDrawn = false;
     Problem m_problem = Problem::None;
 };

@@ -5,10 +5,12 @@
 #include "api/conversions.h"
 #include "api/problem_text.h"
 #include "input/CGraph1dInput.h"
-#include "output/png_encoding.h"
+#include "input/themes.h"
 #include <tovangl/Graph.h>
 
 #include <QImage>
+
+#include <utility>
 
 namespace tovangl {
 
@@ -23,18 +25,22 @@ bool canRender(CGraph1dBase& graph, const CRendering& rendering)
     return false;
 }
 
+void handOver(QImage image, CGraph1dBase& graph, unsigned char** data, int* size)
+{
+    const CPngFile& file = graph.paintDevice2Bytes(image);
+    *data = file.data.get();
+    *size = static_cast<int>(file.size);
+}
+
 } // namespace
 
 Graph::Graph()
     : m_graph(nullptr)
-    , m_pixmapData(nullptr)
     , m_rectangles(new std::list<Rectangle>)
-    , m_compression(Compression::Balanced)
 {}
 
 Graph::~Graph()
 {
-    delete[] m_pixmapData;
     delete m_rectangles;
 }
 
@@ -46,8 +52,8 @@ void Graph::clear()
 
 void Graph::freePixmap()
 {
-    delete[] m_pixmapData;
-    m_pixmapData = nullptr;
+    if (m_graph)
+        m_graph->freePixmap();
 }
 
 void Graph::setThreshold(double percent)
@@ -75,7 +81,96 @@ void Graph::setLocale(const std::string& language, const std::string& country)
 
 void Graph::setCompression(Compression compression)
 {
-    m_compression = compression;
+    if (m_graph)
+        m_graph->input().settings.compression = compression;
+}
+
+std::string Graph::setByName(const std::string& name, const std::string& value)
+{
+    return m_graph ? m_graph->setByName(name, value) : "there is no chart";
+}
+
+void Graph::setTheme(Theme theme)
+{
+    if (m_graph)
+        static_cast<void>(m_graph->setByName("theme", themeName(theme)));
+}
+
+void Graph::setTitle(const std::string& text)
+{
+    if (m_graph)
+        m_graph->input().settings.title = toQString(text);
+}
+
+Rectangle Graph::titleRectangle() const
+{
+    return m_graph ? toRectangle(m_graph->titleRectangle()) : Rectangle();
+}
+
+void Graph::setOthers(const std::string& caption)
+{
+    if (m_graph)
+        m_graph->input().settings.othersCaption = toQString(caption);
+}
+
+void Graph::setPalette(const std::vector<Color>& colors)
+{
+    if (!m_graph)
+        return;
+    std::vector<QColor> palette;
+    palette.reserve(colors.size());
+    for (const Color& color : colors)
+        palette.push_back(toQColor(color));
+    m_graph->input().settings.colors.palette = std::move(palette);
+}
+
+void Graph::setPictureColor(const Color& color)
+{
+    const QColor picture = toQColor(color);
+    if (m_graph)
+        m_graph->input().settings.colors.picture = picture.isValid() ? picture : QColor(Qt::white);
+}
+
+void Graph::setPictureTransparent()
+{
+    if (m_graph)
+        m_graph->input().settings.colors.picture = Qt::transparent;
+}
+
+void Graph::setTextColor(const Color& color)
+{
+    if (m_graph)
+        m_graph->input().settings.colors.text = toQColor(color);
+}
+
+void Graph::setPlotColor(const Color& color)
+{
+    if (m_graph)
+        m_graph->input().settings.colors.plot = toQColor(color);
+}
+
+void Graph::setBorderColor(const Color& color)
+{
+    if (m_graph)
+        m_graph->input().settings.colors.border = toQColor(color);
+}
+
+void Graph::setOutlineColor(const Color& color)
+{
+    if (m_graph)
+        m_graph->input().settings.colors.outline = toQColor(color);
+}
+
+void Graph::setKilo(int size)
+{
+    if (m_graph)
+        m_graph->input().settings.setKilo(size);
+}
+
+void Graph::setScale(int scale)
+{
+    if (m_graph)
+        m_graph->input().settings.setScale(scale);
 }
 
 std::list<Rectangle>* Graph::getRectangle()
@@ -105,8 +200,8 @@ void Graph::createPixmap(int width, int height, unsigned char** data, int* size)
         return;
     m_graph->forgetDrawing();
     const CRendering rendering;
-    QImage image = canRender(*m_graph, rendering) ? m_graph->getImage(width, height) : QImage();
-    paintDevice2Bytes(image, data, size);
+    handOver(canRender(*m_graph, rendering) ? m_graph->getImage(width, height) : QImage(), *m_graph,
+             data, size);
 }
 
 void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned char** data,
@@ -116,23 +211,9 @@ void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned c
         return;
     m_graph->forgetDrawing();
     const CRendering rendering;
-    QImage image = canRender(*m_graph, rendering)
-                       ? m_graph->getImageForPrinter(width, height, factor)
-                       : QImage();
-    paintDevice2Bytes(image, data, size);
-}
-
-template <typename Surface>
-void Graph::paintDevice2Bytes(Surface& surface, unsigned char** data, int* size)
-{
-    const Problem ofDrawing = m_graph->problem();
-    m_graph->setProblem(Problem::NoMemory); // in case memory runs out from here on
-    CPngFile file = encodePng(surface, m_compression);
-    delete[] m_pixmapData;
-    m_pixmapData = file.data.release();
-    *data = m_pixmapData;
-    *size = static_cast<int>(file.size);
-    m_graph->setProblem(ofDrawing);
+    handOver(canRender(*m_graph, rendering) ? m_graph->getImageForPrinter(width, height, factor)
+                                            : QImage(),
+             *m_graph, data, size);
 }
 
 } // namespace tovangl

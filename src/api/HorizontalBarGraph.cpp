@@ -43,12 +43,12 @@ bool HorizontalBarGraph::addItem(long value, const std::string& text, const Colo
 
 void HorizontalBarGraph::setPosition(int x, int y)
 {
-    tovangl::setPosition(getGraph()->input(), x, y);
+    getGraph()->input().setPosition(x, y);
 }
 
 void HorizontalBarGraph::setBarWidth(int width)
 {
-    tovangl::setBarWidth(getGraph()->input(), width);
+    getGraph()->input().setBarWidth(width);
 }
 
 int HorizontalBarGraph::barWidth() const
@@ -63,7 +63,22 @@ void HorizontalBarGraph::setVerticalAxis(int properties, const std::string& titl
 
 void HorizontalBarGraph::setColor(const Color& color)
 {
-    getGraph()->input().textColor = toQColor(color);
+    setTextColor(color);
+}
+
+void HorizontalBarGraph::setAxisColor(const Color& color)
+{
+    getGraph()->input().settings.colors.axis = toQColor(color);
+}
+
+void HorizontalBarGraph::setAxisTitleColor(const Color& color)
+{
+    getGraph()->input().settings.colors.axisTitle = toQColor(color);
+}
+
+void HorizontalBarGraph::setValueColor(const Color& color)
+{
+    getGraph()->input().settings.colors.value = toQColor(color);
 }
 
 std::list<Rectangle>* HorizontalBarGraph::getBarRectangle()

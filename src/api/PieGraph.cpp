@@ -50,10 +50,19 @@ void PieGraph::setProperty(int options)
 
 void PieGraph::setColors(const Color& outline, const Color& text, const Color& line)
 {
-    CPieInput& input = getGraph()->input();
-    input.outlineColor = toQColor(outline);
-    input.textColor = toQColor(text);
-    input.labelLineColor = toQColor(line);
+    setOutlineColor(outline);
+    setTextColor(text);
+    setLineColor(line);
+}
+
+void PieGraph::setLineColor(const Color& color)
+{
+    getGraph()->input().settings.colors.labelLine = toQColor(color);
+}
+
+void PieGraph::setUnit(const std::string& unit)
+{
+    getGraph()->input().unit = toQString(unit);
 }
 
 std::list<Slice>* PieGraph::getSlice()

@@ -43,12 +43,12 @@ bool VerticalBarGraph::addItem(long value, const std::string& text, const Color&
 
 void VerticalBarGraph::setPosition(int x, int y)
 {
-    tovangl::setPosition(getGraph()->input(), x, y);
+    getGraph()->input().setPosition(x, y);
 }
 
 void VerticalBarGraph::setBarWidth(int width)
 {
-    tovangl::setBarWidth(getGraph()->input(), width);
+    getGraph()->input().setBarWidth(width);
 }
 
 int VerticalBarGraph::barWidth() const
@@ -68,7 +68,22 @@ void VerticalBarGraph::setVerticalAxis(int properties, const std::string& title)
 
 void VerticalBarGraph::setColor(const Color& color)
 {
-    getGraph()->input().textColor = toQColor(color);
+    setTextColor(color);
+}
+
+void VerticalBarGraph::setAxisColor(const Color& color)
+{
+    getGraph()->input().settings.colors.axis = toQColor(color);
+}
+
+void VerticalBarGraph::setAxisTitleColor(const Color& color)
+{
+    getGraph()->input().settings.colors.axisTitle = toQColor(color);
+}
+
+void VerticalBarGraph::setGridColor(const Color& color)
+{
+    getGraph()->input().settings.colors.grid = toQColor(color);
 }
 
 std::list<Rectangle>* VerticalBarGraph::getBarRectangle()

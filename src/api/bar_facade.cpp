@@ -5,8 +5,6 @@
 #include "api/conversions.h"
 #include <tovangl/AxisProperty.h>
 
-#include <algorithm>
-
 namespace tovangl {
 
 static_assert(int{AxisProperty::ShowLine} == int{CAxisSettings::ShowLine});
@@ -21,16 +19,6 @@ static_assert(int{AxisProperty::ShiftLastLabel} == int{CAxisSettings::ShiftLastL
 CAxisSettings toAxisSettings(int properties, const std::string& title)
 {
     return {CAxisSettings::Properties(QFlag(properties)), toQString(title)};
-}
-
-void setPosition(CBarInput& input, int x, int y)
-{
-    input.position = QPoint(std::max(x, kFreePosition), std::max(y, kFreePosition));
-}
-
-void setBarWidth(CBarInput& input, int width)
-{
-    input.barWidth = std::max(width, 0);
 }
 
 } // namespace tovangl

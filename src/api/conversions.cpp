@@ -4,9 +4,6 @@
 
 #include "base/pixel_arithmetic.h"
 
-#include <limits>
-#include <new>
-
 namespace tovangl {
 
 namespace {
@@ -19,13 +16,6 @@ bool isChannel(int value)
 }
 
 } // namespace
-
-QString toQString(const std::string& text)
-{
-    if (text.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
-        throw std::bad_alloc();
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 QColor toQColor(const Color& color)
 {

@@ -4,21 +4,17 @@
 #ifndef TOVANGL_API_CONVERSIONS_H
 #define TOVANGL_API_CONVERSIONS_H
 
+#include "base/host_text.h"
 #include <tovangl/Color.h>
 #include <tovangl/Rectangle.h>
 
 #include <QColor>
 #include <QRect>
-#include <QString>
 
 #include <list>
-#include <string>
 #include <vector>
 
 namespace tovangl {
-
-/// Decodes the whole length of a UTF-8 string: a NUL inside is a character.
-[[nodiscard]] QString toQString(const std::string& text);
 
 /// An opaque colour; invalid, which means not set, if a channel is outside 0 to 255.
 [[nodiscard]] QColor toQColor(const Color& color);

@@ -7,7 +7,6 @@
 #include "input/CAxisSettings.h"
 #include "input/CGraph1dInput.h"
 
-#include <QColor>
 #include <QPoint>
 
 namespace tovangl {
@@ -27,11 +26,15 @@ struct CBarInput : CGraph1dInput
     /// A chart of that kind without items, with the properties that its axes have at first.
     CBarInput(BarKind barKind, bool withBackground);
 
+    /// Fixes the axis lines, in pixels before scaling; a negative number leaves that line to the
+    /// layout.
+    void setPosition(int x, int y);
+    /// @param width  pixels before scaling; a negative one is kept as 0
+    void setBarWidth(int width);
+
     BarKind kind;
-    bool hasBackground; ///< a gradient behind the bars, and a border around them
     CAxisSettings horizontalAxis;
     CAxisSettings verticalAxis;
-    QColor textColor;                              ///< if invalid: black
     QPoint position{kFreePosition, kFreePosition}; ///< of the axis lines; pixels before scaling
     int barWidth = 0; ///< pixels before scaling; 0: the bars share the axis
 };

@@ -6,14 +6,36 @@
 
 namespace tovangl {
 
+namespace {
+
+// Factor of QColor::darker(): an outline has two thirds of the fill's brightness.
+constexpr int kOutlineDarkness = 150;
+
+} // namespace
+
 void CGraph1dInput::addItem(long long value, const QString& text, const QColor& color,
                             const QColor& outlineColor)
 {
-    // Deliberate: the position among all items decides. An item with its own colour also uses up a
-    // palette entry, so that recolouring one item leaves the others unchanged.
-    const QColor fill = color.isValid() ? color : defaultColor(items.size());
-    const QColor outline = outlineColor.isValid() ? outlineColor : fill.darker(kOutlineDarkness);
-    items.push_back({value, text, fill, outline});
+    items.push_back({value, text, color, outlineColor});
+}
+
+// Deliberate: the position among all items decides. An item with its own colour also uses up a
+// palette entry, so that recolouring one item leaves the others unchanged.
+QColor CGraph1dInput::fillColor(std::size_t item) const
+{
+    if (items[item].color.isValid())
+        return items[item].color;
+    const std::vector<QColor>& palette = settings.colors.palette;
+    const QColor ofPalette = palette.empty() ? QColor() : palette[item % palette.size()];
+    return ofPalette.isValid() ? ofPalette : defaultColor(item);
+}
+
+QColor CGraph1dInput::outlineColor(std::size_t item) const
+{
+    if (items[item].outlineColor.isValid())
+        return items[item].outlineColor;
+    const QColor& ofChart = settings.colors.outline;
+    return ofChart.isValid() ? ofChart : fillColor(item).darker(kOutlineDarkness);
 }
 
 } // namespace tovangl

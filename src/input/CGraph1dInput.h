@@ -7,6 +7,7 @@
 #include "input/CGraph1dItem.h"
 #include "input/CGraph1dSettings.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace tovangl {
@@ -14,10 +15,13 @@ namespace tovangl {
 /// Settings and items as the host gave them. No rendering changes them.
 struct CGraph1dInput
 {
-    /// Adds an item at the end. An invalid colour is replaced by the palette's, an invalid outline
-    /// colour by a darker fill colour.
+    /// Adds an item at the end. An invalid colour is not set.
     void addItem(long long value, const QString& text, const QColor& color,
                  const QColor& outlineColor);
+    /// The colour that an item is filled with: its own, or else the palette's.
+    [[nodiscard]] QColor fillColor(std::size_t item) const;
+    /// The colour of a bar's outline: its own, or else the chart's, or else a darker fill colour.
+    [[nodiscard]] QColor outlineColor(std::size_t item) const;
 
     CGraph1dSettings settings;
     std::vector<CGraph1dItem> items; ///< in the order of adding

@@ -9,10 +9,7 @@
 
 namespace tovangl {
 
-/// Factor of QColor::darker(): an outline has two thirds of the fill's brightness.
-inline constexpr int kOutlineDarkness = 150;
-
-/// A data item as the host gave it. Both colours are valid.
+/// A data item as the host gave it. A colour that is not valid is not set.
 struct CGraph1dItem
 {
     long long value = 0;

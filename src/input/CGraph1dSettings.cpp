@@ -2,6 +2,8 @@
 // The settings that every chart has.
 #include "input/CGraph1dSettings.h"
 
+#include <algorithm>
+
 namespace tovangl {
 
 namespace {
@@ -35,6 +37,20 @@ void CGraph1dSettings::setLocale(const QString& language, const QString& country
     const QString name = language.left(kLocalePartLength).toLower() + QLatin1Char('_') +
                          country.left(kLocalePartLength).toUpper();
     locale = groupingLocale(QLocale(name));
+}
+
+void CGraph1dSettings::setKilo(int size)
+{
+    kilo.reset();
+    if (size == kKilo1024.size)
+        kilo = kKilo1024;
+    else if (size == kKilo1000.size)
+        kilo = kKilo1000;
+}
+
+void CGraph1dSettings::setScale(int pixels)
+{
+    scale = std::clamp(pixels, 1, kGreatestScale);
 }
 
 } // namespace tovangl

@@ -6,8 +6,8 @@
 
 #include "input/CGraph1dInput.h"
 
-#include <QColor>
 #include <QFlags>
+#include <QString>
 
 namespace tovangl {
 
@@ -23,15 +23,10 @@ struct CPieInput : CGraph1dInput
     };
     Q_DECLARE_FLAGS(Options, Option)
 
-    explicit CPieInput(bool withBackground)
-        : hasBackground(withBackground)
-    {}
+    explicit CPieInput(bool withBackground) { settings.hasBackground = withBackground; }
 
-    bool hasBackground; ///< a gradient behind the pie, on screens only
     Options options = Options(RemoveLabelOverlaps) | ShowSizes;
-    QColor outlineColor;               ///< if invalid: one that suits the device
-    QColor textColor;                  ///< if invalid: black
-    QColor labelLineColor = Qt::black; ///< if invalid: that of the outlines
+    QString unit = QStringLiteral("B"); ///< of the sizes
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(CPieInput::Options)

@@ -215,7 +215,7 @@ void CAxis::drawLine(CAxisLayout& axis) const
         return;
     const QPoint from = axis.originOnPicture();
     const QPoint to = movedPoint(axis.shape.frame.resolveOrientedCoordSigned(axis.length, 0), from);
-    axis.line = CStraightLine{from, to, m_look.color, m_look.lineWidth};
+    axis.line = CStraightLine{from, to, m_look.lineColor, m_look.lineWidth};
 }
 
 void CAxis::drawLabels(CAxisLayout& axis, CTextMeasurer& measurer) const
@@ -238,7 +238,7 @@ void CAxis::drawLabels(CAxisLayout& axis, CTextMeasurer& measurer) const
         if (!room.isValid())
             continue;
         axis.texts.push_back({label.text.getAdjustedText(box.width(), measurer), toRoom(room),
-                              alignment, m_look.color, isBold, axis.isRotated(), start});
+                              alignment, m_look.labelColor, isBold, axis.isRotated(), start});
     }
 }
 
@@ -250,10 +250,8 @@ void CAxis::drawTitle(CAxisLayout& axis, CTextMeasurer& measurer) const
     const QRect room = movedRectangle(axis.shape.titleRect, pos);
     if (!room.isValid())
         return;
-    // Deliberate: the title is black whatever the colour of the line, so that it stands out from
-    // labels whose colour was set.
     axis.texts.push_back({axis.title.getAdjustedText(room.width(), measurer), toRoom(room),
-                          Qt::AlignHCenter | Qt::AlignVCenter, Qt::black,
+                          Qt::AlignHCenter | Qt::AlignVCenter, m_look.titleColor,
                           axis.shape.has(CAxisSettings::BoldTitle),
                           !axis.shape.frame.isHorizontal(), axis.originOnPicture()});
 }

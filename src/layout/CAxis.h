@@ -13,8 +13,10 @@ namespace tovangl {
 /// How an axis looks, apart from the settings of this one axis.
 struct CAxisLook
 {
-    int lineWidth = 1;        ///< pixels
-    QColor color = Qt::black; ///< of line and labels
+    int lineWidth = 1; ///< pixels
+    QColor lineColor = Qt::black;
+    QColor labelColor = Qt::black;
+    QColor titleColor = Qt::black;
 };
 
 /// An axis line with labels and a title on one side of it, measured but not yet placed.

@@ -5,6 +5,7 @@
 #define TOVANGL_LAYOUT_CBARLAYOUT_H
 
 #include "layout/CAxisLayout.h"
+#include "layout/CVerticalFade.h"
 #include "layout/value_scale.h"
 
 #include <QColor>
@@ -15,13 +16,6 @@
 #include <vector>
 
 namespace tovangl {
-
-/// Two colours, one fading into the other from top to bottom.
-struct CVerticalFade
-{
-    QColor top;
-    QColor bottom;
-};
 
 /// One bar, and where its value is written.
 struct CBar

@@ -5,6 +5,7 @@
 #define TOVANGL_LAYOUT_CPIELAYOUT_H
 
 #include "layout/CPlacedText.h"
+#include "layout/CVerticalFade.h"
 #include "layout/slice_angles.h"
 
 #include <QColor>
@@ -12,6 +13,7 @@
 #include <QRect>
 #include <QRectF>
 
+#include <optional>
 #include <vector>
 
 namespace tovangl {
@@ -39,6 +41,13 @@ struct CPlacedPieLabel
     QRect itemRect; ///< what the texts cover on the picture; null if nothing is drawn
 };
 
+/// The frame behind a pie, as large as the picture.
+struct CPieBackground
+{
+    CVerticalFade fill = {QColor(186, 209, 238), QColor(232, 242, 255)};
+    CVerticalFade border = {QColor(149, 167, 190), QColor(186, 194, 204)};
+};
+
 /// All that painting a pie needs, and all that can be queried about it afterwards.
 struct CPieLayout
 {
@@ -47,10 +56,10 @@ struct CPieLayout
     /// Whether the picture has room for the pie.
     [[nodiscard]] bool fits() const { return hasRoom; }
 
-    bool hasRoom = false;       ///< if not, nothing of the pie must be drawn
-    bool hasBackground = false; ///< the gradient is painted behind the pie
-    QPointF shift;              ///< by which everything on the background is moved
-    QRectF area;                ///< the square that holds the pie and the beams of its labels
+    bool hasRoom = false; ///< if not, nothing of the pie must be drawn
+    std::optional<CPieBackground> background;
+    QPointF shift; ///< by which everything on the background is moved
+    QRectF area;   ///< the square that holds the pie and the beams of its labels
     QRectF pieRect;
     QRectF drawnPieRect; ///< the pie's ellipse on the picture, with the shift
     QRectF labelRect;    ///< the rectangle that the labels share; at (0, 0)

@@ -34,13 +34,13 @@ QPointF directionOf(int arc)
 
 } // namespace
 
-QString getSizeText(long long value, const QLocale& locale, const CKilo& kilo)
+QString getSizeText(long long value, const QString& unit, const QLocale& locale, const CKilo& kilo)
 {
     QString number = numberText(value, PrefixedOneDecimal, locale, kilo);
     // A prefix brings its own space.
     if (number.at(number.size() - 1).isDigit())
         number += QLatin1Char(' ');
-    return QLatin1String(" [") + number + QLatin1String("B]");
+    return QLatin1String(" [") + number + unit + QLatin1Char(']');
 }
 
 CPieTextLabel::CPieTextLabel(const CPieSlice& slice, CTextLabel name, CTextLabel size,

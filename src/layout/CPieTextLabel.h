@@ -14,7 +14,10 @@ namespace tovangl {
 struct CKilo;
 
 /// The value as " [1.5 KB]", with a leading space.
-[[nodiscard]] QString getSizeText(long long value, const QLocale& locale, const CKilo& kilo);
+///
+/// @param unit  what stands after the prefix, such as "B"
+[[nodiscard]] QString getSizeText(long long value, const QString& unit, const QLocale& locale,
+                                  const CKilo& kilo);
 
 /// What the labels of a pie have in common.
 struct CPieLabelFrame

@@ -67,8 +67,8 @@ std::vector<CBar> setItemBars(const CBarLayout& layout, const CBarInput& input,
         bar.rect = barRect(layout, axis.labels[i].tickCoord, bar.valueCoord, firstCentre);
         // Deliberate: bars keep their colours in print too, so that they match the same colours
         // elsewhere in a report.
-        bar.color = item.color;
-        bar.outlineColor = item.outlineColor;
+        bar.color = input.fillColor(drawn[i]);
+        bar.outlineColor = input.outlineColor(drawn[i]);
         bars.push_back(bar);
     }
     return bars;

@@ -26,6 +26,7 @@ struct CBarTask
     const CRequest& request;
     CTextMeasurer& measurer;
 
+    [[nodiscard]] const CChartColors& colors() const { return input.settings.colors; }
     [[nodiscard]] int margin() const { return request.scaled(kMargin); }
     [[nodiscard]] QPoint position() const
     {
@@ -33,10 +34,23 @@ struct CBarTask
     }
 };
 
+QColor orElse(const QColor& color, const QColor& fallback)
+{
+    return color.isValid() ? color : fallback;
+}
+
+QColor textColor(const CBarTask& task)
+{
+    return orElse(task.colors().text, Qt::black);
+}
+
 CAxisLook axisLook(const CBarTask& task)
 {
-    return {task.request.scale,
-            task.input.textColor.isValid() ? task.input.textColor : QColor(Qt::black)};
+    const QColor text = textColor(task);
+    // Deliberate: titles are black whatever the colour of the texts, so that they stand out from
+    // labels whose colour was set.
+    return {task.request.scale, orElse(task.colors().axis, text), text,
+            orElse(task.colors().axisTitle, Qt::black)};
 }
 
 CCategoryAxis createCategoryAxis(const CBarTask& task, const CAxisFrame& frame,
@@ -123,11 +137,24 @@ void setAxes(CBarLayout& layout, const CCategoryAxis& categoryAxis, const QRect&
 // The background for print is white, to save ink.
 void setBackground(CBarLayout& layout, const CBarTask& task)
 {
-    if (!task.input.hasBackground)
+    if (!task.input.settings.hasBackground)
         return;
     const bool isOnScreen = task.request.device == OutputDevice::Screen;
-    layout.background =
-        CVerticalFade{isOnScreen ? kBackgroundTop : kBackgroundBottom, kBackgroundBottom};
+    const QColor& plot = task.colors().plot;
+    layout.background = CVerticalFade{orElse(plot, isOnScreen ? kBackgroundTop : kBackgroundBottom),
+                                      orElse(plot, kBackgroundBottom)};
+}
+
+CVerticalFade borderColors(const CBarTask& task)
+{
+    const QColor& border = task.colors().border;
+    return {orElse(border, kBorderTop), orElse(border, kBorderBottom)};
+}
+
+CVerticalFade gridColors(const CBarTask& task)
+{
+    const QColor& grid = task.colors().grid;
+    return {orElse(grid, kBorderTop), orElse(grid, kBorderBottom)};
 }
 
 // Standing bars: categories below, numbers at the left, grid lines behind the bars.
@@ -160,11 +187,10 @@ CBarLayout layOutStandingBars(const CBarTask& task)
             numberAxis, QRect(QPoint(ofNumbers.space, top), QPoint(left - 1, bottom + 1)),
             task.measurer);
     setBackground(layout, task);
-    layout.gridLines =
-        drawLabelLines(*layout.numberAxis, layout.plotRect.width() - task.request.scale,
-                       {kBorderTop, kBorderBottom});
-    if (task.input.hasBackground)
-        layout.border = CPlotBorder{{kBorderTop, kBorderBottom}, std::nullopt};
+    layout.gridLines = drawLabelLines(
+        *layout.numberAxis, layout.plotRect.width() - task.request.scale, gridColors(task));
+    if (task.input.settings.hasBackground)
+        layout.border = CPlotBorder{borderColors(task), std::nullopt};
     layout.bars = setItemBars(layout, task.input, task.drawn);
     return layout;
 }
@@ -193,13 +219,12 @@ QSize initBarLabelBoundingRect(const std::vector<CTextLabel>& labels)
 // The border of lying bars, on screens only.
 void setBorder(CBarLayout& layout, const CBarTask& task)
 {
-    if (!task.input.hasBackground || task.request.device != OutputDevice::Screen)
+    if (!task.input.settings.hasBackground || task.request.device != OutputDevice::Screen)
         return;
-    constexpr int kBottomLineWidth = 1;
-    layout.border =
-        CPlotBorder{{kBorderTop, kBorderBottom},
-                    CStraightLine{layout.plotRect.bottomLeft(), layout.plotRect.bottomRight(),
-                                  kBorderBottom, kBottomLineWidth}};
+    const CVerticalFade colors = borderColors(task);
+    layout.border = CPlotBorder{colors, CStraightLine{layout.plotRect.bottomLeft(),
+                                                      layout.plotRect.bottomRight(), colors.bottom,
+                                                      layout.lineWidth}};
 }
 
 // Lying bars: numbers above, categories at the left, each bar's value beyond its end.
@@ -238,7 +263,8 @@ CBarLayout layOutLyingBars(const CBarTask& task)
     setBackground(layout, task);
     setBorder(layout, task);
     layout.bars = setItemBars(layout, task.input, task.drawn);
-    setItemLabels(layout, valueLabels, {labelSize, margin, axisLook(task).color}, task.measurer);
+    setItemLabels(layout, valueLabels,
+                  {labelSize, margin, orElse(task.colors().value, textColor(task))}, task.measurer);
     return layout;
 }
 

@@ -25,7 +25,7 @@ constexpr int kClockwise = -1;
 constexpr double kBeamWidth = 1.2;
 constexpr double kTextLineWidth = 0.6;
 
-// The background moves everything on it onto the centres of pixels.
+// The background moves everything on it onto the centres of pixels; in pixels before scaling.
 constexpr double kBackgroundShift = 0.5;
 
 CPieFrame frameOf(const CRequest& request)
@@ -36,21 +36,33 @@ CPieFrame frameOf(const CRequest& request)
 // The colour set, or else one that suits the device.
 QColor getPieOutlineColor(const CPieInput& input, OutputDevice device)
 {
-    if (input.outlineColor.isValid())
-        return input.outlineColor;
+    const QColor& ofHost = input.settings.colors.outline;
+    if (ofHost.isValid())
+        return ofHost;
     return device == OutputDevice::Printer ? QColor(64, 64, 64) : QColor(255, 255, 255);
+}
+
+CPieBackground createBackground(const CChartColors& colors)
+{
+    CPieBackground background;
+    if (colors.plot.isValid())
+        background.fill = {colors.plot, colors.plot};
+    if (colors.border.isValid())
+        background.border = {colors.border, colors.border};
+    return background;
 }
 
 CPieLayout initLook(const CPieInput& input, const CRequest& request)
 {
     CPieLayout layout;
-    layout.hasBackground = input.hasBackground && request.device == OutputDevice::Screen;
-    if (layout.hasBackground)
-        layout.shift = QPointF(kBackgroundShift, kBackgroundShift);
+    if (input.settings.hasBackground && request.device == OutputDevice::Screen) {
+        layout.background = createBackground(input.settings.colors);
+        layout.shift = QPointF(kBackgroundShift, kBackgroundShift) * request.scale;
+    }
     layout.outlineColor = getPieOutlineColor(input, request.device);
     layout.outlineWidth = request.scale;
-    layout.labelLineColor =
-        input.labelLineColor.isValid() ? input.labelLineColor : layout.outlineColor;
+    const QColor& line = input.settings.colors.labelLine;
+    layout.labelLineColor = line.isValid() ? line : layout.outlineColor;
     layout.beamWidth = kBeamWidth * request.scale;
     layout.textLineWidth = kTextLineWidth * request.scale;
     return layout;
@@ -69,7 +81,7 @@ std::vector<CPieSlice> initSlices(const CPieInput& input, const std::vector<std:
     std::vector<CPieSlice> slices;
     slices.reserve(drawn.size());
     for (std::size_t i = 0; i < drawn.size(); ++i) {
-        const QColor& color = input.items[drawn[i]].color;
+        const QColor color = input.fillColor(drawn[i]);
         slices.push_back({drawn[i], angles[i], getOutputDeviceColor(color, device)});
     }
     return slices;
@@ -92,8 +104,8 @@ Labels initLabel(const CPieInput& input, const std::vector<CPieSlice>& slices,
         const CGraph1dItem& item = input.items[slice.item];
         CTextLabel size;
         if (input.options.testFlag(CPieInput::ShowSizes))
-            size =
-                CTextLabel(getSizeText(item.value, input.settings.locale, kilo), style, measurer);
+            size = CTextLabel(getSizeText(item.value, input.unit, input.settings.locale, kilo),
+                              style, measurer);
         labels.emplace_back(slice, CTextLabel(item.text, style, measurer), size, labelFrame);
     }
     return labels;
@@ -251,7 +263,7 @@ CPieLayout computeLayout(const CPieInput& input, const std::vector<std::size_t>&
     const bool isSpread = input.options.testFlag(CPieInput::RemoveLabelOverlaps);
     if (layout.fits() && isSpread && isLabelOverlap(labels))
         removeLabelOverlap(labels, layout);
-    layout.labels = placeLabels(labels, input.textColor, layout, measurer);
+    layout.labels = placeLabels(labels, input.settings.colors.text, layout, measurer);
     return layout;
 }
 

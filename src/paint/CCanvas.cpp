@@ -32,11 +32,11 @@ QFont chartFont(const CGraph1dSettings& settings, int scale, const QPaintDevice&
 }
 
 // Sets up a painter before anything is measured with it.
-QPainter& initPainter(QPainter& painter, const QFont& font)
+QPainter& initPainter(QPainter& painter, const QFont& font, const QColor& picture)
 {
     painter.setFont(font);
     painter.setRenderHint(QPainter::TextAntialiasing, false);
-    painter.fillRect(painter.window(), QColor(255, 255, 255));
+    painter.fillRect(painter.window(), picture);
     return painter;
 }
 
@@ -44,7 +44,8 @@ QPainter& initPainter(QPainter& painter, const QFont& font)
 
 CCanvas::CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale)
     : m_painter(&device)
-    , m_measurer(initPainter(m_painter, chartFont(settings, scale, device)))
+    , m_measurer(
+          initPainter(m_painter, chartFont(settings, scale, device), settings.colors.picture))
 {}
 
 void CCanvas::paint(const CBarLayout& layout)

@@ -2,6 +2,8 @@
 // Shapes filled and outlined with gradients.
 #include "paint/gradient_shapes.h"
 
+#include "layout/CPieLayout.h"
+
 #include <QColor>
 #include <QLinearGradient>
 #include <QPainter>
@@ -14,9 +16,9 @@ namespace cdraw {
 
 namespace {
 
-constexpr double kHalfPixel = 0.5;    // puts one-pixel outlines on pixel centres
+constexpr double kHalfPixel = 0.5;    // of an outline one pixel wide, puts it on pixel centres
 constexpr double kQuarterTurn = 90;   // degrees
-constexpr int kBackgroundRadius = 11; // pixels at every scale
+constexpr int kBackgroundRadius = 11; // pixels before scaling
 
 // An arc needs a square; without one, only the corner point is added.
 void addCorner(QPainterPath& path, const QRectF& square, double startAngle, const QPointF& corner)
@@ -29,12 +31,12 @@ void addCorner(QPainterPath& path, const QRectF& square, double startAngle, cons
 
 // Deliberate: the right and bottom sides lie at the window's width and height rather than at its
 // edges, which differ if the window does not start at (0, 0).
-QPainterPath makeRoundRectPath(const QRect& window, int radius)
+QPainterPath makeRoundRectPath(const QRect& window, int radius, int lineWidth)
 {
     const double left = window.left();
     const double top = window.top();
-    const double width = window.right() - window.left();
-    const double height = window.bottom() - window.top();
+    const double width = window.width() - lineWidth;
+    const double height = window.height() - lineWidth;
     const double diameter = 2.0 * radius;
     const QSizeF square(diameter, diameter);
 
@@ -52,16 +54,26 @@ QPainterPath makeRoundRectPath(const QRect& window, int radius)
     return path;
 }
 
+QLinearGradient gradientOver(const QRect& rect, const CVerticalFade& colors)
+{
+    QLinearGradient gradient(rect.bottomLeft(), rect.topLeft());
+    gradient.setColorAt(0, colors.bottom);
+    gradient.setColorAt(1, colors.top);
+    return gradient;
+}
+
 } // namespace
 
 void drawGradientRoundRect(QPainter& painter, int radius, const QGradient& fill,
-                           const QGradient& outline)
+                           const QGradient& outline, int lineWidth)
 {
     // Deliberate: the translation stays in force when the function returns.
-    painter.translate(kHalfPixel, kHalfPixel);
-    const QPainterPath path = makeRoundRectPath(painter.window(), radius);
+    painter.translate(kHalfPixel * lineWidth, kHalfPixel * lineWidth);
+    const QPainterPath path = makeRoundRectPath(painter.window(), radius, lineWidth);
     painter.fillPath(path, QBrush(fill));
-    painter.fillPath(QPainterPathStroker().createStroke(path), QBrush(outline));
+    QPainterPathStroker stroker;
+    stroker.setWidth(lineWidth);
+    painter.fillPath(stroker.createStroke(path), QBrush(outline));
 }
 
 void drawGradientLine(QPainter& painter, const QPoint& from, const QPoint& to,
@@ -77,16 +89,11 @@ void drawGradientLine(QPainter& painter, const QPoint& from, const QPoint& to,
     painter.fillPath(stroker.createStroke(path), QBrush(gradient));
 }
 
-void drawDefaultGradientBackground(QPainter& painter)
+void drawGradientBackground(QPainter& painter, const CPieBackground& background, int scale)
 {
     const QRect window = painter.window();
-    QLinearGradient fill(window.bottomLeft(), window.topLeft());
-    fill.setColorAt(0, QColor(232, 242, 255));
-    fill.setColorAt(1, QColor(186, 209, 238));
-    QLinearGradient outline(window.bottomLeft(), window.topLeft());
-    outline.setColorAt(0, QColor(186, 194, 204));
-    outline.setColorAt(1, QColor(149, 167, 190));
-    drawGradientRoundRect(painter, kBackgroundRadius, fill, outline);
+    drawGradientRoundRect(painter, kBackgroundRadius * scale, gradientOver(window, background.fill),
+                          gradientOver(window, background.border), scale);
 }
 
 } // namespace cdraw

@@ -9,15 +9,20 @@ class QPainter;
 class QPoint;
 
 namespace tovangl {
+
+struct CPieBackground;
+
 namespace cdraw {
 
-/// Fills the painter's whole window with a rounded rectangle and outlines it one pixel wide.
+/// Fills the painter's whole window with a rounded rectangle and outlines it.
 ///
-/// The painter stays translated by half a pixel each way: save and restore it if that matters.
+/// The painter stays translated by half the line width each way: save and restore it if that
+/// matters.
 ///
-/// @param radius  corner radius in pixels; 0 gives a plain rectangle
+/// @param radius     corner radius in pixels; 0 gives a plain rectangle
+/// @param lineWidth  of the outline, in pixels
 void drawGradientRoundRect(QPainter& painter, int radius, const QGradient& fill,
-                           const QGradient& outline);
+                           const QGradient& outline, int lineWidth);
 
 /// Draws a straight line in the colours of the gradient, with square caps.
 ///
@@ -25,8 +30,10 @@ void drawGradientRoundRect(QPainter& painter, int radius, const QGradient& fill,
 void drawGradientLine(QPainter& painter, const QPoint& from, const QPoint& to,
                       const QGradient& gradient, int width);
 
-/// Paints the pale blue rounded background, lightest at the bottom, over the painter's window.
-void drawDefaultGradientBackground(QPainter& painter);
+/// Paints the rounded background of a pie over the painter's window.
+///
+/// @param scale  device pixels for each pixel of the outline and of the corners
+void drawGradientBackground(QPainter& painter, const CPieBackground& background, int scale);
 
 } // namespace cdraw
 } // namespace tovangl

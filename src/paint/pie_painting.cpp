@@ -30,10 +30,12 @@ QPen makeBeamPen(const QColor& color, double width)
     return pen;
 }
 
-void drawBackground(QPainter& painter)
+void drawBackground(QPainter& painter, const CPieLayout& layout)
 {
+    if (!layout.background)
+        return;
     const CPainterSaver saver(painter);
-    cdraw::drawDefaultGradientBackground(painter);
+    cdraw::drawGradientBackground(painter, *layout.background, layout.outlineWidth);
 }
 
 void drawPies(QPainter& painter, const CPieLayout& layout)
@@ -73,8 +75,7 @@ void paintPie(QPainter& painter, const CPieLayout& layout)
         return;
     const CPainterSaver saver(painter);
     painter.setRenderHint(QPainter::Antialiasing, true);
-    if (layout.hasBackground)
-        drawBackground(painter);
+    drawBackground(painter, layout);
     painter.translate(layout.shift);
     drawPies(painter, layout);
     drawLabels(painter, layout);

@@ -75,8 +75,8 @@ TYPED_TEST(BarFacade, HasAChartFromItsConstructionOn)
 {
     const TypeParam plain(false);
     const TypeParam decorated(true);
-    EXPECT_FALSE(plain.input().hasBackground);
-    EXPECT_TRUE(decorated.input().hasBackground);
+    EXPECT_FALSE(plain.input().settings.hasBackground);
+    EXPECT_TRUE(decorated.input().settings.hasBackground);
 }
 
 TYPED_TEST(BarFacade, FirstThreeBarsHaveTheFirstThreeDefaultColours)

@@ -19,10 +19,10 @@ TEST(CBarInput, AxesHaveThePropertiesOfTheirKind)
 TEST(CBarInput, HasNothingElseSet)
 {
     const CBarInput input(BarKind::Standing, true);
-    EXPECT_TRUE(input.hasBackground);
+    EXPECT_TRUE(input.settings.hasBackground);
     EXPECT_EQ(input.position, QPoint(kFreePosition, kFreePosition));
     EXPECT_EQ(input.barWidth, 0);
-    EXPECT_FALSE(input.textColor.isValid());
+    EXPECT_FALSE(input.settings.colors.text.isValid());
     EXPECT_TRUE(input.items.empty());
     EXPECT_TRUE(input.horizontalAxis.title.isEmpty() && input.verticalAxis.title.isEmpty());
 }

@@ -20,10 +20,15 @@ const QColor kBrown(150, 90, 30);
 class ChartInput : public ::testing::Test
 {
 protected:
-    const CGraph1dItem& added(const QColor& color, const QColor& outline = kNoColor)
+    QColor addedFill(const QColor& color)
     {
-        m_input.addItem(1, QString(), color, outline);
-        return m_input.items.back();
+        m_input.addItem(1, QString(), color, kNoColor);
+        return m_input.fillColor(m_input.items.size() - 1);
+    }
+    QColor addedOutline(const QColor& color)
+    {
+        m_input.addItem(1, QString(), color, kNoColor);
+        return m_input.outlineColor(m_input.items.size() - 1);
     }
 
     CGraph1dInput m_input;
@@ -34,8 +39,8 @@ TEST_F(ChartInput, KeepsValueCaptionAndColours)
     m_input.addItem(-42, QString("caption"), QColor(1, 2, 3), QColor(4, 5, 6));
     EXPECT_EQ(m_input.items[0].value, -42);
     EXPECT_EQ(m_input.items[0].text, QString("caption"));
-    EXPECT_EQ(m_input.items[0].color, QColor(1, 2, 3));
-    EXPECT_EQ(m_input.items[0].outlineColor, QColor(4, 5, 6));
+    EXPECT_EQ(m_input.fillColor(0), QColor(1, 2, 3));
+    EXPECT_EQ(m_input.outlineColor(0), QColor(4, 5, 6));
 }
 
 TEST_F(ChartInput, AppendsItemsAtTheEnd)
@@ -48,30 +53,54 @@ TEST_F(ChartInput, AppendsItemsAtTheEnd)
 
 TEST_F(ChartInput, OutlinesAreTwoThirdsAsBrightAsTheFillWhereNoneIsSet)
 {
-    EXPECT_EQ(added(kBrown).outlineColor, kBrown.darker(150));
-    EXPECT_EQ(added(QColor(240, 120, 60)).outlineColor.rgb(), qRgb(160, 80, 40));
+    EXPECT_EQ(addedOutline(kBrown), kBrown.darker(150));
+    EXPECT_EQ(addedOutline(QColor(240, 120, 60)).rgb(), qRgb(160, 80, 40));
 }
 
 TEST_F(ChartInput, DefaultColoursAreThreeBluesThenThreeOrangesAndBeginAnew)
 {
     for (int round = 0; round < 2; ++round) {
         for (const QColor& color : kPalette)
-            EXPECT_EQ(added(kNoColor).color, color);
+            EXPECT_EQ(addedFill(kNoColor), color);
     }
 }
 
 TEST_F(ChartInput, AnItemWithItsOwnColourUsesUpItsDefaultDeliberately)
 {
-    added(kNoColor);
-    added(QColor(9, 9, 9));
-    EXPECT_EQ(added(kNoColor).color, kPalette[2]);
+    addedFill(kNoColor);
+    addedFill(QColor(9, 9, 9));
+    EXPECT_EQ(addedFill(kNoColor), kPalette[2]);
+}
+
+TEST_F(ChartInput, APaletteReplacesTheDefaultColoursOfItemsAddedBeforeIt)
+{
+    for (int i = 0; i < 3; ++i)
+        m_input.addItem(1, QString(), kNoColor, kNoColor);
+    m_input.settings.colors.palette = {QColor(1, 1, 1), QColor(2, 2, 2)};
+    EXPECT_EQ(m_input.fillColor(1), QColor(2, 2, 2));
+    EXPECT_EQ(m_input.fillColor(2), QColor(1, 1, 1));
+}
+
+TEST_F(ChartInput, AColourOfAPaletteThatIsNotSetIsTheDefaultOfThatItem)
+{
+    m_input.settings.colors.palette = {QColor(1, 1, 1), kNoColor};
+    addedFill(kNoColor);
+    EXPECT_EQ(addedFill(kNoColor), kPalette[1]);
+}
+
+TEST_F(ChartInput, TheOutlineColourOfTheChartIsThatOfItemsWithoutTheirOwn)
+{
+    m_input.settings.colors.outline = Qt::red;
+    EXPECT_EQ(addedOutline(kBrown), QColor(Qt::red));
+    m_input.addItem(1, QString(), kBrown, Qt::blue);
+    EXPECT_EQ(m_input.outlineColor(1), QColor(Qt::blue));
 }
 
 TEST_F(ChartInput, DefaultColoursStartAgainWithoutItems)
 {
-    added(kNoColor);
+    addedFill(kNoColor);
     m_input.items.clear();
-    EXPECT_EQ(added(kNoColor).color, kPalette[0]);
+    EXPECT_EQ(addedFill(kNoColor), kPalette[0]);
 }
 
 TEST(BarInput, StandingBarsHaveNumbersWithPrefixesAndNoOverlaps)
@@ -91,10 +120,10 @@ TEST(BarInput, LyingBarsHaveAValueAxisThatIsALineAlone)
 TEST(BarInput, StartsWithEverythingLeftToTheLayout)
 {
     const CBarInput input(BarKind::Standing, true);
-    EXPECT_TRUE(input.hasBackground);
+    EXPECT_TRUE(input.settings.hasBackground);
     EXPECT_EQ(input.horizontalAxis.title, QString());
     EXPECT_EQ(input.verticalAxis.title, QString());
-    EXPECT_FALSE(input.textColor.isValid());
+    EXPECT_FALSE(input.settings.colors.text.isValid());
     EXPECT_EQ(input.position, QPoint(-1, -1));
     EXPECT_EQ(input.barWidth, 0);
 }
@@ -102,11 +131,11 @@ TEST(BarInput, StartsWithEverythingLeftToTheLayout)
 TEST(PieInput, RemovesOverlapsShowsSizesAndHasBlackLinesAtFirst)
 {
     const CPieInput input(true);
-    EXPECT_TRUE(input.hasBackground);
+    EXPECT_TRUE(input.settings.hasBackground);
     EXPECT_EQ(int(input.options), 384);
-    EXPECT_FALSE(input.outlineColor.isValid());
-    EXPECT_FALSE(input.textColor.isValid());
-    EXPECT_EQ(input.labelLineColor, QColor(Qt::black));
+    EXPECT_FALSE(input.settings.colors.outline.isValid());
+    EXPECT_FALSE(input.settings.colors.text.isValid());
+    EXPECT_EQ(input.settings.colors.labelLine, QColor(Qt::black));
 }
 
 } // namespace

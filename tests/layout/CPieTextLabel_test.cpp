@@ -76,7 +76,7 @@ class SizeText : public testing::TestWithParam<CSizeText>
 TEST_P(SizeText, HasOneSpaceBeforeTheUnit)
 {
     const QLocale locale(QLocale::English, QLocale::UnitedStates);
-    EXPECT_EQ(getSizeText(GetParam().value, locale, kKilo1024), QString(GetParam().text));
+    EXPECT_EQ(getSizeText(GetParam().value, "B", locale, kKilo1024), QString(GetParam().text));
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, SizeText,

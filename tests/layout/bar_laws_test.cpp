@@ -124,7 +124,7 @@ TEST(BarLaws, TwoRenderingsAreEqualWhateverWasRenderedBetween)
     for (int i = 0; i < kCharts; ++i) {
         const BarKind kind = i % 2 == 0 ? BarKind::Lying : BarKind::Standing;
         CBarChart chart = randomChart(dice, kind, -500);
-        chart.input.hasBackground = true;
+        chart.input.settings.hasBackground = true;
         const QImage first = chart.drawn(onScreen(300, 200)).image;
         (void)chart.drawn(inPrint(90, 400, 3));
         EXPECT_EQ(chart.drawn(onScreen(300, 200)).image, first);

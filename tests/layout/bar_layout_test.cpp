@@ -83,7 +83,7 @@ TEST_P(BarLayout, TakesLineWidthAndBarWidthTimesTheScale)
 TEST_P(BarLayout, AxesAreBlackUnlessATextColourIsSet)
 {
     for (const QColor& color : {QColor(), QColor(Qt::red)}) {
-        chart.input.textColor = color;
+        chart.input.settings.colors.text = color;
         const CBarLayout layout = chart.layout(kScreen);
         const QColor expected = color.isValid() ? color : QColor(Qt::black);
         EXPECT_EQ(layout.categoryAxis->line->color, expected);
@@ -106,7 +106,7 @@ TEST_P(BarLayout, WithoutRoomForItsAxesHasNothingButItsEdges)
 TEST_P(BarLayout, BackgroundIsPaleBlueOnScreenAndWhiteInPrint)
 {
     EXPECT_FALSE(chart.layout(kScreen).background);
-    chart.input.hasBackground = true;
+    chart.input.settings.hasBackground = true;
     const CVerticalFade screen = *chart.layout(kScreen).background;
     EXPECT_EQ(screen.top, kPaleBlue);
     EXPECT_EQ(screen.bottom, QColor(Qt::white));
@@ -292,7 +292,7 @@ TEST_F(StandingBars, HaveAGridLineAtEveryTick)
 TEST_F(StandingBars, HaveARightBorderWithTheBackgroundOnScreenAndInPrint)
 {
     EXPECT_FALSE(chart.layout(kScreen).border);
-    chart.input.hasBackground = true;
+    chart.input.settings.hasBackground = true;
     for (const CRequest& request : {kScreen, inPrint(400, 300, 1)}) {
         const CBarLayout layout = chart.layout(request);
         ASSERT_TRUE(layout.border);
@@ -400,7 +400,7 @@ TEST_F(LyingBars, HaveTheirValueAMarginBeyondTheirEnd)
 TEST_F(LyingBars, HaveTheirValuesAsPlainNumbersInTheTextColour)
 {
     chart.input.horizontalAxis.properties |= CAxisSettings::UnitPrefixes;
-    chart.input.textColor = Qt::blue;
+    chart.input.settings.colors.text = Qt::blue;
     chart.add(1234567);
     const CPlacedText label = chart.layout(kScreen).bars[0].label;
     EXPECT_EQ(label.text, QString("1,234,567"));
@@ -409,7 +409,7 @@ TEST_F(LyingBars, HaveTheirValuesAsPlainNumbersInTheTextColour)
 
 TEST_F(LyingBars, HaveBordersAtTheRightAndBelowWithTheBackgroundOnScreen)
 {
-    chart.input.hasBackground = true;
+    chart.input.settings.hasBackground = true;
     const CBarLayout layout = chart.layout(kScreen);
     ASSERT_TRUE(layout.border && layout.border->bottom);
     EXPECT_EQ(layout.border->right.top, kBorderTop);
@@ -423,7 +423,7 @@ TEST_F(LyingBars, HaveBordersAtTheRightAndBelowWithTheBackgroundOnScreen)
 TEST_F(LyingBars, HaveNoBordersInPrintAndNoneWithoutBackground)
 {
     EXPECT_FALSE(chart.layout(kScreen).border);
-    chart.input.hasBackground = true;
+    chart.input.settings.hasBackground = true;
     EXPECT_FALSE(chart.layout(inPrint(400, 300, 1)).border);
 }
 

@@ -112,6 +112,11 @@ const std::map<std::string, Setter>& setters()
              chart.items.push_back({value, restOf(line), fill});
          }},
         {"repeat", appendRepeated},
+        {"set",
+         [](CChartFile& chart, Line& line) {
+             const std::string name = word(line).toStdString();
+             chart.settings.push_back({name, restOf(line).toStdString()});
+         }},
     };
     return setters;
 }

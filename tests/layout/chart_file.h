@@ -31,6 +31,7 @@ namespace tovangl {
 ///     position X Y                   bars, lying bars, as all below
 ///     barwidth PIXELS
 ///     textcolor #rrggbb
+///     set NAME VALUE                 a setting by its name in the library's table
 ///     item VALUE [CAPTION]           \n in a caption is a line break
 ///     painted VALUE COLOR CAPTION    an item in a colour of its own
 ///     repeat COUNT VALUE STEP        COUNT items named "item 1" and so on
@@ -58,6 +59,12 @@ struct CChartFile
         QString country;
     };
 
+    struct CSetting
+    {
+        std::string name;
+        std::string value;
+    };
+
     QString kind;
     QSize size;
     bool background = false;
@@ -72,6 +79,7 @@ struct CChartFile
     std::optional<QPoint> position;
     std::optional<int> barWidth;
     QColor textColor;
+    std::vector<CSetting> settings; ///< set by name, after all else
     std::vector<CItem> items;
 };
 

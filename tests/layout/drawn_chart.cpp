@@ -35,9 +35,9 @@ void applySettings(CPieInput& input, const CChartFile& file)
     if (file.options)
         input.options = CPieInput::Options(QFlag(*file.options));
     if (file.colors) {
-        input.outlineColor = file.colors->at(0);
-        input.textColor = file.colors->at(1);
-        input.labelLineColor = file.colors->at(2);
+        input.settings.colors.outline = file.colors->at(0);
+        input.settings.colors.text = file.colors->at(1);
+        input.settings.colors.labelLine = file.colors->at(2);
     }
 }
 
@@ -48,17 +48,17 @@ void applySettings(CBarInput& input, const CChartFile& file)
     if (file.upright)
         input.verticalAxis = settingsOf(*file.upright);
     if (file.position)
-        setPosition(input, file.position->x(), file.position->y());
+        input.setPosition(file.position->x(), file.position->y());
     if (file.barWidth)
-        setBarWidth(input, *file.barWidth);
-    input.textColor = file.textColor;
+        input.setBarWidth(*file.barWidth);
+    input.settings.colors.text = file.textColor;
 }
 
 // Paints the layout once more, onto a device that records texts.
 template <typename Chart>
 std::string layoutText(const Chart& chart, const QSize& size, std::optional<int> printFactor)
 {
-    const int scale = std::max(printFactor.value_or(1), 1);
+    const int scale = printFactor ? std::max(*printFactor, 1) : chart.input().settings.scale;
     CTextRecorder recorder(size);
     CCanvas(recorder, chart.input().settings, scale).paint(chart.layout());
 
@@ -78,6 +78,11 @@ CDrawnChart drawAs(const CChartFile& file)
     applyCommonSettings(chart.input(), file);
     if (file.threshold)
         chart.setThreshold(*file.threshold);
+    for (const CChartFile::CSetting& setting : file.settings) {
+        const std::string problem = chart.setByName(setting.name, setting.value);
+        if (!problem.empty())
+            throw std::runtime_error(setting.name + ": " + problem);
+    }
     const int width = file.size.width();
     const int height = file.size.height();
     const QImage image = file.printFactor

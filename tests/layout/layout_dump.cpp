@@ -30,7 +30,8 @@ QString wholeText(const CGraph1dItem& item, const CPieInput& input)
 {
     if (!input.options.testFlag(CPieInput::ShowSizes))
         return item.text;
-    return item.text + getSizeText(item.value, input.settings.locale, kKilo1024);
+    return item.text + getSizeText(item.value, input.unit, input.settings.locale,
+                                   input.settings.kilo.value_or(kKilo1024));
 }
 
 void dumpSlice(const CPieSlice& slice, const CPieLayout& layout, const CPieInput& input,

@@ -127,10 +127,10 @@ TEST(PieLayout, TheBackgroundMovesThePieByHalfAPixelOnAScreenOnly)
 {
     const CTestPie pie(true);
     const CPieLayout screen = pie.layOut(kPicture);
-    EXPECT_TRUE(screen.hasBackground);
+    EXPECT_TRUE(screen.background);
     EXPECT_EQ(screen.drawnPieRect, screen.pieRect.translated(0.5, 0.5));
     const CPieLayout print = pie.layOut(inPrint(400, 300, 1));
-    EXPECT_FALSE(print.hasBackground);
+    EXPECT_FALSE(print.background);
     EXPECT_EQ(print.drawnPieRect, print.pieRect);
 }
 
@@ -139,7 +139,7 @@ TEST(PieLayout, TheBackgroundMovesTheCaptionsWithThePie)
 {
     CTestPie pie = equalSlices(3, "home");
     const CPieLayout plain = pie.layOut(onScreen(401, 301));
-    pie.hasBackground = true;
+    pie.settings.hasBackground = true;
     const CPieLayout moved = pie.layOut(onScreen(401, 301));
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_EQ(moved.labels[i].itemRect, plain.labels[i].itemRect.translated(1, 1));

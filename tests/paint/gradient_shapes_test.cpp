@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "layout/CPieLayout.h"
 #include "paint/CPainterSaver.h"
 #include "paint/gradient_shapes.h"
 #include "support/pixels.h"
@@ -32,7 +33,7 @@ QLinearGradient plainGradient(const QColor& color)
 QImage paintedRect(int width, int height, int radius)
 {
     return smoothly(width, height, [radius](QPainter& painter) {
-        drawGradientRoundRect(painter, radius, plainGradient(Qt::red), plainGradient(Qt::blue));
+        drawGradientRoundRect(painter, radius, plainGradient(Qt::red), plainGradient(Qt::blue), 1);
     });
 }
 
@@ -78,7 +79,7 @@ TEST(GradientRoundRect, LeavesThePainterTranslatedByHalfAPixel)
 {
     QImage image(10, 10, QImage::Format_ARGB32);
     QPainter painter(&image);
-    drawGradientRoundRect(painter, 2, plainGradient(Qt::red), plainGradient(Qt::blue));
+    drawGradientRoundRect(painter, 2, plainGradient(Qt::red), plainGradient(Qt::blue), 1);
     EXPECT_EQ(painter.worldTransform().dx(), 0.5);
     EXPECT_EQ(painter.worldTransform().dy(), 0.5);
 }
@@ -87,7 +88,7 @@ TEST(GradientRoundRect, RightAndBottomSidesLieAtTheExtentsOfAWindowThatStartsEls
 {
     const QImage image = smoothly(40, 30, [](QPainter& painter) {
         painter.setWindow(QRect(6, 4, 40, 30));
-        drawGradientRoundRect(painter, 0, plainGradient(Qt::red), plainGradient(Qt::blue));
+        drawGradientRoundRect(painter, 0, plainGradient(Qt::red), plainGradient(Qt::blue), 1);
     });
     EXPECT_EQ(image.pixel(0, 10), kBluePixel);
     EXPECT_EQ(image.pixel(33, 10), kBluePixel); // 39 - 6
@@ -98,8 +99,8 @@ TEST(GradientRoundRect, RightAndBottomSidesLieAtTheExtentsOfAWindowThatStartsEls
 
 TEST(DefaultGradientBackground, IsLightestAtTheBottom)
 {
-    const QImage image =
-        smoothly(60, 101, [](QPainter& painter) { drawDefaultGradientBackground(painter); });
+    const QImage image = smoothly(
+        60, 101, [](QPainter& painter) { drawGradientBackground(painter, CPieBackground(), 1); });
     EXPECT_TRUE(isNear(image.pixel(30, 99), QColor(232, 242, 255), 1));
     EXPECT_TRUE(isNear(image.pixel(30, 50), QColor(209, 226, 247), 1));
     EXPECT_TRUE(isNear(image.pixel(30, 1), QColor(186, 209, 238), 1));
@@ -107,8 +108,8 @@ TEST(DefaultGradientBackground, IsLightestAtTheBottom)
 
 TEST(DefaultGradientBackground, IsOutlinedInGreyThatIsLightestAtTheBottom)
 {
-    const QImage image =
-        smoothly(60, 101, [](QPainter& painter) { drawDefaultGradientBackground(painter); });
+    const QImage image = smoothly(
+        60, 101, [](QPainter& painter) { drawGradientBackground(painter, CPieBackground(), 1); });
     EXPECT_TRUE(isNear(image.pixel(30, 100), QColor(186, 194, 204), 1));
     EXPECT_TRUE(isNear(image.pixel(0, 50), QColor(168, 181, 197), 1));
     EXPECT_TRUE(isNear(image.pixel(30, 0), QColor(149, 167, 190), 1));
@@ -116,8 +117,8 @@ TEST(DefaultGradientBackground, IsOutlinedInGreyThatIsLightestAtTheBottom)
 
 TEST(DefaultGradientBackground, HasCornersOfElevenPixelsWhateverTheSize)
 {
-    const QImage image =
-        smoothly(200, 150, [](QPainter& painter) { drawDefaultGradientBackground(painter); });
+    const QImage image = smoothly(
+        200, 150, [](QPainter& painter) { drawGradientBackground(painter, CPieBackground(), 1); });
     EXPECT_EQ(image.pixel(2, 2), kWhitePixel);
     EXPECT_NE(image.pixel(4, 4), kWhitePixel);
     EXPECT_EQ(image.pixel(0, 0), kWhitePixel);
