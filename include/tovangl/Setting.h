@@ -24,20 +24,20 @@ enum class SettingType
     Choice          ///< one of Setting::choices
 };
 
-/// A kind of chart, as a bit.
-enum ChartKind
-{
-    PieChart = 1,          ///< PieGraph
-    VerticalBarChart = 2,  ///< VerticalBarGraph
-    HorizontalBarChart = 4 ///< HorizontalBarGraph
-};
-
 /// One row of the table. Its strings live as long as the process; none is null.
 struct Setting
 {
+    /// A kind of chart, as a bit.
+    enum Chart
+    {
+        Pie = 1,           ///< PieGraph
+        VerticalBars = 2,  ///< VerticalBarGraph
+        HorizontalBars = 4 ///< HorizontalBarGraph
+    };
+
     const char* name;         ///< lower-case words with underscores between them, such as font_size
     SettingType type;         ///< how its value is written
-    int charts;               ///< sum of the ChartKind bits of the charts that have it
+    int charts;               ///< sum of the Chart bits of the charts that have it
     long minimum;             ///< the least value of a number; 0 for other types
     long maximum;             ///< the greatest value of a number; 0 for other types
     const char* choices;      ///< what a Choice accepts, with commas between; "" for other types

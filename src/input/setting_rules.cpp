@@ -17,9 +17,9 @@ namespace {
 using Target = const CSettingTarget&;
 using Text = std::string_view;
 
-constexpr int kPie = PieChart;
-constexpr int kVertical = VerticalBarChart;
-constexpr int kHorizontal = HorizontalBarChart;
+constexpr int kPie = Setting::Pie;
+constexpr int kVertical = Setting::VerticalBars;
+constexpr int kHorizontal = Setting::HorizontalBars;
 constexpr int kBars = kVertical | kHorizontal;
 constexpr int kAll = kPie | kBars;
 
@@ -134,8 +134,8 @@ bool writeFast(Target target, Text value)
 
 CAxisSettings& categoryAxis(Target target)
 {
-    return target.kind == VerticalBarChart ? target.bars->horizontalAxis
-                                           : target.bars->verticalAxis;
+    return target.kind == Setting::VerticalBars ? target.bars->horizontalAxis
+                                                : target.bars->verticalAxis;
 }
 
 bool setProperties(CAxisSettings& axis, Text value)
@@ -328,7 +328,7 @@ constexpr std::array<Setting, count> settingsOf(const std::array<CSettingRule, c
 
 constexpr auto kSettings = settingsOf(kRules);
 
-const CSettingRule* findRule(Text name, ChartKind kind)
+const CSettingRule* findRule(Text name, Setting::Chart kind)
 {
     for (const CSettingRule& rule : kRules) {
         if (rule.setting.name == name && (rule.setting.charts & kind) != 0)
@@ -389,13 +389,13 @@ std::string wanted(const Setting& setting)
 } // namespace
 
 CSettingTarget::CSettingTarget(CBarInput& input)
-    : kind(input.kind == BarKind::Standing ? VerticalBarChart : HorizontalBarChart)
+    : kind(input.kind == BarKind::Standing ? Setting::VerticalBars : Setting::HorizontalBars)
     , settings(input.settings)
     , bars(&input)
 {}
 
 CSettingTarget::CSettingTarget(CPieInput& input)
-    : kind(PieChart)
+    : kind(Setting::Pie)
     , settings(input.settings)
     , pie(&input)
 {}

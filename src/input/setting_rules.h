@@ -21,7 +21,7 @@ struct CSettingTarget
     explicit CSettingTarget(CBarInput& input);
     explicit CSettingTarget(CPieInput& input);
 
-    ChartKind kind;
+    Setting::Chart kind;
     CGraph1dSettings& settings;
     CBarInput* bars = nullptr; ///< of a bar chart
     CPieInput* pie = nullptr;  ///< of a pie
