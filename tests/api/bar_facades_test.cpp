@@ -33,6 +33,11 @@ public:
     [[nodiscard]] const CBarInput& input() const { return getGraph()->input(); }
     // The one that was added last.
     [[nodiscard]] const CGraph1dItem& item() const { return input().items.back(); }
+    [[nodiscard]] QColor fillColor() const { return input().fillColor(input().items.size() - 1); }
+    [[nodiscard]] QColor outlineColor() const
+    {
+        return input().outlineColor(input().items.size() - 1);
+    }
 };
 
 using CVerticalFacade = CShownFacade<VerticalBarGraph>;
@@ -83,12 +88,12 @@ TYPED_TEST(BarFacade, FirstThreeBarsHaveTheFirstThreeDefaultColours)
 {
     TypeParam chart;
     EXPECT_TRUE(chart.addItem(3, "a"));
-    EXPECT_EQ(chart.item().color, QColor(23, 52, 124));
+    EXPECT_EQ(chart.fillColor(), QColor(23, 52, 124));
     chart.addItem(2, "b");
-    EXPECT_EQ(chart.item().color, QColor(91, 115, 176));
+    EXPECT_EQ(chart.fillColor(), QColor(91, 115, 176));
     chart.addItem(1, "c");
-    EXPECT_EQ(chart.item().color, QColor(174, 191, 234));
-    EXPECT_EQ(chart.item().outlineColor, QColor(174, 191, 234).darker(150));
+    EXPECT_EQ(chart.fillColor(), QColor(174, 191, 234));
+    EXPECT_EQ(chart.outlineColor(), QColor(174, 191, 234).darker(150));
 }
 
 TYPED_TEST(BarFacade, OwnColoursAreDrawn)
@@ -105,8 +110,8 @@ TYPED_TEST(BarFacade, ColourOutOfRangeCountsAsNotSet)
 {
     TypeParam chart;
     chart.addItem(3, "", kNoColor, kNoColor);
-    EXPECT_EQ(chart.item().color, QColor(23, 52, 124));
-    EXPECT_EQ(chart.item().outlineColor, QColor(23, 52, 124).darker(150));
+    EXPECT_EQ(chart.fillColor(), QColor(23, 52, 124));
+    EXPECT_EQ(chart.outlineColor(), QColor(23, 52, 124).darker(150));
 }
 
 TYPED_TEST(BarFacade, CaptionIsUtf8OfItsWholeLength)

@@ -139,10 +139,10 @@ TEST_F(CAxisLabels, ArePaintedWhereTheirPixelsAre)
                   axis.texts[i].room.translated(axis.texts[i].origin));
 }
 
-TEST_F(CAxisLabels, TakeTheAxisColourAndAreBoldOnDemand)
+TEST_F(CAxisLabels, TakeTheLabelColourAndAreBoldOnDemand)
 {
     CAxisPlan plan = labelled(1);
-    plan.look.color = Qt::red;
+    plan.look.labelColor = Qt::red;
     const CPlacedText plain = fitted(plan, QRect(0, 0, 100, 40)).texts.at(0);
     EXPECT_EQ(plain.color, QColor(Qt::red));
     EXPECT_FALSE(plain.isBold);

@@ -155,11 +155,15 @@ TEST_F(CAxisTest, TitleIsMeasuredAndSetBoldOnDemand)
     EXPECT_GT(bold.title.getBoundingRect().width(), plain.title.getBoundingRect().width());
 }
 
-TEST_F(CAxisTest, TitleStaysBlackWhateverTheAxisColour)
+TEST_F(CAxisTest, LineAndTitleHaveColoursOfTheirOwn)
 {
     CAxisPlan plan = titled(kRightAtTheBottom);
-    plan.look.color = Qt::red;
-    EXPECT_EQ(fitted(plan, QRect(0, 0, 100, 50)).texts.at(0).color, QColor(Qt::black));
+    plan.settings.properties |= CAxisSettings::ShowLine;
+    plan.look.lineColor = Qt::red;
+    plan.look.titleColor = Qt::blue;
+    const CAxisLayout axis = fitted(plan, QRect(0, 0, 100, 50));
+    EXPECT_EQ(axis.line.value().color, QColor(Qt::red));
+    EXPECT_EQ(axis.texts.at(0).color, QColor(Qt::blue));
 }
 
 TEST_F(CAxisTest, TitleIsTurnedOnVerticalAxesOnly)

@@ -341,7 +341,7 @@ TEST(PieLayout, ColoursThatAreNotSetSuitTheDevice)
     EXPECT_EQ(screen.labelLineColor, QColor(Qt::black));
     EXPECT_EQ(screen.labels.at(0).texts.at(0).color, QColor(Qt::black));
     EXPECT_EQ(pie.layOut(inPrint(400, 300, 1)).outlineColor, QColor(64, 64, 64));
-    pie.labelLineColor = QColor();
+    pie.settings.colors.labelLine = QColor();
     EXPECT_EQ(pie.layOut(kPicture).labelLineColor, QColor(255, 255, 255));
 }
 

@@ -96,7 +96,7 @@ TEST(PiePainting, WhiteLinesSeparateTheSlices)
 TEST(PiePainting, SeparatorsTakeTheOutlineColour)
 {
     CTestPie yellow = quarters();
-    yellow.outlineColor = Qt::yellow;
+    yellow.settings.colors.outline = Qt::yellow;
     const CPaintedPie pie(yellow);
     EXPECT_EQ(pie.at(0, 0.5).blue(), 0);
     EXPECT_GT(pie.at(0, 0.5).green(), 200);
@@ -201,7 +201,7 @@ TEST(PiePainting, TheBackgroundShiftsThePieByHalfAPixel)
 TEST(PiePainting, BeamsAndLinesTakeTheLineColour)
 {
     CTestPie green = disc(kColors[0]);
-    green.labelLineColor = kGreen;
+    green.settings.colors.labelLine = kGreen;
     const CPaintedPie pie(green, inPrint(kWidth, kHeight, 10));
     const CPlacedPieLabel& label = pie.layout.labels.at(0);
     const QPointF middle = (label.elbow + label.lineEnd) / 2;
@@ -212,7 +212,7 @@ TEST(PiePainting, BeamsAndLinesTakeTheLineColour)
 TEST(PiePainting, TextsTakeTheTextColour)
 {
     CTestPie green = disc(kColors[0], "\u2588\u2588\u2588\u2588");
-    green.textColor = kGreen;
+    green.settings.colors.text = kGreen;
     const CPaintedPie pie(green);
     const QRect caption = pie.layout.labels.at(0).itemRect;
     EXPECT_EQ(pixelAt(pie.image, caption.topLeft() + QPointF(5, caption.height() / 2.0)), kGreen);
