@@ -201,6 +201,18 @@ void pieColors(PictureFolder& folder)
     folder.draw(chart, "pie_colors", 400, 220);
 }
 
+// --- all charts
+
+void title(PictureFolder& folder)
+{
+    VerticalBarGraph chart(true);
+    addAll(chart, kMonths);
+    //! [title]
+    chart.setTitle("Visitors per month");
+    //! [title]
+    folder.draw(chart, "title", 500, 250);
+}
+
 // --- axes
 
 void axisScale(PictureFolder& folder)
@@ -365,10 +377,26 @@ int main(int count, char** arguments)
     if (count != 2)
         return 2;
     PictureFolder folder(arguments[1]);
-    for (const auto& drawOne :
-         {helloBars, verticalBars, verticalColors, verticalTitles, verticalWidth, verticalPosition,
-          verticalNegative, horizontalBars, horizontalTitle, horizontalMany, pie, pieOptions,
-          pieColors, axisScale, axisCaptions, pieLabels, pieZones, fontsAndLocales, regions})
+    for (const auto& drawOne : {helloBars,
+                                verticalBars,
+                                verticalColors,
+                                verticalTitles,
+                                verticalWidth,
+                                verticalPosition,
+                                verticalNegative,
+                                horizontalBars,
+                                horizontalTitle,
+                                horizontalMany,
+                                pie,
+                                pieOptions,
+                                pieColors,
+                                title,
+                                axisScale,
+                                axisCaptions,
+                                pieLabels,
+                                pieZones,
+                                fontsAndLocales,
+                                regions})
         drawOne(folder);
     return folder.isComplete() ? 0 : 1;
 }

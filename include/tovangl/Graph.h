@@ -91,9 +91,11 @@ public:
     void setTheme(Theme theme);
 
     /// Sets the title: one line in bold type, centred above the chart, in the colour of the texts,
-    /// and shortened to the picture's width. The chart has the room that it leaves.
+    /// and shortened to the picture's width. The chart has the room that it leaves. A picture
+    /// without room for both shows the chart alone.
     ///
-    /// @param text  UTF-8; empty, the default, for no title
+    /// @param text  UTF-8; empty, the default, for no title. White space in a row, line breaks and
+    ///              control characters become one space
     void setTitle(const std::string& text);
 
     /// Where the last rendering drew the title; all zero where it drew none.
@@ -158,10 +160,11 @@ public:
     ///
     /// It names the kind of chart, the number of items drawn, and the greatest and the least of
     /// these with their captions: Pie chart, 2 of 3 items drawn: the greatest is “Rent” with 1,200,
-    /// the least is “Food” with 430. The items drawn are those that the threshold left in, or none
+    /// the least is “Food” with 430. A title comes first, in a sentence of its own: “Spending”. Pie
+    /// chart, 2 of 3 items drawn. The items drawn are those that the threshold left in, or none
     /// if the picture had no room for the chart. Numbers follow the chart's locale. The sentence is
-    /// one line: white space and control characters in captions become spaces, and only the first
-    /// 256 characters of a caption are used.
+    /// one line: white space and control characters in texts become spaces, and only the first 256
+    /// characters of a caption or title are used.
     ///
     /// @return UTF-8; empty where there is no chart
     std::string describe() const;

@@ -39,7 +39,8 @@ public:
     /// @param x  distance of the vertical axis line from the picture's left edge, in pixels before
     ///           the print factor
     /// @param y  distance of the horizontal axis line from the top edge, likewise. If x or y is
-    ///           negative or too large, the layout places that line
+    ///           negative or too large, the layout places that line. A title does not move the
+    ///           line, but a line in the title's place is drawn right below it
     void setPosition(int x, int y);
 
     /// Sets the width of every bar.

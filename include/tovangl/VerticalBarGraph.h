@@ -41,7 +41,8 @@ public:
     ///           the print factor
     /// @param y  distance from the top edge of the row above the horizontal axis line, likewise:
     ///           the line is one pixel thick, in row y + 1. If x or y is negative or too large,
-    ///           the layout places that line
+    ///           the layout places that line. A title does not move the line; where the line
+    ///           leaves no room for bars below the title, the chart is drawn without the title
     void setPosition(int x, int y);
 
     /// Sets the width of every bar.

@@ -29,14 +29,14 @@ protected:
     {}
 
     [[nodiscard]] CSettingTarget settingTarget() final { return CSettingTarget(m_input); }
-    std::optional<std::vector<QRect>> drawContents(CCanvas& canvas, const CRequest& request,
-                                                   const std::vector<std::size_t>& drawn) final
+    std::optional<CDrawnTexts> drawContents(CCanvas& canvas, const CRequest& request,
+                                            const std::vector<std::size_t>& drawn) final
     {
         m_layout = computeLayout(m_input, drawn, request, canvas.measurer());
         if (!m_layout.fits())
             return std::nullopt;
         canvas.paint(m_layout);
-        return captionRects(m_layout);
+        return CDrawnTexts{titleRect(m_layout), captionRects(m_layout)};
     }
     void forgetLayout() final { m_layout = Layout(); }
 

@@ -78,6 +78,7 @@ void CGraph1dBase::forgetDrawing()
 {
     m_isDrawn = false;
     m_problem = Problem::NoMemory;
+    m_titleRect = QRect();
 }
 
 const CPngFile& CGraph1dBase::paintDevice2Bytes(QImage& image)
@@ -115,10 +116,12 @@ void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
     recordCaptions(std::vector<QRect>(m_selectedItems.size()));
 
     CCanvas canvas(device, input().settings, request.scale);
-    const auto captions = drawContents(canvas, request, m_selectedItems);
-    if (captions)
-        recordCaptions(*captions);
-    m_isDrawn = captions.has_value();
+    const auto texts = drawContents(canvas, request, m_selectedItems);
+    if (texts) {
+        recordCaptions(texts->captions);
+        m_titleRect = texts->title;
+    }
+    m_isDrawn = texts.has_value();
     m_problem = m_isDrawn ? Problem::None : Problem::TooSmallForChart;
 }
 

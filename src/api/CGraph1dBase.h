@@ -23,6 +23,13 @@ namespace tovangl {
 class CCanvas;
 struct CGraph1dInput;
 
+/// What the texts of a drawn chart cover.
+struct CDrawnTexts
+{
+    QRect title;                 ///< null where there is none
+    std::vector<QRect> captions; ///< one for each drawn item; null where it is hidden
+};
+
 /// The host's input, and the result of the last rendering.
 class CGraph1dBase
 {
@@ -75,10 +82,9 @@ protected:
     [[nodiscard]] virtual CItemSelection selectItems() const = 0;
     /// Lays out the chart and paints it if it fits.
     ///
-    /// @return what each drawn item's caption covers; empty if the chart does not fit
-    virtual std::optional<std::vector<QRect>>
-    drawContents(CCanvas& canvas, const CRequest& request,
-                 const std::vector<std::size_t>& drawn) = 0;
+    /// @return where its texts are; empty if the chart does not fit
+    virtual std::optional<CDrawnTexts> drawContents(CCanvas& canvas, const CRequest& request,
+                                                    const std::vector<std::size_t>& drawn) = 0;
     /// Drops the last layout's results for removed items.
     virtual void forgetLayout() = 0;
 

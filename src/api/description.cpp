@@ -4,6 +4,7 @@
 
 #include "input/CGraph1dInput.h"
 #include "text/number_text.h"
+#include "text/one_line.h"
 
 #include <QLocale>
 
@@ -26,14 +27,9 @@ QString shortened(const QString& caption)
     return caption.left(isPairCut ? kLongestCaption - 1 : kLongestCaption) + QChar(kEllipsis);
 }
 
-// One line without control characters.
-QString readable(QString text)
+QString inQuotes(const QString& text)
 {
-    for (QChar& character : text) {
-        if (character.category() == QChar::Other_Control)
-            character = QLatin1Char(' ');
-    }
-    return text.simplified();
+    return QChar(kOpeningQuote) + text + QChar(kClosingQuote);
 }
 
 QString numberOf(long long value, const QLocale& locale)
@@ -44,10 +40,17 @@ QString numberOf(long long value, const QLocale& locale)
 QString mention(const CGraph1dItem& item, const QLocale& locale)
 {
     QString number = numberOf(item.value, locale);
-    const QString caption = readable(shortened(item.text));
+    const QString caption = oneLine(shortened(item.text));
     if (caption.isEmpty())
         return number;
-    return QChar(kOpeningQuote) + caption + QChar(kClosingQuote) + QLatin1String(" with ") + number;
+    return inQuotes(caption) + QLatin1String(" with ") + number;
+}
+
+// The title as a sentence of its own.
+QString introduction(const QString& title)
+{
+    const QString line = oneLine(shortened(title));
+    return line.isEmpty() ? QString() : inQuotes(line) + QLatin1String(". ");
 }
 
 // If several items share the greatest value, the first is named; of the least ones, the last.
@@ -79,11 +82,11 @@ std::string describeChart(const char* kind, const CGraph1dInput& input,
     const auto count = [&locale](std::size_t number) {
         return numberOf(static_cast<long long>(number), locale);
     };
-    const QString sentence = QLatin1String(kind) + QLatin1String(", ") + count(items.size()) +
-                             QLatin1String(" of ") + count(input.items.size()) +
-                             QLatin1String(" items drawn") + extremes(items, locale) +
-                             QLatin1Char('.');
-    const QByteArray bytes = sentence.toUtf8();
+    const QString text = introduction(input.settings.title) + QLatin1String(kind) +
+                         QLatin1String(", ") + count(items.size()) + QLatin1String(" of ") +
+                         count(input.items.size()) + QLatin1String(" items drawn") +
+                         extremes(items, locale) + QLatin1Char('.');
+    const QByteArray bytes = text.toUtf8();
     return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }
 

@@ -5,6 +5,7 @@
 #define TOVANGL_LAYOUT_CBARLAYOUT_H
 
 #include "layout/CAxisLayout.h"
+#include "layout/CChartTitle.h"
 #include "layout/CVerticalFade.h"
 #include "layout/value_scale.h"
 
@@ -52,6 +53,7 @@ struct CBarLayout
     /// below are set, and nothing must be drawn.
     [[nodiscard]] bool fits() const { return plotRect.isValid(); }
 
+    std::optional<CChartTitle> title; ///< none where there is no text or no room
     CAxisSpaces spaces;
     QRect plotRect;                          ///< in which the bars stand
     std::optional<CVerticalFade> background; ///< of the plot

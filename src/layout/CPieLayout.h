@@ -4,7 +4,7 @@
 #ifndef TOVANGL_LAYOUT_CPIELAYOUT_H
 #define TOVANGL_LAYOUT_CPIELAYOUT_H
 
-#include "layout/CPlacedText.h"
+#include "layout/CChartTitle.h"
 #include "layout/CVerticalFade.h"
 #include "layout/slice_angles.h"
 
@@ -56,7 +56,8 @@ struct CPieLayout
     /// Whether the picture has room for the pie.
     [[nodiscard]] bool fits() const { return hasRoom; }
 
-    bool hasRoom = false; ///< if not, nothing of the pie must be drawn
+    bool hasRoom = false;             ///< if not, nothing of the pie must be drawn
+    std::optional<CChartTitle> title; ///< none where there is no text or no room
     std::optional<CPieBackground> background;
     QPointF shift; ///< by which everything on the background is moved
     QRectF area;   ///< the square that holds the pie and the beams of its labels

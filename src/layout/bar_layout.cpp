@@ -6,6 +6,7 @@
 #include "layout/CNumberAxis.h"
 #include "layout/axis_spaces.h"
 #include "layout/bar_items.h"
+#include "layout/chart_title.h"
 #include "layout/grid_lines.h"
 #include "text/CTextMeasurer.h"
 
@@ -25,12 +26,17 @@ struct CBarTask
     const std::vector<std::size_t>& drawn;
     const CRequest& request;
     CTextMeasurer& measurer;
+    int top; // the first row of the picture that belongs to the chart, below its title
 
     [[nodiscard]] const CChartColors& colors() const { return input.settings.colors; }
     [[nodiscard]] int margin() const { return request.scaled(kMargin); }
+    [[nodiscard]] int height() const { return request.height - top; }
+    // The host counts rows from the picture's top, the layout from the chart's. A line that would
+    // run through the title moves below it.
     [[nodiscard]] QPoint position() const
     {
-        return QPoint(request.scaled(input.position.x()), request.scaled(input.position.y()));
+        const int y = request.scaled(input.position.y());
+        return QPoint(request.scaled(input.position.x()), y < 0 ? y : std::max(y - top, 0));
     }
 };
 
@@ -93,7 +99,7 @@ CNumberAxis createNumberAxis(const CBarTask& task, const CAxisFrame& frame,
 
 CAxisSpace getTopAxisSpace(const CBarTask& task, const CAxis& axis, int width)
 {
-    const CEdgeOfPicture edge{task.request.height, task.margin(), axis.lineShare()};
+    const CEdgeOfPicture edge{task.height(), task.margin(), axis.lineShare()};
     const int position = task.position().y();
     return isFixedPosition(position, edge.extent) ? fixedNearSpace(position, edge)
                                                   : freeSpace(axis.getHeightForWidth(width), edge);
@@ -101,7 +107,7 @@ CAxisSpace getTopAxisSpace(const CBarTask& task, const CAxis& axis, int width)
 
 CAxisSpace getBottomAxisSpace(const CBarTask& task, const CAxis& axis, int width)
 {
-    const CEdgeOfPicture edge{task.request.height, task.margin(), axis.lineShare()};
+    const CEdgeOfPicture edge{task.height(), task.margin(), axis.lineShare()};
     const int position = task.position().y();
     return isFixedPosition(position, edge.extent) ? fixedFarSpace(position, edge)
                                                   : freeSpace(axis.getHeightForWidth(width), edge);
@@ -120,7 +126,7 @@ CBarLayout emptyLayout(const CBarTask& task)
 {
     const int margin = task.margin();
     CBarLayout layout;
-    layout.spaces = {margin, margin, margin, margin};
+    layout.spaces = {margin, task.top + margin, margin, margin};
     layout.lineWidth = task.request.scale;
     return layout;
 }
@@ -242,13 +248,13 @@ CBarLayout layOutLyingBars(const CBarTask& task)
 
     CBarLayout layout = emptyLayout(task);
     const CAxisSpace ofCategories =
-        getLeftAxisSpace(task, categoryAxis, task.request.height - 2 * margin);
+        getLeftAxisSpace(task, categoryAxis, task.height() - 2 * margin);
     layout.spaces.left = ofCategories.space;
     const int left = ofCategories.space + ofCategories.thickness;
     const CAxisSpace ofNumbers =
         getTopAxisSpace(task, numberAxis, task.request.width - left - margin + 1);
-    layout.spaces.top = ofNumbers.space;
-    const int top = ofNumbers.space + ofNumbers.thickness;
+    layout.spaces.top = task.top + ofNumbers.space;
+    const int top = layout.spaces.top + ofNumbers.thickness;
     const int right = task.request.width - 1 - margin;
     const int bottom = task.request.height - 1 - margin;
 
@@ -258,7 +264,7 @@ CBarLayout layOutLyingBars(const CBarTask& task)
     // Deliberate: the value axis begins one pixel to the left, so that its zero stands on the
     // vertical axis line.
     setAxes(layout, categoryAxis, QRect(QPoint(ofCategories.space, top), QPoint(left - 1, bottom)),
-            numberAxis, QRect(QPoint(left - 1, ofNumbers.space), QPoint(right, top - 1)),
+            numberAxis, QRect(QPoint(left - 1, layout.spaces.top), QPoint(right, top - 1)),
             task.measurer);
     setBackground(layout, task);
     setBorder(layout, task);
@@ -273,8 +279,10 @@ CBarLayout layOutLyingBars(const CBarTask& task)
 CBarLayout computeLayout(const CBarInput& input, const std::vector<std::size_t>& drawn,
                          const CRequest& request, CTextMeasurer& measurer)
 {
-    const CBarTask task{input, drawn, request, measurer};
-    return input.kind == BarKind::Standing ? layOutStandingBars(task) : layOutLyingBars(task);
+    return layOutBelowTitle(input.settings, request, measurer, [&](int top) {
+        const CBarTask task{input, drawn, request, measurer, top};
+        return input.kind == BarKind::Standing ? layOutStandingBars(task) : layOutLyingBars(task);
+    });
 }
 
 } // namespace tovangl

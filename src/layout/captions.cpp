@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which pixels the captions of a laid-out chart cover.
+// Which pixels the title and the captions of a laid-out chart cover.
 #include "layout/captions.h"
 
 #include "layout/CBarLayout.h"

@@ -7,6 +7,7 @@
 #include "input/CPieInput.h"
 #include "layout/CPieTextLabel.h"
 #include "layout/CZoneArranger.h"
+#include "layout/chart_title.h"
 #include "layout/device_colors.h"
 #include "layout/pie_geometry.h"
 
@@ -28,9 +29,9 @@ constexpr double kTextLineWidth = 0.6;
 // The background moves everything on it onto the centres of pixels; in pixels before scaling.
 constexpr double kBackgroundShift = 0.5;
 
-CPieFrame frameOf(const CRequest& request)
+CPieFrame frameOf(const CRequest& request, int top)
 {
-    return CPieFrame{request.width, request.height, kMargin, request.scale};
+    return CPieFrame{request.width, request.height - top, kMargin, request.scale};
 }
 
 // The colour set, or else one that suits the device.
@@ -153,11 +154,12 @@ void setLabelPosition(Labels& labels, const CPieLayout& layout)
         label.initPosition(innerRadius, outerRadius);
 }
 
-void layoutLabels(Labels& labels, const CPieFrame& frame, CPieLayout& layout)
+void layoutLabels(Labels& labels, const CPieFrame& frame, int top, CPieLayout& layout)
 {
     for (CPieTextLabel& label : labels)
         label.initBoundingRect(layout.sizesShown);
-    layout.area = createArea(getWidth(labels, frame), layout.labelRect.height(), frame);
+    layout.area =
+        createArea(getWidth(labels, frame), layout.labelRect.height(), frame).translated(0, top);
     layout.pieRect = pieRectIn(layout.area);
     setLabelPosition(labels, layout);
 }
@@ -240,23 +242,22 @@ std::vector<CPlacedPieLabel> placeLabels(const Labels& labels, const QColor& col
     return placed;
 }
 
-} // namespace
-
-CPieLayout computeLayout(const CPieInput& input, const std::vector<std::size_t>& drawn,
-                         const CRequest& request, CTextMeasurer& measurer)
+// Lays out a pie that begins in that row of the picture, below its title.
+CPieLayout layOutPie(const CPieInput& input, const std::vector<std::size_t>& drawn,
+                     const CRequest& request, int top, CTextMeasurer& measurer)
 {
-    const CPieFrame frame = frameOf(request);
+    const CPieFrame frame = frameOf(request, top);
     CPieLayout layout = initLook(input, request);
     layout.slices = initSlices(input, drawn, request.device);
     layout.isWholeDisc = layout.slices.size() == 1;
 
     Labels labels = initLabel(input, layout.slices, frame, request.kilo, measurer);
     layout.labelRect = setLabelBoundingRect(labels, frame);
-    layoutLabels(labels, frame, layout);
+    layoutLabels(labels, frame, top, layout);
     layout.sizesShown = isEnoughSpaceForSizeLabel(labels, measurer);
     // Without the sizes, there is more room for the pie.
     if (!layout.sizesShown)
-        layoutLabels(labels, frame, layout);
+        layoutLabels(labels, frame, top, layout);
     layout.drawnPieRect = layout.pieRect.translated(layout.shift);
 
     layout.hasRoom = isRoomForPie(frame, layout.labelRect.size());
@@ -265,6 +266,16 @@ CPieLayout computeLayout(const CPieInput& input, const std::vector<std::size_t>&
         removeLabelOverlap(labels, layout);
     layout.labels = placeLabels(labels, input.settings.colors.text, layout, measurer);
     return layout;
+}
+
+} // namespace
+
+CPieLayout computeLayout(const CPieInput& input, const std::vector<std::size_t>& drawn,
+                         const CRequest& request, CTextMeasurer& measurer)
+{
+    return layOutBelowTitle(input.settings, request, measurer, [&](int top) {
+        return layOutPie(input, drawn, request, top, measurer);
+    });
 }
 
 } // namespace tovangl

@@ -95,6 +95,8 @@ void paintBars(QPainter& painter, const CBarLayout& layout)
     drawBars(painter, layout);
     drawAxis(painter, *layout.categoryAxis);
     drawAxis(painter, *layout.numberAxis);
+    if (layout.title)
+        paintText(painter, layout.title->text);
 }
 
 } // namespace tovangl

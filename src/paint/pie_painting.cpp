@@ -76,6 +76,8 @@ void paintPie(QPainter& painter, const CPieLayout& layout)
     const CPainterSaver saver(painter);
     painter.setRenderHint(QPainter::Antialiasing, true);
     drawBackground(painter, layout);
+    if (layout.title)
+        paintText(painter, layout.title->text);
     painter.translate(layout.shift);
     drawPies(painter, layout);
     drawLabels(painter, layout);

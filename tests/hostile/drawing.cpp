@@ -51,6 +51,7 @@ void checkRectangles(CAnyChart& chart, std::int64_t scale)
 {
     (void)chart.itemRectangles();
     (void)chart.itemBarRectangles();
+    (void)chart.graph().titleRectangle();
     for (const Slice& slice : chart.slices())
         (void)getPolygon(slice);
     require(!chart.graph().describe().empty(), "every chart has a description");

@@ -23,6 +23,8 @@ void useChartWithoutKind()
     graph.setThreshold(1);
     graph.setFont("Tahoma", 11);
     graph.setLocale("de", "at");
+    graph.setTitle("title");
+    (void)graph.titleRectangle();
     (void)graph.threshold();
     (void)graph.getRectangle();
     unsigned char* data = nullptr;

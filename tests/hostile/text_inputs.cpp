@@ -111,7 +111,16 @@ void drawCaption(ChartKind kind, const std::string& text)
     drawEverything(chart);
 }
 
-void drawTitle(ChartKind kind, const std::string& text)
+void drawChartTitle(ChartKind kind, const std::string& text)
+{
+    CAnyChart chart(kind, true);
+    addOrdinaryItems(chart);
+    chart.graph().setTitle(text);
+    drawEverything(chart);
+    drawEverything(chart, 120, 60, 1);
+}
+
+void drawAxisTitle(ChartKind kind, const std::string& text)
 {
     CAnyChart chart(kind, true);
     addOrdinaryItems(chart);
@@ -138,9 +147,12 @@ void addCase(HostileTable& table, const CTextCase& entry, bool isHeavy)
     for (ChartKind kind : kChartKinds)
         table.push_back({nameOf(kind) + std::string(", caption: ") + entry.name,
                          [=] { drawCaption(kind, text()); }, isHeavy});
-    for (ChartKind kind : {ChartKind::VerticalBars, ChartKind::HorizontalBars})
+    for (ChartKind kind : kChartKinds)
         table.push_back({nameOf(kind) + std::string(", title: ") + entry.name,
-                         [=] { drawTitle(kind, text()); }, isHeavy});
+                         [=] { drawChartTitle(kind, text()); }, isHeavy});
+    for (ChartKind kind : {ChartKind::VerticalBars, ChartKind::HorizontalBars})
+        table.push_back({nameOf(kind) + std::string(", axis title: ") + entry.name,
+                         [=] { drawAxisTitle(kind, text()); }, isHeavy});
     table.push_back({std::string("pie, twelve bold captions cut from the left: ") + entry.name,
                      [=] { drawBoldPie(text()); }, isHeavy});
 }

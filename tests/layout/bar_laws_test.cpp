@@ -118,6 +118,38 @@ TEST(BarLaws, NothingIsPaintedInTheMargins)
     }
 }
 
+TEST(BarLaws, BelowATitleStandsTheChartOfALowerPicture)
+{
+    CDice dice(18);
+    for (int i = 0; i < kCharts; ++i) {
+        CBarChart chart = randomChart(dice, i % 2 == 0 ? BarKind::Lying : BarKind::Standing, -500);
+        CRequest request = randomRequest(dice);
+        const QImage lower = chart.drawn(request).image;
+        chart.input.settings.title = QString("a title");
+        const auto title = chart.layout(request).title;
+        ASSERT_TRUE(title);
+        request.height += title->chartTop();
+        const QImage whole = chart.drawn(request).image;
+        EXPECT_EQ(whole.copy(0, title->chartTop(), request.width, lower.height()), lower);
+    }
+}
+
+TEST(BarLaws, TheTitleLiesInsideThePictureAboveThePlot)
+{
+    CDice dice(19);
+    for (int i = 0; i < kCharts; ++i) {
+        CBarChart chart = randomChart(dice, i % 2 == 0 ? BarKind::Lying : BarKind::Standing, -500);
+        chart.input.settings.title = QString("title ").repeated(dice.roll(1, 30));
+        chart.input.setPosition(dice.roll(-1, 200), dice.roll(-1, 300));
+        const CRequest request = randomRequest(dice);
+        const CBarLayout layout = chart.layout(request);
+        if (!layout.title)
+            continue;
+        EXPECT_TRUE(QRect(0, 0, request.width, request.height).contains(layout.title->rect));
+        EXPECT_GT(layout.plotRect.top(), layout.title->rect.bottom());
+    }
+}
+
 TEST(BarLaws, TwoRenderingsAreEqualWhateverWasRenderedBetween)
 {
     CDice dice(17);

@@ -34,6 +34,12 @@ QString wholeText(const CGraph1dItem& item, const CPieInput& input)
                                    input.settings.kilo.value_or(kKilo1024));
 }
 
+void dumpTitle(const std::optional<CChartTitle>& title, CDump& dump)
+{
+    if (title)
+        dump.line("title").quoted(title->text.text).rect(title->rect);
+}
+
 void dumpSlice(const CPieSlice& slice, const CPieLayout& layout, const CPieInput& input,
                CDump& dump)
 {
@@ -93,6 +99,7 @@ void dumpAxes(const CBarLayout& layout, CDump& dump)
 
 void dumpLayout(const CPieLayout& layout, const CPieInput& input, CDump& dump)
 {
+    dumpTitle(layout.title, dump);
     dump.line("area").rect(layout.area);
     dump.line("pie").rect(layout.pieRect);
     dump.line("label box").rect(layout.labelRect);
@@ -103,6 +110,7 @@ void dumpLayout(const CPieLayout& layout, const CPieInput& input, CDump& dump)
 
 void dumpLayout(const CBarLayout& layout, const CBarInput& input, CDump& dump)
 {
+    dumpTitle(layout.title, dump);
     const CAxisSpaces& spaces = layout.spaces;
     dump.line("spaces left").number(spaces.left).word("top").number(spaces.top);
     dump.word("right").number(spaces.right).word("bottom").number(spaces.bottom);

@@ -91,6 +91,27 @@ TEST_P(PieLaws, DrawnLabelsStayInsideThePicture)
     }
 }
 
+TEST_P(PieLaws, BelowATitleStandsThePieOfALowerPicture)
+{
+    CRequest request = inPrint(width, height, factor);
+    const CPieLayout plain = pie.layOut(request);
+    pie.settings.title = QString("a title");
+    const auto title = pie.layOut(inPrint(width, height + 100, factor)).title;
+    ASSERT_EQ(title.has_value(), plain.fits());
+    if (!title)
+        return;
+    request.height += title->chartTop();
+    const CPieLayout layout = pie.layOut(request);
+    ASSERT_TRUE(layout.title);
+    EXPECT_EQ(layout.pieRect, plain.pieRect.translated(0, title->chartTop()));
+    for (std::size_t i = 0; i < plain.labels.size(); ++i) {
+        const QRect& before = plain.labels[i].itemRect;
+        EXPECT_EQ(layout.labels[i].itemRect,
+                  plain.labels[i].isHidden ? QRect() : before.translated(0, title->chartTop()));
+        EXPECT_EQ(layout.labels[i].labelPos, plain.labels[i].labelPos);
+    }
+}
+
 TEST_P(PieLaws, TwoRenderingsAreEqual)
 {
     CPieGraph chart(false);

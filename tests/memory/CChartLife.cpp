@@ -69,6 +69,9 @@ void CChartLife::applySettings()
     call([this] { m_chart->setProperties(kEverythingShown, "a title of several words"); });
     call([this] { m_chart->setColors({60, 60, 60}, {0, 0, 90}, {90, 0, 0}); });
     call([this] { m_chart->setBarWidth(9); });
+    call([this] {
+        m_chart->graph().setTitle("a title that is too long for the width of the picture");
+    });
 }
 
 void CChartLife::addItems()

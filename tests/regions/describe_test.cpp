@@ -45,6 +45,30 @@ TEST(Description, NamesTheKindOfBarChart)
     EXPECT_THAT(lying.describe(), HasSubstr("Horizontal bar chart, 0 of 0"));
 }
 
+TEST(Description, BeginsWithTheTitle)
+{
+    PieGraph pie(false);
+    pie.setTitle("Sales");
+    EXPECT_EQ(pie.describe(), "“Sales”. Pie chart, 0 of 0 items drawn.");
+    pie.setTitle(" \n ");
+    EXPECT_EQ(pie.describe(), "Pie chart, 0 of 0 items drawn.");
+}
+
+TEST(Description, SaysATitleThatHasNoRoom)
+{
+    VerticalBarGraph bars(false);
+    bars.setTitle("Sales");
+    render(bars, 20, 20);
+    EXPECT_THAT(bars.describe(), HasSubstr("“Sales”. Vertical bar chart"));
+}
+
+TEST(Description, SaysALongTitleShortenedAndOnOneLine)
+{
+    PieGraph pie(false);
+    pie.setTitle("a\nb" + std::string(1000, 'x'));
+    EXPECT_THAT(pie.describe(), HasSubstr("“a b" + std::string(253, 'x') + "…”. Pie"));
+}
+
 TEST(Description, IsEmptyWithoutAChart)
 {
     const Graph graph;

@@ -34,6 +34,8 @@ void applySettings(CAnyChart& chart, CDice& dice)
         chart.setProperties(dice.roll(0, 8191), dice.pick(kCaptions));
     if (dice.oneIn(4))
         chart.setColors(dice.rollColor(), dice.rollColor(), dice.rollColor());
+    if (dice.oneIn(4))
+        chart.graph().setTitle(dice.pick(kCaptions));
     if (dice.oneIn(8))
         chart.setPosition(dice.roll(-1, 400), dice.roll(-1, 300));
     if (dice.oneIn(8))

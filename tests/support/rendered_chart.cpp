@@ -31,17 +31,17 @@ bool areSamePixels(const std::string& a, const std::string& b)
 
 CRenderedChart copyRendering(CAnyChart& chart, const CExport& picture)
 {
-    return CRenderedChart{picture.bytes(),        chart.itemRectangles(),
-                          chart.barRectangles(),  chart.itemBarRectangles(),
-                          chart.slices(),         chart.graph().describe(),
-                          chart.graph().problem()};
+    return CRenderedChart{picture.bytes(),           chart.graph().titleRectangle(),
+                          chart.itemRectangles(),    chart.barRectangles(),
+                          chart.itemBarRectangles(), chart.slices(),
+                          chart.graph().describe(),  chart.graph().problem()};
 }
 
 bool isSameRendering(const CRenderedChart& a, const CRenderedChart& b)
 {
-    return a.items == b.items && a.bars == b.bars && a.itemBars == b.itemBars &&
-           areSameSlices(a.slices, b.slices) && a.description == b.description &&
-           a.problem == b.problem && areSamePixels(a.png, b.png);
+    return a.title == b.title && a.items == b.items && a.bars == b.bars &&
+           a.itemBars == b.itemBars && areSameSlices(a.slices, b.slices) &&
+           a.description == b.description && a.problem == b.problem && areSamePixels(a.png, b.png);
 }
 
 } // namespace tovangl

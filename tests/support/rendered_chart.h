@@ -14,6 +14,7 @@ namespace tovangl {
 struct CRenderedChart
 {
     std::string png;
+    Rectangle title = {};
     std::list<Rectangle> items;
     std::list<Rectangle> bars;
     std::list<Rectangle> itemBars;
