@@ -18,7 +18,7 @@ enum class SettingType
     Color,        ///< #rrggbb, or default
     PictureColor, ///< #rrggbb, default, or transparent
     Palette,      ///< one or more #rrggbb with commas between them, the name of a theme, or default
-    Locale,       ///< a language and a country, such as de_AT; or C
+    Locale,       ///< a language and a country, such as de_AT; or C, or default
     AxisProperties, ///< names of what an axis shows with commas between them, or none
     Position,       ///< two whole numbers with a comma between them
     Choice          ///< one of Setting::choices

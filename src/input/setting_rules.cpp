@@ -147,8 +147,8 @@ bool setProperties(CAxisSettings& axis, Text value)
 bool setTitle(CAxisSettings& axis, Text value)
 {
     const bool isRead = store(axis.title, parseText(value));
-    if (isRead && !axis.title.isEmpty())
-        axis.properties |= CAxisSettings::ShowTitle;
+    if (isRead)
+        axis.properties.setFlag(CAxisSettings::ShowTitle, !axis.title.isEmpty());
     return isRead;
 }
 
