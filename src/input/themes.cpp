@@ -15,8 +15,9 @@ constexpr CThemeValue kLight[] = {
     {"outline_color", "default"},    {"line_color", "default"},
 };
 
+// Outlines as dark as the picture part the light colours.
 constexpr CThemeValue kDark[] = {
-    {"palette", "#7fb2f0,#f2a65a,#8fd0a0,#e58fb1,#d9d06a,#b49ce6"},
+    {"palette", "#6cace4,#f4a259,#a78bda,#7bc8a4,#e9d66b,#ee7f8f"},
     {"picture_color", "#1b1f27"},
     {"plot_color", "#232936"},
     {"border_color", "#4a5568"},
@@ -29,8 +30,9 @@ constexpr CThemeValue kDark[] = {
     {"line_color", "#aab4c4"},
 };
 
+// Dark and light colours in turn: neighbours differ in lightness by their fillings alone.
 constexpr CThemeValue kHighContrast[] = {
-    {"palette", "#000000,#ffd400,#0057b8,#ffffff,#b00020,#7fd4ff"},
+    {"palette", "#0057d9,#ffd400,#c8102e,#ffffff,#007a33,#7fe0ff"},
     {"picture_color", "#ffffff"},
     {"plot_color", "#ffffff"},
     {"border_color", "#000000"},
@@ -43,8 +45,10 @@ constexpr CThemeValue kHighContrast[] = {
     {"line_color", "#000000"},
 };
 
+// Colours of Okabe and Ito, "Color Universal Design" (2008), less two: any two of these six can be
+// told apart with any kind of colour blindness, and none is as dark as the outlines.
 constexpr CThemeValue kColorBlind[] = {
-    {"palette", "#000000,#e69f00,#0072b2,#f0e442,#d55e00,#56b4e9"},
+    {"palette", "#0072b2,#e69f00,#56b4e9,#d55e00,#009e73,#f0e442"},
     {"picture_color", "#ffffff"},
     {"plot_color", "#ffffff"},
     {"border_color", "#767676"},
@@ -53,7 +57,7 @@ constexpr CThemeValue kColorBlind[] = {
     {"axis_title_color", "#000000"},
     {"grid_color", "#b0b0b0"},
     {"value_color", "#000000"},
-    {"outline_color", "#000000"},
+    {"outline_color", "#202020"},
     {"line_color", "#000000"},
 };
 

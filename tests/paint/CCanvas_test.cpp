@@ -44,6 +44,16 @@ TEST(Canvas, StartsFullyWhiteAndOpaque)
     EXPECT_TRUE(isFilled(image, image.rect(), kWhitePixel));
 }
 
+TEST(Canvas, LeavesNothingOfTheMemoryBehindATransparentPicture)
+{
+    CGraph1dSettings settings;
+    settings.colors.picture = Qt::transparent;
+    QImage image(17, 9, QImage::Format_ARGB32);
+    image.fill(0x12345678);
+    const CCanvas canvas(image, settings, 1);
+    EXPECT_TRUE(isFilled(image, image.rect(), 0));
+}
+
 TEST(Canvas, HasTheDefaultFontOfTahomaAtElevenPixels)
 {
     EXPECT_EQ(extentIn(CGraph1dSettings(), 1), extentOfFont(chartFont("Tahoma", 11)));
