@@ -13,7 +13,7 @@ constexpr const char* kDescription = "Draws a chart of numbers as a PNG picture.
 
 constexpr const char* kTeaching =
     R"(Input: one item per line: a whole number, white space, a caption. A colour (#rrggbb)
-can follow after a tab.
+can follow after a tab. Empty lines and lines that begin with "# " are passed over.
 
   1200 Rent
   430  Food	#d04030

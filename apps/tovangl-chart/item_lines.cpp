@@ -55,8 +55,6 @@ ChartItem parseItemLine(std::string_view line, LineColors colors)
 {
     requireUtf8(line);
     const std::string_view start = skipWhiteSpace(line);
-    if (start.empty())
-        throw CFailure("the line is empty; an item is a whole number and a caption");
     const std::size_t numberEnd = std::min(start.find_first_of(kWhiteSpace), start.size());
     ChartItem item;
     item.value = parseItemValue(start.substr(0, numberEnd));
@@ -68,12 +66,19 @@ ChartItem parseItemLine(std::string_view line, LineColors colors)
     return item;
 }
 
+bool isPassedOver(std::string_view line)
+{
+    return skipWhiteSpace(line).empty() || line == "#" || line.substr(0, 2) == "# ";
+}
+
 ChartItems readItems(const std::string& path, LineColors colors)
 {
     ChartItems items;
     CLineReader reader(path);
     std::string line;
     while (reader.readLine(line)) {
+        if (isPassedOver(line))
+            continue;
         try {
             items.push_back(parseItemLine(line, colors));
         } catch (const CFailure& reason) {

@@ -23,6 +23,10 @@ enum class LineColors
 /// belongs to the caption. Throws CFailure with the reason if the line is not an item.
 [[nodiscard]] ChartItem parseItemLine(std::string_view line, LineColors colors);
 
+/// Whether a line is there for people: it is empty or blank, or begins with a '#' on its own or
+/// before a space. "#3 x" is no comment, so that a mistyped item is never lost.
+[[nodiscard]] bool isPassedOver(std::string_view line);
+
 /// Reads all items of a file, or of standard input if the path is "-". Throws CFailure with the
 /// place and the reason.
 [[nodiscard]] ChartItems readItems(const std::string& path, LineColors colors);

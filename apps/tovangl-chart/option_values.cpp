@@ -18,6 +18,8 @@ namespace {
 constexpr std::size_t kColorLength = 7; // "#rrggbb"
 constexpr int kHexadecimal = 16;
 constexpr std::string_view kHexadecimalDigits = "0123456789abcdefABCDEF";
+constexpr const char* kWholeNumberHint = "a whole number; round it (printf %.0f does), or multiply "
+                                         "all numbers by 10, 100 or 1000";
 constexpr const char* kNoProperty = "none";
 
 struct PropertyName
@@ -67,6 +69,16 @@ Number parseNumber(std::string_view text, const std::string& wanted)
     return number;
 }
 
+/// Whether a text is a number with a decimal point.
+bool hasDecimals(std::string_view text)
+{
+    const std::string_view digits = withoutPlus(text);
+    const char* end = digits.data() + digits.size();
+    double number = 0;
+    return text.find('.') != std::string_view::npos &&
+           std::from_chars(digits.data(), end, number).ptr == end;
+}
+
 int channelAt(std::string_view color, std::size_t offset)
 {
     int channel = 0;
@@ -105,7 +117,7 @@ std::optional<Color> findColor(std::string_view text)
 
 long parseItemValue(std::string_view text)
 {
-    return parseNumber<long>(text, "a whole number");
+    return parseNumber<long>(text, hasDecimals(text) ? kWholeNumberHint : "a whole number");
 }
 
 int parseWhole(std::string_view text)

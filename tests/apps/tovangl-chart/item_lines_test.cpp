@@ -16,6 +16,11 @@ ChartItem fillLine(std::string_view line)
     return parseItemLine(line, LineColors::Fill);
 }
 
+ChartItems itemsOf(const std::string& path)
+{
+    return readItems(path, LineColors::Fill);
+}
+
 ChartItem barLine(std::string_view line)
 {
     return parseItemLine(line, LineColors::FillAndOutline);
@@ -129,13 +134,13 @@ TEST_P(BadItemLines, AreRefusedWithTheReason)
 INSTANTIATE_TEST_SUITE_P(
     ItemLines, BadItemLines,
     ::testing::Values(
-        BadLine{"Empty", "", "the line is empty; an item is a whole number and a caption"},
-        BadLine{"Blank", " \t", "the line is empty; an item is a whole number and a caption"},
         BadLine{"NoCaption", "12", "there is no caption behind the number"},
         BadLine{"BlankCaption", "12 \t ", "there is no caption behind the number"},
         BadLine{"Word", "abc x", "\"abc\" is not a whole number"},
-        BadLine{"Fraction", "1.5 x", "\"1.5\" is not a whole number"},
         BadLine{"Exponent", "1e3 x", "\"1e3\" is not a whole number"},
+        BadLine{"Decimals", "1.5 x",
+                "\"1.5\" is not a whole number; round it (printf %.0f does), or multiply all "
+                "numbers by 10, 100 or 1000"},
         BadLine{"TwoSigns", "+-5 x", "\"+-5\" is not a whole number"},
         BadLine{"Sign", "- x", "\"-\" is not a whole number"},
         BadLine{"Grouped", "1,000 x", "\"1,000\" is not a whole number"},
@@ -153,10 +158,41 @@ TEST(ItemLines, AFileIsReadInOrder)
 {
     const CTemporaryFolder folder;
     folder.write("items", "1 a\n2 b\r\n3 c");
-    const ChartItems items = readItems(folder.pathOf("items"), LineColors::Fill);
+    const ChartItems items = itemsOf(folder.pathOf("items"));
     ASSERT_EQ(items.size(), 3U);
     EXPECT_EQ(items[1].caption, "b");
     EXPECT_EQ(items[2].value, 3);
+}
+
+TEST(ItemLines, EmptyLinesAndCommentsArePassedOver)
+{
+    for (const char* line : {"", " ", "\t \t", "\r", "#", "# 3 x", "#  ", "# caf\xe9"})
+        EXPECT_TRUE(isPassedOver(line)) << line;
+}
+
+TEST(ItemLines, WhatMayBeAMistypedItemIsNotPassedOver)
+{
+    for (const char* line : {"#3 x", "##", "#\t3 x", " # 3 x", "#102030", "3 # x", "x", "0"})
+        EXPECT_FALSE(isPassedOver(line)) << line;
+}
+
+TEST(ItemLines, AFileMayHaveEmptyLinesAndComments)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", "# Towns\r\n#\n\n1 a\n \t\r\n2 # b\n");
+    const ChartItems items = itemsOf(folder.pathOf("items"));
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items[0].caption, "a");
+    EXPECT_EQ(items[1].caption, "# b");
+}
+
+TEST(ItemLines, LinesThatArePassedOverCount)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", "# Towns\n\n1 a\n#3 x\n");
+    const std::string path = folder.pathOf("items");
+    EXPECT_THAT([&] { (void)itemsOf(path); },
+                ThrowsMessage<CFailure>(path + ":4: \"#3\" is not a whole number"));
 }
 
 TEST(ItemLines, ABadLineIsToldWithItsPlace)
@@ -164,7 +200,7 @@ TEST(ItemLines, ABadLineIsToldWithItsPlace)
     const CTemporaryFolder folder;
     folder.write("items", "1 a\n2 b\nx c\n");
     const std::string path = folder.pathOf("items");
-    EXPECT_THAT([&] { (void)readItems(path, LineColors::Fill); },
+    EXPECT_THAT([&] { (void)itemsOf(path); },
                 ThrowsMessage<CFailure>(path + ":3: \"x\" is not a whole number"));
 }
 

@@ -65,8 +65,10 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         FailingCommand{"NoItem", "echo oops | tovangl-chart pie -o x.png",
                        "standard input:1: \"oops\" is not a whole number"},
-        FailingCommand{"LaterLine", "printf '1 a\\n\\n' | tovangl-chart bars -o x.png",
-                       "standard input:2: the line is empty"},
+        FailingCommand{"LaterLine", "printf '1 a\\n\\n2\\n' | tovangl-chart bars -o x.png",
+                       "standard input:3: there is no caption behind the number"},
+        FailingCommand{"Decimals", "echo 1.5 a | tovangl-chart bars -o x.png",
+                       "standard input:1: \"1.5\" is not a whole number; round it"},
         FailingCommand{"LargeNumber", "echo 9223372036854775808 a | tovangl-chart hbars -o x.png",
                        "standard input:1: \"9223372036854775808\" does not fit into 64 bits"},
         FailingCommand{"BrokenText", "printf '1 a\\n2 \\351\\n' | tovangl-chart pie -o x.png",
