@@ -1,7 +1,7 @@
 # bash completion for tovangl-chart
 _tovangl_chart() {
     local common='-o --output --map --size --print --font --font-size --locale --threshold
-        --background --fast --text-color --help'
+        --background --fast --text-color --csv --caption --value --color --help'
     local bars='--category-title --category-axis --bar-width --position'
     local pie='--bold --shorten-left --keep-overlaps --without-sizes --outline-color --line-color'
     local axis='line labels title bold-labels bold-title prefixes hide-overlapped shift-last none'
@@ -11,7 +11,7 @@ _tovangl_chart() {
         -o | --output | --map) files=yes ;;
         --category-axis | --value-axis) words=$axis ;;
         --size | --print | --font | --font-size | --locale | --threshold | --*-color | --*-title | \
-            --bar-width | --position) return ;;
+            --bar-width | --position | --caption | --value | --color) return ;;
         *)
             case ${COMP_WORDS[1]} in
                 pie) words="$common $pie" files=yes ;;

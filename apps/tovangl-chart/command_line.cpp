@@ -23,6 +23,8 @@ Examples:
   tovangl-chart bars sales.txt --value-title Euros -o sales.png
   sort -n sizes.txt | tovangl-chart hbars --size 600x900 >sizes.png
   du -b -d1 /usr | tovangl-chart pie --map usr.html
+  psql --csv -c 'SELECT relname, relpages FROM pg_class' | tovangl-chart pie --csv -o t.png
+  tovangl-chart bars --csv --caption Month --value 'Net sales' sales.csv -o sales.png
 
 Each chart has its own help: tovangl-chart pie --help)";
 

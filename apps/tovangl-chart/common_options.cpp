@@ -2,6 +2,8 @@
 // The options that every chart has.
 #include "tovangl-chart/common_options.h"
 
+#include "tovangl-chart/csv_options.h"
+
 namespace tovangl::program {
 
 namespace {
@@ -19,9 +21,10 @@ std::string parsePath(const std::string& text)
 
 void addFileOptions(CLI::App& command, CommonOptions& options)
 {
-    addOption(command, "FILE", options.input, parsePath,
+    addOption(command, "FILE", options.input.path, parsePath,
               "Items, one per line; without it, standard input")
         ->type_name("");
+    addCsvOptions(command, options.input);
     addOption(
         command, "-o,--output", options.output, parsePath,
         "Write the picture (PNG) here; without it, to standard output or into the page of --map")

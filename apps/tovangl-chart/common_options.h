@@ -5,6 +5,7 @@
 #define TOVANGL_CHART_COMMON_OPTIONS_H
 
 #include "common/CFailure.h"
+#include "tovangl-chart/ItemSource.h"
 #include "tovangl-chart/option_values.h"
 #include <tovangl/Graph.h>
 
@@ -19,7 +20,7 @@ namespace tovangl::program {
 
 struct CommonOptions
 {
-    std::string input = "-";
+    ItemSource input;
     std::optional<std::string> output;
     std::string map; // empty: none
     PictureSize size;

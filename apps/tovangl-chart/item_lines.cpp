@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Reads items, one per line.
+// Reads items, one per line or from a table.
 #include "tovangl-chart/item_lines.h"
 
 #include "common/CFailure.h"
 #include "common/CLineReader.h"
 #include "common/text_checks.h"
+#include "tovangl-chart/csv_items.h"
 #include "tovangl-chart/option_values.h"
 
 namespace tovangl::program {
@@ -49,6 +50,23 @@ void takeColors(std::string_view& text, LineColors colors, ChartItem& item)
     }
 }
 
+ChartItems readItemLines(const std::string& path, LineColors colors)
+{
+    ChartItems items;
+    CLineReader reader(path);
+    std::string line;
+    while (reader.readLine(line)) {
+        if (isPassedOver(line))
+            continue;
+        try {
+            items.push_back(parseItemLine(line, colors));
+        } catch (const CFailure& reason) {
+            throw CFailure(reader.place() + ": " + reason.what());
+        }
+    }
+    return items;
+}
+
 } // namespace
 
 ChartItem parseItemLine(std::string_view line, LineColors colors)
@@ -71,21 +89,10 @@ bool isPassedOver(std::string_view line)
     return skipWhiteSpace(line).empty() || line == "#" || line.substr(0, 2) == "# ";
 }
 
-ChartItems readItems(const std::string& path, LineColors colors)
+ChartItems readItems(const ItemSource& source, LineColors colors)
 {
-    ChartItems items;
-    CLineReader reader(path);
-    std::string line;
-    while (reader.readLine(line)) {
-        if (isPassedOver(line))
-            continue;
-        try {
-            items.push_back(parseItemLine(line, colors));
-        } catch (const CFailure& reason) {
-            throw CFailure(reader.place() + ": " + reason.what());
-        }
-    }
-    return items;
+    return source.csv ? readCsvItems(source.path, source.columns)
+                      : readItemLines(source.path, colors);
 }
 
 } // namespace tovangl::program

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Reads items, one per line: a whole number, white space, a caption, and colours after tabs.
+/// Reads items. Each has a line of its own: a whole number, white space, a caption, and colours
+/// after tabs. Or they come from a table.
 #ifndef TOVANGL_CHART_ITEM_LINES_H
 #define TOVANGL_CHART_ITEM_LINES_H
 
 #include "tovangl-chart/ChartItem.h"
+#include "tovangl-chart/ItemSource.h"
 
-#include <string>
 #include <string_view>
 
 namespace tovangl::program {
@@ -27,9 +28,10 @@ enum class LineColors
 /// before a space. "#3 x" is no comment, so that a mistyped item is never lost.
 [[nodiscard]] bool isPassedOver(std::string_view line);
 
-/// Reads all items of a file, or of standard input if the path is "-". Throws CFailure with the
-/// place and the reason.
-[[nodiscard]] ChartItems readItems(const std::string& path, LineColors colors);
+/// Reads all items. Throws CFailure with the place and the reason.
+///
+/// @param colors  of lines; a table has one colour
+[[nodiscard]] ChartItems readItems(const ItemSource& source, LineColors colors);
 
 } // namespace tovangl::program
 

@@ -18,7 +18,9 @@ ChartItem fillLine(std::string_view line)
 
 ChartItems itemsOf(const std::string& path)
 {
-    return readItems(path, LineColors::Fill);
+    ItemSource source;
+    source.path = path;
+    return readItems(source, LineColors::Fill);
 }
 
 ChartItem barLine(std::string_view line)
