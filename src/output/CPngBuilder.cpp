@@ -2,6 +2,8 @@
 // Puts the chunks of a PNG file around the compressed rows.
 #include "output/CPngBuilder.h"
 
+#include "output/opacity.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -22,6 +24,7 @@ constexpr std::size_t kBytesPerColor = 3;
 // Pixel types, and the only methods that the format defines.
 constexpr unsigned kPaletteType = 3;
 constexpr unsigned kTrueColorType = 2;
+constexpr unsigned kTrueColorWithAlphaType = 6;
 constexpr unsigned kDeflate = 0;
 constexpr unsigned kFilterByRow = 0;
 constexpr unsigned kNotInterlaced = 0;
@@ -31,12 +34,34 @@ constexpr unsigned kNotInterlaced = 0;
 constexpr std::size_t kDotsPerMetre = 3937;
 constexpr unsigned kUnitIsMetre = 1;
 
+unsigned pixelType(const CPackedPicture& picture)
+{
+    if (!picture.palette.empty())
+        return kPaletteType;
+    return picture.hasAlpha ? kTrueColorWithAlphaType : kTrueColorType;
+}
+
+// How many colours a file says the alpha of: all others are opaque.
+std::size_t countTranslucent(const std::vector<QRgb>& palette)
+{
+    const auto firstOpaque =
+        std::find_if(palette.begin(), palette.end(), [](QRgb color) { return isOpaque(color); });
+    return static_cast<std::size_t>(firstOpaque - palette.begin());
+}
+
+std::size_t paletteBytes(const std::vector<QRgb>& palette)
+{
+    if (palette.empty())
+        return 0;
+    const std::size_t translucent = countTranslucent(palette);
+    const std::size_t transparency = translucent == 0 ? 0 : kChunkFrame + translucent;
+    return kChunkFrame + kBytesPerColor * palette.size() + transparency;
+}
+
 std::size_t fileBytes(const CPackedPicture& picture, std::size_t rows)
 {
-    const std::size_t palette =
-        picture.palette.empty() ? 0 : kChunkFrame + kBytesPerColor * picture.palette.size();
-    return kSignature.size() + kChunkFrame + kHeaderBytes + palette + kChunkFrame +
-           kResolutionBytes + kChunkFrame + rows + kChunkFrame;
+    return kSignature.size() + kChunkFrame + kHeaderBytes + paletteBytes(picture.palette) +
+           kChunkFrame + kResolutionBytes + kChunkFrame + rows + kChunkFrame;
 }
 
 } // namespace
@@ -50,6 +75,8 @@ CPngBuilder::CPngBuilder(const CPackedPicture& picture, std::size_t room)
     writeHeader(picture);
     if (!picture.palette.empty())
         writePalette(picture.palette);
+    if (countTranslucent(picture.palette) > 0)
+        writeTransparency(picture.palette);
     writeResolution();
     beginChunk("IDAT", 0);
 }
@@ -80,7 +107,7 @@ void CPngBuilder::writeHeader(const CPackedPicture& picture)
     writeNumber(static_cast<std::size_t>(picture.width));
     writeNumber(static_cast<std::size_t>(picture.height));
     writeByte(static_cast<unsigned>(picture.depth));
-    writeByte(picture.palette.empty() ? kTrueColorType : kPaletteType);
+    writeByte(pixelType(picture));
     writeByte(kDeflate);
     writeByte(kFilterByRow);
     writeByte(kNotInterlaced);
@@ -95,6 +122,15 @@ void CPngBuilder::writePalette(const std::vector<QRgb>& palette)
         writeByte(static_cast<unsigned>(qGreen(color)));
         writeByte(static_cast<unsigned>(qBlue(color)));
     }
+    endChunk();
+}
+
+void CPngBuilder::writeTransparency(const std::vector<QRgb>& palette)
+{
+    const std::size_t count = countTranslucent(palette);
+    beginChunk("tRNS", count);
+    for (std::size_t number = 0; number < count; ++number)
+        writeByte(static_cast<unsigned>(qAlpha(palette[number])));
     endChunk();
 }
 

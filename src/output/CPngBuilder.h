@@ -34,6 +34,7 @@ public:
 private:
     void writeHeader(const CPackedPicture& picture);
     void writePalette(const std::vector<QRgb>& palette);
+    void writeTransparency(const std::vector<QRgb>& palette);
     void writeResolution();
 
     void beginChunk(const char* type, std::size_t size);

@@ -2,6 +2,7 @@
 // A picture's rows in the form that a PNG file compresses.
 #include "output/packed_picture.h"
 
+#include "output/opacity.h"
 #include "output/picture_colors.h"
 #include "output/pixel_blocks.h"
 
@@ -20,10 +21,11 @@ using Byte = unsigned char;
 constexpr int kBitsPerByte = 8;
 constexpr std::size_t kFilterBytes = 1;
 constexpr std::size_t kChannels = 3; // red, green and blue
+constexpr std::size_t kChannelsWithAlpha = 4;
 
-// Reads pixels from the picture's own memory and writes packed rows into it. A packed row with its
-// filter is at most as long as a row of pixels, so once a row has been read, packing it never
-// overwrites unread pixels.
+// Reads pixels from the picture's own memory and writes packed rows without alpha into it. Such a
+// row with its filter is at most as long as a row of pixels, so once a row has been read, packing
+// it never overwrites unread pixels.
 class CRowMemory
 {
 public:
@@ -204,12 +206,25 @@ CPackedPicture packPalette(QImage& picture, const CPictureColors& colors)
     return packed;
 }
 
+// Writes red, green and blue.
+void packColor(QRgb pixel, Byte* packed)
+{
+    packed[0] = static_cast<Byte>(qRed(pixel));
+    packed[1] = static_cast<Byte>(qGreen(pixel));
+    packed[2] = static_cast<Byte>(qBlue(pixel));
+}
+
 void packChannels(const QRgb* pixels, std::size_t count, Byte* packed)
 {
-    for (std::size_t x = 0; x < count; ++x, packed += kChannels) {
-        packed[0] = static_cast<Byte>(qRed(pixels[x]));
-        packed[1] = static_cast<Byte>(qGreen(pixels[x]));
-        packed[2] = static_cast<Byte>(qBlue(pixels[x]));
+    for (std::size_t x = 0; x < count; ++x, packed += kChannels)
+        packColor(pixels[x], packed);
+}
+
+void packChannelsWithAlpha(const QRgb* pixels, std::size_t count, Byte* packed)
+{
+    for (std::size_t x = 0; x < count; ++x, packed += kChannelsWithAlpha) {
+        packColor(pixels[x], packed);
+        packed[kChannels] = static_cast<Byte>(qAlpha(pixels[x]));
     }
 }
 
@@ -228,6 +243,32 @@ CPackedPicture packTrueColor(QImage& picture)
     packed.rows = memory.allPacked();
     packed.spare = memory.spare();
     return packed;
+}
+
+// With its filter, a packed row is longer than a row of pixels. The rows get memory of their own,
+// and the picture's is free for what comes of them.
+CPackedPicture packTrueColorWithAlpha(QImage& picture)
+{
+    const auto width = static_cast<std::size_t>(picture.width());
+    const auto height = static_cast<std::size_t>(picture.height());
+    const std::size_t stride = kFilterBytes + width * kChannelsWithAlpha;
+    CPackedPicture packed;
+    packed.hasAlpha = true;
+    packed.ownMemory = std::make_unique<Byte[]>(stride * height);
+    packed.rows = {packed.ownMemory.get(), stride * height};
+    packed.spare = {picture.bits(), static_cast<std::size_t>(picture.bytesPerLine()) * height};
+    for (int y = 0; y < picture.height(); ++y) {
+        Byte* const out = packed.ownMemory.get() + stride * static_cast<std::size_t>(y);
+        *out = static_cast<Byte>(RowFilter::None);
+        const auto* const pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        packChannelsWithAlpha(pixels, width, out + kFilterBytes);
+    }
+    return packed;
+}
+
+CPackedPicture packManyColors(QImage& picture)
+{
+    return isOpaque(picture) ? packTrueColor(picture) : packTrueColorWithAlpha(picture);
 }
 
 } // namespace
@@ -257,7 +298,7 @@ int paletteDepth(int colors)
 CPackedPicture packPicture(QImage& picture)
 {
     const CPictureColors colors = readColors(picture);
-    CPackedPicture packed = colors.areFew ? packPalette(picture, colors) : packTrueColor(picture);
+    CPackedPicture packed = colors.areFew ? packPalette(picture, colors) : packManyColors(picture);
     packed.width = picture.width();
     packed.height = picture.height();
     return packed;

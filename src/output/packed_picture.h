@@ -8,6 +8,7 @@
 
 #include <QRgb>
 
+#include <memory>
 #include <vector>
 
 class QImage;
@@ -34,19 +35,21 @@ enum class RowFilter : unsigned char
 
 struct CPackedPicture
 {
-    int width = 0;  // pixels
-    int height = 0; // likewise
-    int depth = 8;  // bits of a palette's index, or of one of the channels red, green and blue
-    std::vector<QRgb> palette; ///< empty if the pixels are red, green and blue
+    int width = 0;             // pixels
+    int height = 0;            // likewise
+    int depth = 8;             // bits of a palette's index, or of a channel
+    std::vector<QRgb> palette; ///< empty if the pixels are channels; opaque colours come last
+    bool hasAlpha = false;     ///< the channels are red, green, blue and alpha; else without alpha
     CByteRange rows;           ///< each one begins with its filter
     CByteRoom spare;           ///< the part of the picture's memory that the rows do not need
+    std::unique_ptr<unsigned char[]> ownMemory; ///< that of the rows where the picture's is short
 };
 
 /// Packs a picture as narrowly as its colours allow: as a palette if it has at most 256 colours,
-/// otherwise as red, green and blue.
+/// otherwise as red, green and blue, with alpha only if a pixel is not opaque.
 ///
-/// @param picture  in ARGB32, and opaque. Its pixels are overwritten, because the rows are packed
-///                 into its memory to avoid a second picture. It must outlive the result.
+/// @param picture  in ARGB32. Its pixels are overwritten, because its memory takes what is made of
+///                 them, to avoid a second picture. It must outlive the result.
 [[nodiscard]] CPackedPicture packPicture(QImage& picture);
 
 } // namespace tovangl

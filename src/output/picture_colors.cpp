@@ -2,6 +2,7 @@
 // What one pass over a picture finds: its colours, and the rows that repeat the row above.
 #include "output/picture_colors.h"
 
+#include "output/opacity.h"
 #include "output/pixel_blocks.h"
 
 #include <QImage>
@@ -76,12 +77,35 @@ bool addAllRows(CPictureColors& colors, const QImage& picture)
     return true;
 }
 
+bool areAllOpaque(const CColorIndex& index)
+{
+    for (int number = 0; number < index.count(); ++number) {
+        if (!isOpaque(index.colorAt(number)))
+            return false;
+    }
+    return true;
+}
+
+CColorIndex withOpaqueLast(const CColorIndex& index)
+{
+    CColorIndex sorted;
+    for (const bool areOpaque : {false, true}) {
+        for (int number = 0; number < index.count(); ++number) {
+            if (isOpaque(index.colorAt(number)) == areOpaque)
+                (void)sorted.add(index.colorAt(number));
+        }
+    }
+    return sorted;
+}
+
 } // namespace
 
 CPictureColors readColors(const QImage& picture)
 {
     CPictureColors colors;
     colors.areFew = addSampledRows(colors.index, picture) && addAllRows(colors, picture);
+    if (colors.areFew && !areAllOpaque(colors.index))
+        colors.index = withOpaqueLast(colors.index);
     return colors;
 }
 

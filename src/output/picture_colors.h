@@ -15,7 +15,7 @@ namespace tovangl {
 struct CPictureColors
 {
     bool areFew = false;          ///< they fit into a palette; only then is the rest valid
-    CColorIndex index;            ///< all colours
+    CColorIndex index;            ///< all colours; the opaque ones have the greatest numbers
     std::vector<bool> isRepeated; ///< for each row: whether it equals the row above
     int repeatedRows = 0;
 };

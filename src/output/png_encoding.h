@@ -14,7 +14,7 @@ namespace tovangl {
 /// The file, from which a decoder gets exactly the picture's pixels. It depends only on them and on
 /// the setting. Only std::bad_alloc can leave this call.
 ///
-/// @param picture  in ARGB32, and opaque. Its pixels are overwritten with intermediate data.
+/// @param picture  in ARGB32. Its pixels are overwritten with intermediate data.
 /// @return for a null picture no bytes, but a pointer that is not null
 [[nodiscard]] CPngFile encodePng(QImage& picture, Compression compression);
 

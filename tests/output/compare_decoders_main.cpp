@@ -69,7 +69,7 @@ private:
     long m_failed = 0;
 };
 
-// As many large pictures as small ones, with few colours and with many.
+// Small and large ones, with few colours and with many, opaque ones and others.
 QImage anyPicture(unsigned seed)
 {
     std::mt19937 random(seed);
@@ -82,7 +82,11 @@ QImage anyPicture(unsigned seed)
     int colors = 1 + upTo(10);
     for (int digits = upTo(5); digits > 0; --digits)
         colors *= 10;
-    return upTo(16) == 0 ? noise(seed, width, height) : randomPicture(seed, width, height, colors);
+    const bool isNoise = upTo(16) == 0;
+    if (upTo(2) == 0)
+        return isNoise ? translucentNoise(seed, width, height)
+                       : translucentPicture(seed, width, height, colors);
+    return isNoise ? noise(seed, width, height) : randomPicture(seed, width, height, colors);
 }
 
 bool compareAll(unsigned pictures, const QString& charts, const std::string& files)

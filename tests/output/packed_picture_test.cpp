@@ -54,6 +54,17 @@ TEST(PackedPicture, HoldsRedGreenAndBlueWhereColoursAreMany)
     EXPECT_EQ(packed.rows.data[1 + 256 * 3 + 1], 1);
 }
 
+TEST(PackedPicture, HoldsAlphaTooWhereOneOfManyColoursIsNotOpaque)
+{
+    QImage picture = pictureOfColors(257);
+    picture.setPixel(256, 0, qRgba(1, 2, 3, 4));
+    const CPackedPicture packed = packPicture(picture);
+    EXPECT_TRUE(packed.hasAlpha);
+    const std::vector<int> row = rowsOf(packed);
+    EXPECT_EQ(row.size(), 1 + 257 * 4u);
+    EXPECT_THAT(std::vector<int>(row.end() - 4, row.end()), ElementsAre(1, 2, 3, 4));
+}
+
 TEST(PackedPicture, LiesInThePicturesOwnMemory)
 {
     for (const int colors : {1, 3, 12, 200, 100000}) {
@@ -64,6 +75,16 @@ TEST(PackedPicture, LiesInThePicturesOwnMemory)
         EXPECT_EQ(packed.spare.data, memory + packed.rows.size);
         EXPECT_EQ(packed.rows.size + packed.spare.size, 61 * 47 * 4u);
     }
+}
+
+TEST(PackedPicture, LeavesThePicturesMemoryFreeWhereItsRowsHoldAlpha)
+{
+    QImage picture = translucentNoise(1, 61, 47);
+    const unsigned char* const memory = picture.bits();
+    const CPackedPicture packed = packPicture(picture);
+    EXPECT_EQ(packed.rows.size, (1 + 61 * 4u) * 47);
+    EXPECT_EQ(packed.spare.data, memory);
+    EXPECT_EQ(packed.spare.size, 61 * 47 * 4u);
 }
 
 TEST(RowFilter, IsNoneWhereNoRowRepeatsTheRowAbove)

@@ -50,6 +50,21 @@ TEST(PictureColors, AreManyWhereverThe257thIs)
     }
 }
 
+TEST(PictureColors, AreNumberedWithOpaqueOnesLast)
+{
+    const QImage picture = translucentPicture(3, 60, 50, 40);
+    const CColorIndex index = readColors(picture).index;
+    EXPECT_EQ(index.count(), countColors(picture));
+    int opaque = 0;
+    for (int number = 0; number < index.count(); ++number) {
+        const bool isLast = qAlpha(index.colorAt(number)) == 255;
+        EXPECT_TRUE(isLast || opaque == 0) << number;
+        opaque += isLast ? 1 : 0;
+    }
+    EXPECT_GT(opaque, 0);
+    EXPECT_LT(opaque, index.count());
+}
+
 TEST(PictureColors, TellWhichRowsRepeatTheRowAbove)
 {
     QImage picture(21, 5, QImage::Format_ARGB32);

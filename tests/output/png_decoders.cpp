@@ -52,7 +52,8 @@ QImage decodeWithSpng(const CPngFile& file)
         spng_decoded_image_size(decoder.get(), SPNG_FMT_RGBA8, &size) != 0)
         return QImage();
     std::vector<unsigned char> pixels(size);
-    if (spng_decode_image(decoder.get(), pixels.data(), size, SPNG_FMT_RGBA8, 0) != 0 ||
+    if (spng_decode_image(decoder.get(), pixels.data(), size, SPNG_FMT_RGBA8, SPNG_DECODE_TRNS) !=
+            0 ||
         spng_decode_chunks(decoder.get()) != 0)
         return QImage();
     return imageOf(pixels, static_cast<int>(head.width), static_cast<int>(head.height));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "output/encoded_files.h"
 #include "output/plain_encoding.h"
 #include "output/png_decoders.h"
-#include "output/png_encoding.h"
 #include "output/random_pictures.h"
 
 #include <algorithm>
@@ -11,33 +11,6 @@
 
 namespace tovangl {
 namespace {
-
-std::string bytesOf(const CPngFile& file)
-{
-    return std::string(reinterpret_cast<const char*>(file.data.get()), file.size);
-}
-
-CPngFile encoded(const QImage& picture, Compression compression)
-{
-    QImage copy = picture.copy();
-    return encodePng(copy, compression);
-}
-
-// The bytes of a chunk, without its length and its check; empty where there is none.
-std::string chunkOf(const std::string& file, const std::string& type)
-{
-    constexpr std::size_t kSignature = 8;
-    constexpr std::size_t kFrame = 12;
-    for (std::size_t at = kSignature; at + kFrame <= file.size();) {
-        std::size_t length = 0;
-        for (std::size_t i = 0; i < 4; ++i)
-            length = length << 8 | static_cast<unsigned char>(file[at + i]);
-        if (file.compare(at + 4, 4, type) == 0)
-            return file.substr(at + 8, length);
-        at += length + kFrame;
-    }
-    return "";
-}
 
 class PngOfAPicture : public ::testing::TestWithParam<Compression>
 {

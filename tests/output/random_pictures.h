@@ -12,11 +12,18 @@ namespace tovangl {
 /// half of the rows repeat the row above.
 [[nodiscard]] QImage randomPicture(unsigned seed, int width, int height, int colors);
 
+/// The same, but of each three colours one is translucent and one fully transparent, whatever its
+/// red, green and blue.
+[[nodiscard]] QImage translucentPicture(unsigned seed, int width, int height, int colors);
+
 /// One row in which every pixel has a colour of its own.
 [[nodiscard]] QImage pictureOfColors(int colors);
 
 /// An opaque picture whose pixels are all drawn by lot from all colours.
 [[nodiscard]] QImage noise(unsigned seed, int width, int height);
+
+/// The same, with alpha drawn by lot too.
+[[nodiscard]] QImage translucentNoise(unsigned seed, int width, int height);
 
 } // namespace tovangl
 

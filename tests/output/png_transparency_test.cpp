@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "output/encoded_files.h"
+#include "output/png_decoders.h"
+#include "output/random_pictures.h"
+
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+namespace tovangl {
+namespace {
+
+constexpr char kPalette = 3;
+constexpr char kTrueColor = 2;
+constexpr char kTrueColorWithAlpha = 6;
+
+char pixelTypeOf(const std::string& file)
+{
+    constexpr std::size_t kPlace = 9;
+    return chunkOf(file, "IHDR").at(kPlace);
+}
+
+std::string balanced(const QImage& picture)
+{
+    return bytesOf(encoded(picture, Compression::Balanced));
+}
+
+QImage pictureOf(std::initializer_list<QRgb> pixels)
+{
+    QImage picture(static_cast<int>(pixels.size()), 1, QImage::Format_ARGB32);
+    int x = 0;
+    for (const QRgb pixel : pixels)
+        picture.setPixel(x++, 0, pixel);
+    return picture;
+}
+
+// Nothing is behind it.
+QImage softDisc(int size)
+{
+    QImage picture(size, size, QImage::Format_ARGB32);
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(picture.rect(), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(200, 90, 30));
+    painter.drawEllipse(QRect(3, 3, size - 7, size - 7));
+    return picture;
+}
+
+class PngOfATranslucentPicture : public ::testing::TestWithParam<Compression>
+{
+protected:
+    static void expectPixels(const QImage& picture)
+    {
+        EXPECT_TRUE(decodesTo(encoded(picture, GetParam()), picture))
+            << picture.width() << " x " << picture.height();
+    }
+};
+
+TEST_P(PngOfATranslucentPicture, DecodesToItsPixels)
+{
+    for (int round = 0; round < 400; ++round) {
+        const auto seed = static_cast<unsigned>(round);
+        expectPixels(translucentPicture(seed, 1 + round * 7 % 73, 1 + round * 5 % 61, 1 + round));
+    }
+}
+
+TEST_P(PngOfATranslucentPicture, DecodesToItsPixelsWhereItIsLarge)
+{
+    for (const int colors : {2, 4, 16, 200, 100000})
+        expectPixels(translucentPicture(static_cast<unsigned>(colors), 1501, 700, colors));
+}
+
+TEST_P(PngOfATranslucentPicture, DecodesToItsPixelsWhereItIsAsNarrowAsCanBe)
+{
+    expectPixels(pictureOf({qRgba(1, 2, 3, 0)}));
+    for (const int colors : {2, 200, 100000}) {
+        expectPixels(translucentPicture(1, 1, 100000, colors));
+        expectPixels(translucentPicture(1, 100000, 1, colors));
+    }
+}
+
+TEST_P(PngOfATranslucentPicture, DecodesToItsPixelsWhereItIsNoise)
+{
+    expectPixels(translucentNoise(2, 300, 200));
+    expectPixels(translucentNoise(3, 1, 200000));
+    expectPixels(translucentNoise(4, 1000, 800));
+}
+
+TEST_P(PngOfATranslucentPicture, HoldsTheSameBytesEachTime)
+{
+    for (const int colors : {40, 100000}) {
+        const QImage picture = translucentPicture(7, 1000, 600, colors);
+        const std::string first = bytesOf(encoded(picture, GetParam()));
+        (void)encoded(translucentNoise(5, 900, 700), GetParam());
+        EXPECT_EQ(bytesOf(encoded(picture, GetParam())), first) << colors;
+    }
+}
+
+TEST_P(PngOfATranslucentPicture, KeepsSoftEdges)
+{
+    for (const int size : {20, 400}) {
+        const QImage disc = softDisc(size);
+        const QImage decoded = decodeWithSpng(encoded(disc, GetParam()));
+        ASSERT_EQ(decoded, disc) << size;
+        EXPECT_EQ(decoded.pixel(0, 0), qRgba(0, 0, 0, 0));
+        EXPECT_EQ(decoded.pixel(size / 2, size / 2), qRgb(200, 90, 30));
+        EXPECT_EQ(decodeWithLibpng(encoded(disc, GetParam())), disc) << size;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(PngTransparency, PngOfATranslucentPicture,
+                         ::testing::Values(Compression::Balanced, Compression::Fast));
+
+TEST(PngTransparency, IsNotMentionedInAnOpaquePicture)
+{
+    const std::string narrow = balanced(randomPicture(7, 100, 60, 40));
+    EXPECT_EQ(pixelTypeOf(narrow), kPalette);
+    EXPECT_EQ(chunkOf(narrow, "tRNS"), "");
+    const std::string wide = balanced(noise(7, 100, 60));
+    EXPECT_EQ(pixelTypeOf(wide), kTrueColor);
+    EXPECT_EQ(chunkOf(wide, "tRNS"), "");
+}
+
+TEST(PngTransparency, OfAPaletteIsThatOfItsFirstColours)
+{
+    const std::string file =
+        balanced(pictureOf({qRgb(9, 9, 9), qRgba(1, 1, 1, 128), qRgb(8, 8, 8), qRgba(0, 0, 0, 0)}));
+    EXPECT_EQ(pixelTypeOf(file), kPalette);
+    EXPECT_EQ(chunkOf(file, "PLTE"), std::string("\1\1\1\0\0\0\x9\x9\x9\x8\x8\x8", 12));
+    EXPECT_EQ(chunkOf(file, "tRNS"), std::string("\x80\0", 2));
+}
+
+TEST(PngTransparency, TellsColoursApartThatDifferInNothingElse)
+{
+    QImage picture(256, 1, QImage::Format_ARGB32);
+    for (int x = 0; x < picture.width(); ++x)
+        picture.setPixel(x, 0, qRgba(9, 9, 9, 255 - x));
+    const CPngFile file = encoded(picture, Compression::Balanced);
+    EXPECT_EQ(chunkOf(bytesOf(file), "tRNS").size(), 255u);
+    EXPECT_TRUE(decodesTo(file, picture));
+}
+
+TEST(PngTransparency, OfASinglePixelAmongManyColoursIsFoundWhereverItIs)
+{
+    const QImage picture = noise(6, 67, 41);
+    for (const QPoint place : {QPoint(0, 0), QPoint(66, 0), QPoint(30, 20), QPoint(66, 40)}) {
+        QImage changed = picture;
+        changed.setPixel(place, qRgba(1, 2, 3, 254));
+        const CPngFile file = encoded(changed, Compression::Balanced);
+        EXPECT_EQ(pixelTypeOf(bytesOf(file)), kTrueColorWithAlpha) << place.x();
+        EXPECT_TRUE(decodesTo(file, changed)) << place.x();
+    }
+}
+
+} // namespace
+} // namespace tovangl
