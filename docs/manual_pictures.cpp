@@ -201,6 +201,24 @@ void pieColors(PictureFolder& folder)
     folder.draw(chart, "pie_colors", 400, 220);
 }
 
+void pieOthers(PictureFolder& folder)
+{
+    PieGraph chart(true);
+    addAll(chart, {{41 * kGiga, "home"},
+                   {23 * kGiga, "usr"},
+                   {12 * kGiga, "var"},
+                   {6 * kGiga, "opt"},
+                   {2 * kGiga, "srv"},
+                   {900 * kMega, "boot"},
+                   {700 * kMega, "tmp"},
+                   {400 * kMega, "root"}});
+    //! [others]
+    chart.setThreshold(5);
+    chart.setOthers("all others");
+    //! [others]
+    folder.draw(chart, "others", 450, 240);
+}
+
 // --- all charts
 
 void title(PictureFolder& folder)

@@ -117,6 +117,42 @@ void CWatchedChart::setPosition(int x, int y)
     m_hasFixedPlaces = true;
 }
 
+void CWatchedChart::setOthers(const std::string& caption)
+{
+    m_chart.graph().setOthers(caption);
+    m_wantsOthers = !caption.empty();
+}
+
+void CWatchedChart::setScale(int scale)
+{
+    constexpr int kGreatest = 1000;
+    m_chart.graph().setScale(scale);
+    m_scale = std::clamp(scale, 1, kGreatest);
+}
+
+void CWatchedChart::setByName(const std::string& name, const std::string& value)
+{
+    if (m_chart.graph().setByName(name, value).empty())
+        noteSetting(name, value);
+}
+
+void CWatchedChart::noteSetting(const std::string& name, const std::string& value)
+{
+    if (name == "threshold")
+        m_threshold = m_chart.graph().threshold();
+    else if (name == "others")
+        m_wantsOthers = !value.empty();
+    else if (name == "scale")
+        m_scale = std::stoi(value);
+    else if (name == "position" || name == "bar_width")
+        m_hasFixedPlaces = true;
+}
+
+std::size_t CWatchedChart::recordCount() const
+{
+    return m_itemCount + (m_wantsOthers ? 1 : 0);
+}
+
 CExport CWatchedChart::exportPicture(int width, int height, int factor)
 {
     return factor == 0 ? m_chart.createPixmap(width, height)
@@ -133,8 +169,9 @@ void CWatchedChart::render(int width, int height, int factor)
     if (isFaultSeeded() && m_itemCount > 1 && m_export.size > 0)
         m_bytes.back() = static_cast<char>(~m_bytes.back());
 
-    const std::int64_t scale = std::max(factor, 1);
+    const std::int64_t scale = factor == 0 ? m_scale : std::max(factor, 1);
     checkPicture(width * scale, height * scale);
+    checkTitle(width * scale, height * scale);
     checkRegions(width * scale, height * scale);
 }
 
@@ -162,13 +199,15 @@ void CWatchedChart::checkBytes() const
 
 void CWatchedChart::checkLists()
 {
-    require(m_chart.itemRectangles().size() == m_itemCount, "every item has a caption rectangle");
-    require(m_chart.barRectangles().size() <= m_itemCount, "there are no more bars than items");
+    require(m_chart.itemRectangles().size() == recordCount(),
+            "every item has a caption rectangle, and so do the others");
+    require(m_chart.barRectangles().size() <= m_itemCount + 1,
+            "there are no more bars than items and the one of the others");
     const bool isPie = m_chart.kind() == ChartKind::Pie;
-    require(m_chart.itemBarRectangles().size() == (isPie ? 0 : m_itemCount),
-            "every item of a bar chart has a bar rectangle");
-    require(m_chart.slices().size() == (isPie ? m_itemCount : 0),
-            "every item of a pie has a slice record");
+    require(m_chart.itemBarRectangles().size() == (isPie ? 0 : recordCount()),
+            "every item of a bar chart has a bar rectangle, and so do the others");
+    require(m_chart.slices().size() == (isPie ? recordCount() : 0),
+            "every item of a pie has a slice record, and so do the others");
     require(!m_chart.graph().describe().empty(), "every chart has a description");
 }
 
@@ -184,6 +223,13 @@ void CWatchedChart::checkPicture(std::int64_t width, std::int64_t height) const
         return;
     require(headerNumber(m_bytes, kWidthOffset) == width, "a picture is as wide as asked for");
     require(headerNumber(m_bytes, kHeightOffset) == height, "a picture is as high as asked for");
+}
+
+void CWatchedChart::checkTitle(std::int64_t width, std::int64_t height) const
+{
+    const Rectangle title = m_chart.graph().titleRectangle();
+    require(isInvisible(title) || isInside(title, width, height),
+            "a title lies inside the picture");
 }
 
 void CWatchedChart::checkRegions(std::int64_t width, std::int64_t height)

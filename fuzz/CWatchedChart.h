@@ -27,6 +27,11 @@ public:
     void setThreshold(double percent);
     void setBarWidth(int width);
     void setPosition(int x, int y);
+    void setOthers(const std::string& caption);
+    void setScale(int scale);
+    void setByName(const std::string& name, const std::string& value);
+    /// Picture pixels for each pixel of a size on the screen.
+    [[nodiscard]] int scale() const { return m_scale; }
     /// Renders twice, on the screen (factor 0) or for print.
     void render(int width, int height, int factor);
 
@@ -35,16 +40,22 @@ public:
 
 private:
     void noteItem(long value);
+    void noteSetting(const std::string& name, const std::string& value);
+    // One for each item, and one for the others where they are wanted.
+    [[nodiscard]] std::size_t recordCount() const;
     CExport exportPicture(int width, int height, int factor);
     void checkThreshold() const;
     void checkBytes() const;
     void checkLists();
     void checkPicture(std::int64_t width, std::int64_t height) const;
+    void checkTitle(std::int64_t width, std::int64_t height) const;
     void checkRegions(std::int64_t width, std::int64_t height);
 
     CAnyChart m_chart;
     std::size_t m_itemCount = 0;
     double m_threshold = 0;
+    bool m_wantsOthers = false;
+    int m_scale = 1;
     // Either may put bars outside the picture: positions and bar widths of the host's own, and a
     // scale that ends below zero.
     bool m_hasFixedPlaces = false;

@@ -8,6 +8,8 @@
 #include <fuzzer/FuzzedDataProvider.h>
 #include <limits>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace tovangl {
 namespace {
@@ -53,6 +55,12 @@ private:
         SetProperties,
         SetPosition,
         SetBarWidth,
+        SetTitle,
+        SetOthers,
+        SetPalette,
+        SetTheme,
+        SetScale,
+        SetByName,
         Render,
         kMaxValue = Render
     };
@@ -102,6 +110,18 @@ private:
             return chart.setPosition(readInt(), readInt());
         case SetBarWidth:
             return chart.setBarWidth(readInt());
+        case SetTitle:
+            return chart.chart().graph().setTitle(readText());
+        case SetOthers:
+            return chart.setOthers(readText());
+        case SetPalette:
+            return setPalette(chart);
+        case SetTheme:
+            return chart.chart().graph().setTheme(static_cast<Theme>(readInt()));
+        case SetScale:
+            return chart.setScale(readFactor());
+        case SetByName:
+            return setByName(chart);
         default:
             return render(chart);
         }
@@ -117,12 +137,31 @@ private:
             chart.addItem(value / (i + 1), text);
     }
 
+    void setPalette(CWatchedChart& chart)
+    {
+        constexpr int kMany = 9;
+        std::vector<Color> colors;
+        for (int count = m_input.ConsumeIntegralInRange(0, kMany); count > 0; --count)
+            colors.push_back(readColor());
+        chart.chart().graph().setPalette(colors);
+    }
+
+    void setByName(CWatchedChart& chart)
+    {
+        const SettingTable table = settings();
+        const auto count = static_cast<std::size_t>(table.end() - table.begin());
+        const std::size_t row = m_input.ConsumeIntegralInRange<std::size_t>(0, count);
+        const std::string name = row < count ? table.begin()[row].name : readText();
+        chart.setByName(name, readSettingValue());
+    }
+
     void render(CWatchedChart& chart)
     {
         const int width = readSide();
         const int height = readSide();
         const int factor = m_input.ConsumeBool() ? 0 : readFactor();
-        const double pixels = 1.0 * width * height * std::max(factor, 1) * std::max(factor, 1);
+        const double scale = factor == 0 ? chart.scale() : std::max(factor, 1);
+        const double pixels = 1.0 * width * height * scale * scale;
         if (pixels <= kMostDrawnPixels || pixels > kMostPixels)
             chart.render(width, height, factor);
     }
@@ -177,6 +216,32 @@ private:
         const int red = readInt();
         const int green = readInt();
         return Color{red, green, readInt()};
+    }
+
+    // One that some setting takes, or any text.
+    std::string readSettingValue()
+    {
+        static constexpr std::array kValues = {"true",
+                                               "false",
+                                               "none",
+                                               "default",
+                                               "transparent",
+                                               "dark",
+                                               "1",
+                                               "3",
+                                               "-1",
+                                               "1000",
+                                               "1024",
+                                               "12.5",
+                                               "nan",
+                                               "#104080",
+                                               "de_AT",
+                                               "#104080,#fa0",
+                                               "#104080,#ffaa00",
+                                               "60,200",
+                                               "line,title",
+                                               "colour-blind"};
+        return m_input.ConsumeBool() ? readText() : m_input.PickValueInArray(kValues);
     }
 
     std::string readText()

@@ -43,8 +43,8 @@ public:
 
     /// Leaves out items whose share of the total is smaller than this.
     ///
-    /// The total is the sum of all magnitudes. Nothing is drawn for an item left out, and the chart
-    /// has no bar or slice for the rest.
+    /// The total is the sum of all magnitudes. Nothing is drawn for an item left out. setOthers()
+    /// adds one bar or slice for all of them.
     ///
     /// @param percent  per cent of the total; a negative value acts as 0, NaN leaves out every item
     void setThreshold(double percent);
@@ -101,11 +101,14 @@ public:
     /// Where the last rendering drew the title; all zero where it drew none.
     Rectangle titleRectangle() const;
 
-    /// Gathers what the threshold leaves out into one more item, drawn after all others.
+    /// Gathers what the threshold leaves out into one more item, in grey, drawn after all others
+    /// whatever its share.
     ///
-    /// Its value is the sum of theirs, of which a pie takes those above 0; where there is nothing
-    /// to gather, nothing is drawn for it. getRectangle() and its like then have one more record,
-    /// the last, for this item.
+    /// Its value is the sum of theirs, of which a pie takes those above 0. A sum beyond the range
+    /// of long is the nearest number in it. Where there is nothing to gather, nothing is drawn for
+    /// the item. As long as a caption is set, the lists that have one record for each item have one
+    /// more, the last, for this item: getRectangle(), getItemBarRectangle() of the bars, getSlice()
+    /// of the pie. All its fields are 0 where the last rendering drew no such item.
     ///
     /// @param caption  UTF-8; empty, the default, drops what the threshold leaves out
     void setOthers(const std::string& caption);
@@ -152,6 +155,7 @@ public:
     ///
     /// The rectangles are those of the last rendering: all zero for a hidden caption and for an
     /// item never drawn, and those of an earlier rendering for an item that the threshold left out.
+    /// With setOthers(), there is one more rectangle at the end.
     ///
     /// @return a list owned by this object and rewritten by the next call; never null
     std::list<Rectangle>* getRectangle();
@@ -161,7 +165,8 @@ public:
     /// It names the kind of chart, the number of items drawn, and the greatest and the least of
     /// these with their captions: Pie chart, 2 of 3 items drawn: the greatest is “Rent” with 1,200,
     /// the least is “Food” with 430. A title comes first, in a sentence of its own: “Spending”. Pie
-    /// chart, 2 of 3 items drawn. The items drawn are those that the threshold left in, or none
+    /// chart, 2 of 3 items drawn. What setOthers() gathers comes last: and 12 others with 340
+    /// together. The items drawn are those that the threshold left in, or none
     /// if the picture had no room for the chart. Numbers follow the chart's locale. The sentence is
     /// one line: white space and control characters in texts become spaces, and only the first 256
     /// characters of a caption or title are used.

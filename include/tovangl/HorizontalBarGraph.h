@@ -73,14 +73,16 @@ public:
     void setValueColor(const Color& color);
 
     /// Where the bars were drawn in the last rendering: one rectangle for each bar that the
-    /// threshold did not leave out, in the order of adding. A bar of value 0 has width 0; all
+    /// threshold did not leave out, in the order of adding, and then the one of setOthers() where
+    /// it was drawn. A bar of value 0 has width 0; all
     /// four fields are 0 where the scale has no room. Empty before the first rendering, and after
     /// one that did not fit.
     ///
     /// @return a list owned by this object and rewritten by the next call; never null
     std::list<Rectangle>* getBarRectangle();
 
-    /// Which bar belongs to which item: one rectangle for each item, in the order of adding.
+    /// Which bar belongs to which item: one rectangle for each item, in the order of adding, and
+    /// with setOthers() one more at the end.
     ///
     /// The rectangles always describe the last rendering. All four fields are 0
     /// where that rendering drew no bar: the item was below the threshold, its bar has no extent,

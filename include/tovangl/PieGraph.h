@@ -63,7 +63,8 @@ public:
     /// Sets the unit of the sizes, which stands after the number: "B" by default, as in [1.5 KB].
     void setUnit(const std::string& unit);
 
-    /// Where the slices were drawn: one record for each item, in the order of adding.
+    /// Where the slices were drawn: one record for each item, in the order of adding, and with
+    /// setOthers() one more at the end.
     ///
     /// The records always describe the last rendering. All fields are 0 where
     /// that rendering drew no slice: the value was not above 0, its share was below the threshold

@@ -19,12 +19,13 @@ std::vector<QRect> CBarBase::barRectangles() const
 
 std::vector<QRect> CBarBase::itemBarRectangles() const
 {
-    std::vector<QRect> rects(input().items.size());
+    std::vector<QRect> rects(recordCount());
     if (!isDrawn())
         return rects;
     for (const CBar& bar : layout().bars) {
-        if (bar.rect.isValid())
-            rects[bar.item] = bar.rect;
+        const std::optional<std::size_t> record = recordOf(bar.item);
+        if (record && bar.rect.isValid())
+            rects[*record] = bar.rect;
     }
     return rects;
 }

@@ -18,8 +18,8 @@ public:
     /// The rectangles of the bars in the last picture that could be made, in the order of adding.
     /// Empty if it had no room for the chart.
     [[nodiscard]] std::vector<QRect> barRectangles() const;
-    /// One rectangle for each item, in the order of adding: its bar in the last rendering, or the
-    /// null rectangle if there was none.
+    /// One rectangle for each record: its bar in the last rendering, or the null rectangle if there
+    /// was none.
     [[nodiscard]] std::vector<QRect> itemBarRectangles() const;
 
 protected:

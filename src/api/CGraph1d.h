@@ -30,9 +30,11 @@ protected:
 
     [[nodiscard]] CSettingTarget settingTarget() final { return CSettingTarget(m_input); }
     std::optional<CDrawnTexts> drawContents(CCanvas& canvas, const CRequest& request,
-                                            const std::vector<std::size_t>& drawn) final
+                                            const std::vector<std::size_t>& drawn,
+                                            const std::optional<CGraph1dItem>& others) final
     {
-        m_layout = computeLayout(m_input, drawn, request, canvas.measurer());
+        m_layout = others ? layOutWith(*others, drawn, request, canvas)
+                          : computeLayout(m_input, drawn, request, canvas.measurer());
         if (!m_layout.fits())
             return std::nullopt;
         canvas.paint(m_layout);
@@ -41,6 +43,16 @@ protected:
     void forgetLayout() final { m_layout = Layout(); }
 
 private:
+    // The layout of a chart with one more item. The host's own items stay as they are.
+    Layout layOutWith(const CGraph1dItem& others, std::vector<std::size_t> drawn,
+                      const CRequest& request, CCanvas& canvas) const
+    {
+        Input input = m_input;
+        drawn.push_back(input.items.size());
+        input.items.push_back(others);
+        return computeLayout(input, drawn, request, canvas.measurer());
+    }
+
     Input m_input;
     Layout m_layout;
 };

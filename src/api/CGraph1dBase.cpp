@@ -21,6 +21,7 @@ void CGraph1dBase::clear()
     input().items.clear();
     m_itemRects.clear();
     m_selectedItems.clear();
+    m_others.reset();
     forgetLayout();
 }
 
@@ -66,12 +67,29 @@ std::vector<QRect> CGraph1dBase::itemRectangles() const
 {
     std::vector<QRect> rects = m_itemRects;
     rects.resize(input().items.size());
+    if (wantsOthers())
+        rects.push_back(m_others ? m_others->caption : QRect());
     return rects;
+}
+
+std::size_t CGraph1dBase::recordCount() const
+{
+    return input().items.size() + (wantsOthers() ? 1 : 0);
+}
+
+std::optional<std::size_t> CGraph1dBase::recordOf(std::size_t item) const
+{
+    // The host can have added items since, which stand where the others stood.
+    if (!m_others || item != m_others->item)
+        return item;
+    return wantsOthers() ? std::optional(input().items.size()) : std::nullopt;
 }
 
 std::string CGraph1dBase::describe() const
 {
-    return describeChart(kindName(), input(), drawnItems());
+    const std::optional<CLeftOut> others =
+        m_others ? std::optional(m_others->leftOut) : std::nullopt;
+    return describeChart(kindName(), input(), drawnItems(), others);
 }
 
 void CGraph1dBase::forgetDrawing()
@@ -79,6 +97,7 @@ void CGraph1dBase::forgetDrawing()
     m_isDrawn = false;
     m_problem = Problem::NoMemory;
     m_titleRect = QRect();
+    m_others.reset();
 }
 
 const CPngFile& CGraph1dBase::paintDevice2Bytes(QImage& image)
@@ -88,6 +107,11 @@ const CPngFile& CGraph1dBase::paintDevice2Bytes(QImage& image)
     m_file = encodePng(image, input().settings.compression);
     m_problem = ofDrawing;
     return m_file;
+}
+
+bool CGraph1dBase::wantsOthers() const
+{
+    return !input().settings.othersCaption.isEmpty();
 }
 
 CKilo CGraph1dBase::kilo() const
@@ -116,10 +140,13 @@ void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
     recordCaptions(std::vector<QRect>(m_selectedItems.size()));
 
     CCanvas canvas(device, input().settings, request.scale);
-    const auto texts = drawContents(canvas, request, m_selectedItems);
+    const auto others = input().gatherOthers(selection.leftOut);
+    const auto texts = drawContents(canvas, request, m_selectedItems, others);
     if (texts) {
         recordCaptions(texts->captions);
         m_titleRect = texts->title;
+        if (others)
+            m_others = COthers{input().items.size(), selection.leftOut, texts->captions.back()};
     }
     m_isDrawn = texts.has_value();
     m_problem = m_isDrawn ? Problem::None : Problem::TooSmallForChart;
@@ -128,7 +155,7 @@ void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
 void CGraph1dBase::recordCaptions(const std::vector<QRect>& captions)
 {
     m_itemRects.resize(input().items.size());
-    for (std::size_t i = 0; i < captions.size(); ++i)
+    for (std::size_t i = 0; i < m_selectedItems.size(); ++i)
         m_itemRects[m_selectedItems[i]] = captions[i];
 }
 

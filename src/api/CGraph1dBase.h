@@ -68,8 +68,13 @@ public:
     /// The items drawn by the last rendering, as positions among all of them; none where isDrawn()
     /// is false.
     [[nodiscard]] std::vector<std::size_t> drawnItems() const;
-    /// One caption rectangle for each item, in the order of adding; null if it was never drawn.
+    /// One caption rectangle for each record; null if it was never drawn.
     [[nodiscard]] std::vector<QRect> itemRectangles() const;
+    /// The records of a list: one for each item, in the order of adding, and where the host wants
+    /// others, a last one for them.
+    [[nodiscard]] std::size_t recordCount() const;
+    /// The record of an item of the last layout; none for others that the host wants no more.
+    [[nodiscard]] std::optional<std::size_t> recordOf(std::size_t item) const;
     /// Where the last rendering drew the title; null where it drew none.
     [[nodiscard]] QRect titleRectangle() const { return m_titleRect; }
     [[nodiscard]] std::string describe() const;
@@ -82,13 +87,25 @@ protected:
     [[nodiscard]] virtual CItemSelection selectItems() const = 0;
     /// Lays out the chart and paints it if it fits.
     ///
+    /// @param drawn   positions of items
+    /// @param others  one more item, which is drawn after them
     /// @return where its texts are; empty if the chart does not fit
     virtual std::optional<CDrawnTexts> drawContents(CCanvas& canvas, const CRequest& request,
-                                                    const std::vector<std::size_t>& drawn) = 0;
+                                                    const std::vector<std::size_t>& drawn,
+                                                    const std::optional<CGraph1dItem>& others) = 0;
     /// Drops the last layout's results for removed items.
     virtual void forgetLayout() = 0;
 
 private:
+    // The item that gathers what a rendering left out.
+    struct COthers
+    {
+        std::size_t item = 0; // its position: that behind all items of the rendering
+        CLeftOut leftOut;
+        QRect caption;
+    };
+
+    [[nodiscard]] bool wantsOthers() const;
     [[nodiscard]] CKilo kilo() const;
     [[nodiscard]] QImage draw(const CRequest& request);
     void drawGraph(QPaintDevice& device, const CRequest& request);
@@ -100,7 +117,8 @@ private:
     std::vector<std::size_t> m_selectedItems;
     std::optional<double> m_actingThreshold; // none since the threshold was set
     QRect m_titleRect;
-    CPngFile m_file; // of the last rendering
+    std::optional<COthers> m_others; // none where the last rendering drew none
+    CPngFile m_file;                 // of the last rendering
     bool m_isDrawn = false;
     Problem m_problem = Problem::None;
 };

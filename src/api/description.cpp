@@ -69,10 +69,21 @@ QString extremes(const std::vector<const CGraph1dItem*>& items, const QLocale& l
            QLatin1String(", the least is ") + mention(**least, locale);
 }
 
+// What was gathered into one item.
+QString gathered(const CLeftOut& others, const QLocale& locale)
+{
+    const QString sum = numberOf(others.value(), locale);
+    if (others.count() == 1)
+        return QLatin1String(", and 1 other with ") + sum;
+    return QLatin1String(", and ") + numberOf(static_cast<long long>(others.count()), locale) +
+           QLatin1String(" others with ") + sum + QLatin1String(" together");
+}
+
 } // namespace
 
 std::string describeChart(const char* kind, const CGraph1dInput& input,
-                          const std::vector<std::size_t>& drawn)
+                          const std::vector<std::size_t>& drawn,
+                          const std::optional<CLeftOut>& others)
 {
     const QLocale& locale = input.settings.locale;
     std::vector<const CGraph1dItem*> items;
@@ -85,7 +96,8 @@ std::string describeChart(const char* kind, const CGraph1dInput& input,
     const QString text = introduction(input.settings.title) + QLatin1String(kind) +
                          QLatin1String(", ") + count(items.size()) + QLatin1String(" of ") +
                          count(input.items.size()) + QLatin1String(" items drawn") +
-                         extremes(items, locale) + QLatin1Char('.');
+                         extremes(items, locale) +
+                         (others ? gathered(*others, locale) : QString()) + QLatin1Char('.');
     const QByteArray bytes = text.toUtf8();
     return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }

@@ -4,7 +4,10 @@
 #ifndef TOVANGL_API_DESCRIPTION_H
 #define TOVANGL_API_DESCRIPTION_H
 
+#include "input/CLeftOut.h"
+
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,10 +18,12 @@ struct CGraph1dInput;
 /// Says how many items were drawn, and names the greatest and the least of them, for a picture's
 /// alternative text. UTF-8.
 ///
-/// @param kind   the words that the sentence begins with
-/// @param drawn  positions of the items drawn, ascending
+/// @param kind    the words that the sentence begins with
+/// @param drawn   positions of the items drawn, ascending
+/// @param others  what one more item gathers; none where there is no such item
 [[nodiscard]] std::string describeChart(const char* kind, const CGraph1dInput& input,
-                                        const std::vector<std::size_t>& drawn);
+                                        const std::vector<std::size_t>& drawn,
+                                        const std::optional<CLeftOut>& others);
 
 } // namespace tovangl
 

@@ -42,11 +42,12 @@ Slice toSlice(const CSliceAngles& slice, const QRectF& pie)
 
 void assignSlices(std::list<Slice>& list, const CPieGraph& graph)
 {
-    std::vector<Slice> records(graph.input().items.size(), kNoSlice);
+    std::vector<Slice> records(graph.recordCount(), kNoSlice);
     if (graph.isDrawn()) {
         for (const CPieSlice& slice : graph.layout().slices) {
-            if (slice.angles.span != 0)
-                records[slice.item] = toSlice(slice.angles, graph.layout().drawnPieRect);
+            const std::optional<std::size_t> record = graph.recordOf(slice.item);
+            if (record && slice.angles.span != 0)
+                records[*record] = toSlice(slice.angles, graph.layout().drawnPieRect);
         }
     }
     std::list<Slice>(records.begin(), records.end()).swap(list);

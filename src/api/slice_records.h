@@ -12,8 +12,8 @@ namespace tovangl {
 
 class CPieGraph;
 
-/// Replaces the list's content with one record for each item. If memory runs out, the list keeps
-/// its old content.
+/// Replaces the list's content with one record for each item, and one for the others. If memory
+/// runs out, the list keeps its old content.
 void assignSlices(std::list<Slice>& list, const CPieGraph& graph);
 
 } // namespace tovangl

@@ -38,4 +38,11 @@ QColor CGraph1dInput::outlineColor(std::size_t item) const
     return ofChart.isValid() ? ofChart : fillColor(item).darker(kOutlineDarkness);
 }
 
+std::optional<CGraph1dItem> CGraph1dInput::gatherOthers(const CLeftOut& leftOut) const
+{
+    if (settings.othersCaption.isEmpty() || leftOut.count() == 0)
+        return std::nullopt;
+    return CGraph1dItem{leftOut.value(), settings.othersCaption, othersColor(), QColor()};
+}
+
 } // namespace tovangl

@@ -6,8 +6,10 @@
 
 #include "input/CGraph1dItem.h"
 #include "input/CGraph1dSettings.h"
+#include "input/CLeftOut.h"
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace tovangl {
@@ -22,6 +24,10 @@ struct CGraph1dInput
     [[nodiscard]] QColor fillColor(std::size_t item) const;
     /// The colour of a bar's outline: its own, or else the chart's, or else a darker fill colour.
     [[nodiscard]] QColor outlineColor(std::size_t item) const;
+
+    /// The item that gathers what the threshold leaves out; none if that is nothing, or to be
+    /// dropped.
+    [[nodiscard]] std::optional<CGraph1dItem> gatherOthers(const CLeftOut& leftOut) const;
 
     CGraph1dSettings settings;
     std::vector<CGraph1dItem> items; ///< in the order of adding

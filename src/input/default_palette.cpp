@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The default colours of items.
+// The colours that items have by default.
 #include "input/default_palette.h"
 
 #include <array>
@@ -29,6 +29,12 @@ QColor defaultColor(std::size_t position)
 {
     const CPaletteEntry& entry = kDefaultPalette[position % kDefaultPalette.size()];
     return QColor(entry.red, entry.green, entry.blue);
+}
+
+QColor othersColor()
+{
+    constexpr int kGrey = 110;
+    return QColor(kGrey, kGrey, kGrey);
 }
 
 } // namespace tovangl

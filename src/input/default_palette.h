@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The default colours of items.
+/// The colours that items have by default.
 #ifndef TOVANGL_INPUT_DEFAULT_PALETTE_H
 #define TOVANGL_INPUT_DEFAULT_PALETTE_H
 
@@ -13,6 +13,11 @@ namespace tovangl {
 /// The colour at a position among all items of a chart, counted from 0. The palette has six colours
 /// and repeats after the last.
 [[nodiscard]] QColor defaultColor(std::size_t position);
+
+/// The colour of the item that gathers what the threshold leaves out. Deliberate: grey and none of
+/// the palette's, whose next colour could be that of the first slice, right beside it. Readers with
+/// any kind of colour blindness tell this grey from the colours of every theme.
+[[nodiscard]] QColor othersColor();
 
 } // namespace tovangl
 

@@ -2,11 +2,21 @@
 // Which items a chart draws.
 #include "input/item_selection.h"
 
+#include <limits>
+
 namespace tovangl {
 
 namespace {
 
-using ChoiceRule = bool (*)(long long value, const CShareOfTotal& shares, double threshold);
+// Which values a kind of chart can draw at all, and which of them it does.
+struct CChoiceRule
+{
+    long long leastDrawable;
+    bool (*isChosen)(long long value, const CShareOfTotal& shares, double threshold);
+};
+
+constexpr CChoiceRule kBarRule = {std::numeric_limits<long long>::min(), isBarChosen};
+constexpr CChoiceRule kSliceRule = {1, isSliceChosen};
 
 CShareOfTotal shareOut(const std::vector<CGraph1dItem>& items)
 {
@@ -18,13 +28,16 @@ CShareOfTotal shareOut(const std::vector<CGraph1dItem>& items)
 
 // A negative threshold acts as 0.
 CItemSelection selectItems(const std::vector<CGraph1dItem>& items, const CShareOfTotal& shares,
-                           double threshold, ChoiceRule isChosen)
+                           double threshold, const CChoiceRule& rule)
 {
     CItemSelection selection;
     selection.threshold = threshold < 0.0 ? 0.0 : threshold;
     for (std::size_t i = 0; i < items.size(); ++i) {
-        if (isChosen(items[i].value, shares, selection.threshold))
+        const long long value = items[i].value;
+        if (rule.isChosen(value, shares, selection.threshold))
             selection.items.push_back(i);
+        else if (value >= rule.leastDrawable)
+            selection.leftOut.add(value);
     }
     return selection;
 }
@@ -51,7 +64,7 @@ bool isSliceChosen(long long value, const CShareOfTotal& shares, double threshol
 
 CItemSelection selectBars(const std::vector<CGraph1dItem>& items, double threshold)
 {
-    return selectItems(items, shareOut(items), threshold, isBarChosen);
+    return selectItems(items, shareOut(items), threshold, kBarRule);
 }
 
 CItemSelection selectSlices(const std::vector<CGraph1dItem>& items, double threshold)
@@ -60,8 +73,8 @@ CItemSelection selectSlices(const std::vector<CGraph1dItem>& items, double thres
     // Deliberate: a pie whose values are all 0 keeps even a negative threshold unchanged, because
     // there is nothing to apply it to.
     if (shares.isEmpty())
-        return {{}, threshold};
-    return selectItems(items, shares, threshold, isSliceChosen);
+        return {{}, threshold, {}};
+    return selectItems(items, shares, threshold, kSliceRule);
 }
 
 } // namespace tovangl

@@ -6,6 +6,7 @@
 
 #include "base/wide_integer.h"
 #include "input/CGraph1dItem.h"
+#include "input/CLeftOut.h"
 
 #include <cstddef>
 #include <vector>
@@ -40,6 +41,7 @@ struct CItemSelection
 {
     std::vector<std::size_t> items; ///< positions among all items, ascending
     double threshold = 0.0; ///< as applied: per cent, negative only if it was not applied at all
+    CLeftOut leftOut;       ///< of a pie, only the values above 0
 };
 
 [[nodiscard]] CItemSelection selectBars(const std::vector<CGraph1dItem>& items, double threshold);

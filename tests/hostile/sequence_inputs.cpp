@@ -24,6 +24,7 @@ void useChartWithoutKind()
     graph.setFont("Tahoma", 11);
     graph.setLocale("de", "at");
     graph.setTitle("title");
+    graph.setOthers("others");
     (void)graph.titleRectangle();
     (void)graph.threshold();
     (void)graph.getRectangle();

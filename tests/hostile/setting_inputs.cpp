@@ -165,6 +165,46 @@ void addColors(HostileTable& table)
     add("white on white", {255, 255, 255});
 }
 
+// Every setting by its name, with values that it takes and values that it refuses.
+void addSettingsByName(HostileTable& table)
+{
+    const std::vector<std::string> values = {"",
+                                             "0",
+                                             "-1",
+                                             "true",
+                                             "nan",
+                                             "inf",
+                                             "1e999",
+                                             "9999999999999999999",
+                                             "#000000",
+                                             "#00000",
+                                             "#0000001",
+                                             ",",
+                                             "#000000,",
+                                             "default",
+                                             "dark",
+                                             "none",
+                                             "line,,",
+                                             "de_AT",
+                                             "_",
+                                             "2147483647,-2147483648",
+                                             "\xff\xfe",
+                                             std::string(3, '\0'),
+                                             std::string(kMillion, 'x'),
+                                             std::string(kMillion, ',')};
+    for (const auto& row : settings()) {
+        const std::string name = row.name;
+        table.push_back(withSetting("by name: " + name, [=](CAnyChart& chart) {
+            for (const std::string& value : values)
+                (void)chart.graph().setByName(name, value);
+        }));
+    }
+    table.push_back(withSetting("by a name that there is not", [=](CAnyChart& chart) {
+        for (const std::string& value : values)
+            (void)chart.graph().setByName(value, value);
+    }));
+}
+
 // All settings at once at the ends of their types.
 void addEverything(HostileTable& table)
 {
@@ -195,6 +235,7 @@ HostileTable settingInputs()
     addBarWidths(table);
     addProperties(table);
     addColors(table);
+    addSettingsByName(table);
     addEverything(table);
     return table;
 }

@@ -111,11 +111,15 @@ void drawCaption(ChartKind kind, const std::string& text)
     drawEverything(chart);
 }
 
-void drawChartTitle(ChartKind kind, const std::string& text)
+// As the title, and as the caption of the item that gathers others.
+void drawChartTexts(ChartKind kind, const std::string& text)
 {
+    constexpr double kThreshold = 5; // per cent
     CAnyChart chart(kind, true);
     addOrdinaryItems(chart);
     chart.graph().setTitle(text);
+    chart.graph().setThreshold(kThreshold);
+    chart.graph().setOthers(text);
     drawEverything(chart);
     drawEverything(chart, 120, 60, 1);
 }
@@ -148,8 +152,8 @@ void addCase(HostileTable& table, const CTextCase& entry, bool isHeavy)
         table.push_back({nameOf(kind) + std::string(", caption: ") + entry.name,
                          [=] { drawCaption(kind, text()); }, isHeavy});
     for (ChartKind kind : kChartKinds)
-        table.push_back({nameOf(kind) + std::string(", title: ") + entry.name,
-                         [=] { drawChartTitle(kind, text()); }, isHeavy});
+        table.push_back({nameOf(kind) + std::string(", title and others: ") + entry.name,
+                         [=] { drawChartTexts(kind, text()); }, isHeavy});
     for (ChartKind kind : {ChartKind::VerticalBars, ChartKind::HorizontalBars})
         table.push_back({nameOf(kind) + std::string(", axis title: ") + entry.name,
                          [=] { drawAxisTitle(kind, text()); }, isHeavy});

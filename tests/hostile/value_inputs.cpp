@@ -95,10 +95,26 @@ void drawValues(ChartKind kind, const Values& values)
     drawEverything(chart);
 }
 
+// At a threshold that leaves out some, and at one that leaves out all.
+void drawOthers(ChartKind kind, const Values& values)
+{
+    CAnyChart chart(kind, true);
+    for (long value : values)
+        chart.addItem(value, "caption");
+    chart.graph().setOthers("others");
+    chart.graph().setThreshold(10);
+    drawEverything(chart);
+    chart.graph().setThreshold(std::numeric_limits<double>::quiet_NaN());
+    drawEverything(chart);
+}
+
 void addForEveryKind(HostileTable& table, const std::string& name, const Values& values)
 {
-    for (ChartKind kind : kChartKinds)
+    for (ChartKind kind : kChartKinds) {
         table.push_back({nameOf(kind) + (": " + name), [=] { drawValues(kind, values); }});
+        table.push_back(
+            {nameOf(kind) + (", with others: " + name), [=] { drawOthers(kind, values); }});
+    }
 }
 
 // The step of a scale follows the greatest value alone, so these ask for any number of labels.

@@ -51,6 +51,47 @@ TEST_F(ChartInput, AppendsItemsAtTheEnd)
     EXPECT_EQ(m_input.items[2].value, 2);
 }
 
+CLeftOut leftOut(std::initializer_list<long long> values)
+{
+    CLeftOut sum;
+    for (const long long value : values)
+        sum.add(value);
+    return sum;
+}
+
+TEST_F(ChartInput, GathersWhatIsLeftOutUnderACaption)
+{
+    m_input.settings.othersCaption = QString("others");
+    const auto others = m_input.gatherOthers(leftOut({3, 4}));
+    ASSERT_TRUE(others);
+    EXPECT_EQ(others->value, 7);
+    EXPECT_EQ(others->text, QString("others"));
+    EXPECT_TRUE(m_input.items.empty());
+}
+
+TEST_F(ChartInput, GathersZerosToo)
+{
+    m_input.settings.othersCaption = QString("others");
+    EXPECT_TRUE(m_input.gatherOthers(leftOut({0})));
+}
+
+TEST_F(ChartInput, HasNoOthersWithoutACaptionOrWithoutAnythingLeftOut)
+{
+    EXPECT_FALSE(m_input.gatherOthers(leftOut({3, 4})));
+    m_input.settings.othersCaption = QString("others");
+    EXPECT_FALSE(m_input.gatherOthers(CLeftOut()));
+}
+
+TEST_F(ChartInput, OthersHaveNoColourOfAnItem)
+{
+    m_input.settings.othersCaption = QString("others");
+    const QColor color = m_input.gatherOthers(leftOut({1}))->color;
+    EXPECT_TRUE(color.isValid());
+    EXPECT_EQ(color.hsvSaturation(), 0);
+    for (const QColor& ofPalette : kPalette)
+        EXPECT_NE(color, ofPalette);
+}
+
 TEST_F(ChartInput, OutlinesAreTwoThirdsAsBrightAsTheFillWhereNoneIsSet)
 {
     EXPECT_EQ(addedOutline(kBrown), kBrown.darker(150));

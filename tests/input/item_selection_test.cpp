@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "input/item_selection.h"
+#include "support/CDice.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -106,6 +108,86 @@ const CChoice kSliceChoices[] = {
 const auto nameOfChoice = [](const auto& info) { return info.param.name; };
 INSTANTIATE_TEST_SUITE_P(Bars, ItemSelection, ::testing::ValuesIn(kBarChoices), nameOfChoice);
 INSTANTIATE_TEST_SUITE_P(Slices, ItemSelection, ::testing::ValuesIn(kSliceChoices), nameOfChoice);
+
+struct CRest
+{
+    const char* name;
+    Selection select;
+    Values values;
+    double threshold;
+    std::size_t count;
+    long long value;
+};
+
+void PrintTo(const CRest& rest, std::ostream* stream)
+{
+    *stream << ::testing::PrintToString(rest.values) << " at " << rest.threshold;
+}
+
+class LeftOut : public ::testing::TestWithParam<CRest>
+{};
+
+TEST_P(LeftOut, IsWhatDoesNotReachTheThreshold)
+{
+    const CRest& rest = GetParam();
+    const CLeftOut leftOut = rest.select(itemsOf(rest.values), rest.threshold).leftOut;
+    EXPECT_EQ(leftOut.count(), rest.count);
+    EXPECT_EQ(leftOut.value(), rest.value);
+}
+
+const CRest kBarRests[] = {
+    {"NothingAtZero", selectBars, {5, 0, -5}, 0, 0, 0},
+    {"NothingBelowZero", selectBars, {5, 0, -5}, -1, 0, 0},
+    {"SmallBarsOfEitherSign", selectBars, {-3, 5, 92}, 10, 2, 2},
+    {"BarsThatAddUpToZero", selectBars, {-3, 3, 94}, 10, 2, 0},
+    {"ZerosAboveZero", selectBars, {0, 0}, 1, 2, 0},
+    {"EverythingAtNaN", selectBars, {1, -2, 4}, NAN, 3, 3},
+    {"EverythingAboveAHundred", selectBars, {7}, 100.001, 1, 7},
+    {"NothingOfNoItems", selectBars, {}, 5, 0, 0},
+    {"MoreThanTheGreatestValue", selectBars, {kMost, kMost, 1}, NAN, 3, kMost},
+    {"LessThanTheLeastValue", selectBars, {kLeast, kLeast}, NAN, 2, kLeast},
+    {"BothEnds", selectBars, {kLeast, kMost, kMost, kLeast, 5}, NAN, 5, 3},
+};
+
+const CRest kSliceRests[] = {
+    {"NothingAtZero", selectSlices, {5, 0, -5}, 0, 0, 0},
+    {"SmallSlicesButNoNegativeValue", selectSlices, {3, 5, -7, 0, 85}, 10, 2, 8},
+    {"EverythingAboveZeroAtNaN", selectSlices, {1, -2, 4}, NAN, 2, 5},
+    {"NothingOfZeros", selectSlices, {0, 0}, 1, 0, 0},
+    {"NothingOfNegativeValues", selectSlices, {-1, -2}, 1, 0, 0},
+    {"MoreThanTheGreatestValue", selectSlices, {kMost, kMost, kLeast}, 34, 2, kMost},
+};
+
+INSTANTIATE_TEST_SUITE_P(Bars, LeftOut, ::testing::ValuesIn(kBarRests), nameOfChoice);
+INSTANTIATE_TEST_SUITE_P(Slices, LeftOut, ::testing::ValuesIn(kSliceRests), nameOfChoice);
+
+long long sumOf(const Values& values, const std::vector<std::size_t>& items)
+{
+    long long sum = 0;
+    for (const std::size_t item : items)
+        sum += values[item];
+    return sum;
+}
+
+TEST(LeftOutOfRandomCharts, MakesTheTotalTogetherWithWhatIsDrawn)
+{
+    CDice dice(5);
+    for (int i = 0; i < 200; ++i) {
+        Values values;
+        long long total = 0;
+        long long totalOfSlices = 0;
+        for (int count = dice.roll(0, 40); count > 0; --count) {
+            values.push_back(dice.roll(-100, 1000) * dice.roll(1, 1000));
+            total += values.back();
+            totalOfSlices += std::max(values.back(), 0LL);
+        }
+        const double threshold = dice.roll(-1, 20);
+        const CItemSelection bars = selectBars(itemsOf(values), threshold);
+        EXPECT_EQ(sumOf(values, bars.items) + bars.leftOut.value(), total);
+        const CItemSelection slices = selectSlices(itemsOf(values), threshold);
+        EXPECT_EQ(sumOf(values, slices.items) + slices.leftOut.value(), totalOfSlices);
+    }
+}
 
 TEST(ActingThreshold, IsTheOneThatWasSet)
 {

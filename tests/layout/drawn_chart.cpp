@@ -54,6 +54,25 @@ void applySettings(CBarInput& input, const CChartFile& file)
     input.settings.colors.text = file.textColor;
 }
 
+CItemSelection selectItems(const CPieInput& input)
+{
+    return selectSlices(input.items, input.settings.threshold);
+}
+
+CItemSelection selectItems(const CBarInput& input)
+{
+    return selectBars(input.items, input.settings.threshold);
+}
+
+// The items that the layout tells of: those of the chart, and the one that gathers others.
+template <typename Input>
+Input withOthers(Input input)
+{
+    if (const auto others = input.gatherOthers(selectItems(input).leftOut))
+        input.items.push_back(*others);
+    return input;
+}
+
 // Paints the layout once more, onto a device that records texts.
 template <typename Chart>
 std::string layoutText(const Chart& chart, const QSize& size, std::optional<int> printFactor)
@@ -65,7 +84,7 @@ std::string layoutText(const Chart& chart, const QSize& size, std::optional<int>
     CDump dump;
     dump.line("picture").number(size.width()).number(size.height());
     dump.word("scale").number(scale).flag("for print", printFactor.has_value());
-    dumpLayout(chart.layout(), chart.input(), dump);
+    dumpLayout(chart.layout(), withOthers(chart.input()), dump);
     dumpTexts(recorder.texts(), dump);
     return dump.text();
 }

@@ -65,7 +65,8 @@ void CChartLife::applySettings()
 {
     call([this] { m_chart->graph().setFont("DejaVu Sans", 9); });
     call([this] { m_chart->graph().setLocale("de", "at"); });
-    call([this] { m_chart->graph().setThreshold(0.5); });
+    call([this] { m_chart->graph().setThreshold(0.6); });
+    call([this] { m_chart->graph().setOthers("all that is small"); });
     call([this] { m_chart->setProperties(kEverythingShown, "a title of several words"); });
     call([this] { m_chart->setColors({60, 60, 60}, {0, 0, 90}, {90, 0, 0}); });
     call([this] { m_chart->setBarWidth(9); });
