@@ -37,8 +37,8 @@ QPointF directionOf(int arc)
 QString getSizeText(long long value, const QString& unit, const QLocale& locale, const CKilo& kilo)
 {
     QString number = numberText(value, PrefixedOneDecimal, locale, kilo);
-    // A prefix brings its own space.
-    if (number.at(number.size() - 1).isDigit())
+    // A prefix brings its own space, and no unit needs none.
+    if (!unit.isEmpty() && number.at(number.size() - 1).isDigit())
         number += QLatin1Char(' ');
     return QLatin1String(" [") + number + unit + QLatin1Char(']');
 }

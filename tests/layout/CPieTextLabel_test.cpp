@@ -85,6 +85,27 @@ INSTANTIATE_TEST_SUITE_P(Values, SizeText,
                                          CSizeText{1536, " [1.5 KB]"},
                                          CSizeText{146 * 1024, " [146 KB]"}));
 
+TEST(SizeTextOfAPie, HasTheUnitBehindThePrefix)
+{
+    const QLocale locale(QString("en_US"));
+    EXPECT_EQ(getSizeText(700, "bit", locale, kKilo1024), QString(" [700 bit]"));
+    EXPECT_EQ(getSizeText(1536, "bit", locale, kKilo1024), QString(" [1.5 Kbit]"));
+}
+
+TEST(SizeTextOfAPie, EndsInTheNumberWhereThereIsNoUnit)
+{
+    const QLocale locale(QString("en_US"));
+    EXPECT_EQ(getSizeText(700, "", locale, kKilo1024), QString(" [700]"));
+    EXPECT_EQ(getSizeText(1536, "", locale, kKilo1024), QString(" [1.5 K]"));
+}
+
+TEST(SizeTextOfAPie, CountsInTheKiloOfTheChart)
+{
+    const QLocale locale(QString("en_US"));
+    EXPECT_EQ(getSizeText(1500, "B", locale, kKilo1000), QString(" [1.5 KB]"));
+    EXPECT_EQ(getSizeText(999, "B", locale, kKilo1000), QString(" [999 B]"));
+}
+
 TEST_F(PieTextLabel, PointsToTheMiddleOfItsSliceUpTowardSmallerHeights)
 {
     EXPECT_NEAR(make(kTop).direction().y(), -1, 1e-15);
