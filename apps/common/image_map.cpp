@@ -70,9 +70,15 @@ void CImageMap::addArea(const char* shape, const std::string& coordinates, const
                attribute("alt", link.text) + ">\n";
 }
 
+std::string denseSource(const std::string& address, int density)
+{
+    return address + ' ' + std::to_string(density) + 'x';
+}
+
 std::string mappedPictureHtml(const MappedPicture& picture, const CImageMap& map)
 {
     return "<div class=\"picture\"><img" + attribute("src", picture.source) +
+           (picture.sourceSet.empty() ? "" : attribute("srcset", picture.sourceSet)) +
            attribute("width", std::to_string(picture.width)) +
            attribute("height", std::to_string(picture.height)) +
            attribute("usemap", '#' + map.name()) + attribute("alt", picture.description) +

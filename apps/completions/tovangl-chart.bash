@@ -1,22 +1,28 @@
 # bash completion for tovangl-chart
 _tovangl_chart() {
-    local common='-o --output --map --size --print --font --font-size --locale --threshold
-        --background --fast --text-color --csv --caption --value --color --help'
-    local bars='--category-title --category-axis --bar-width --position'
-    local pie='--bold --shorten-left --keep-overlaps --without-sizes --outline-color --line-color'
+    local common='-o --output --map --size --print --theme --title --font --font-size --locale
+        --threshold --others --palette --background --picture-color --text-color --plot-color
+        --border-color --outline-color --kilo --scale --fast --csv --caption --value --color
+        --help'
+    local bars='--category-axis --category-title --bar-width --position --axis-color
+        --axis-title-color'
+    local value='--value-axis --value-title --grid-color'
+    local pie='--bold --shorten-left --keep-overlaps --without-sizes --unit --line-color'
     local axis='line labels title bold-labels bold-title prefixes hide-overlapped shift-last none'
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local words files=
     case $previous in
         -o | --output | --map) files=yes ;;
         --category-axis | --value-axis) words=$axis ;;
-        --size | --print | --font | --font-size | --locale | --threshold | --*-color | --*-title | \
-            --bar-width | --position | --caption | --value | --color) return ;;
-        *)
+        --theme | --palette) words='light dark high-contrast colour-blind' ;;
+        --picture-color) words='transparent' ;;
+        --kilo) words='1024 1000' ;;
+        --background | --fast | --bold | --shorten-left | --keep-overlaps | --without-sizes | --csv | \
+            --help | [!-]*)
             case ${COMP_WORDS[1]} in
                 pie) words="$common $pie" files=yes ;;
-                bars) words="$common $bars --value-title --value-axis" files=yes ;;
-                hbars) words="$common $bars" files=yes ;;
+                bars) words="$common $bars $value" files=yes ;;
+                hbars) words="$common $bars --value-color" files=yes ;;
             esac
             if ((COMP_CWORD == 1)); then words='pie bars hbars --help --version' files=; fi
             ;;

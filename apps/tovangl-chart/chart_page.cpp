@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <vector>
 
 namespace tovangl::program {
 
@@ -42,22 +43,40 @@ std::string anchorOf(std::size_t index)
     return "item-" + std::to_string(index + 1);
 }
 
-RegionLink linkOf(const ChartItems& items, std::size_t index)
+// What regions belong to, each with the row that they lead to.
+struct Row
 {
-    const std::string text =
-        displayName(items[index].caption) + ": " + std::to_string(items[index].value);
+    std::string caption; // any bytes
+    std::string value;   // empty if it is not known
+};
+
+std::vector<Row> rowsOf(const ChartItems& items, const ChartRegions& regions)
+{
+    std::vector<Row> rows;
+    for (const ChartItem& item : items)
+        rows.push_back({item.caption, std::to_string(item.value)});
+    if (regions.others)
+        rows.push_back({regions.others->caption, regions.others->value
+                                                     ? std::to_string(*regions.others->value)
+                                                     : std::string()});
+    return rows;
+}
+
+RegionLink linkOf(const std::vector<Row>& rows, std::size_t index)
+{
+    const std::string text = displayName(rows[index].caption) + ": " + rows[index].value;
     return {'#' + anchorOf(index), text, text};
 }
 
 // Where regions overlap, the first one wins, so captions come before bars and slices: that is what
 // the reader points at.
-CImageMap imageMap(const ChartItems& items, const ChartRegions& regions)
+CImageMap imageMap(const std::vector<Row>& rows, const ChartRegions& regions)
 {
     CImageMap map(kMapName);
     const auto addAll = [&](const auto& list, auto add) {
         std::size_t index = 0;
         for (const auto& region : list)
-            (map.*add)(region, linkOf(items, index++));
+            (map.*add)(region, linkOf(rows, index++));
     };
     addAll(regions.captions, &CImageMap::addRectangle);
     if (regions.bars)
@@ -76,14 +95,28 @@ std::string headHtml(const std::string& title)
            "</title>\n<style>\n" + kStyle + "</style>\n</head>\n";
 }
 
-std::string tableHtml(const ChartItems& items)
+std::string tableHtml(const std::vector<Row>& rows)
 {
     std::string html = "<table>\n<thead><tr><th>Item</th><th>Value</th></tr></thead>\n<tbody>\n";
-    for (std::size_t i = 0; i < items.size(); ++i)
+    for (std::size_t i = 0; i < rows.size(); ++i)
         html += "<tr id=\"" + anchorOf(i) + "\"><td><bdi>" +
-                escapeHtml(displayName(items[i].caption)) + "</bdi></td><td>" +
-                std::to_string(items[i].value) + "</td></tr>\n";
+                escapeHtml(displayName(rows[i].caption)) + "</bdi></td><td>" + rows[i].value +
+                "</td></tr>\n";
     return html + "</tbody>\n</table>\n";
+}
+
+std::string addressOf(const std::string& png)
+{
+    return "data:image/png;base64," + encodeBase64(png);
+}
+
+MappedPicture mappedPicture(const ChartPictures& pictures, const ChartRegions& regions)
+{
+    MappedPicture picture{addressOf(pictures.shown), "", regions.size.width, regions.size.height,
+                          regions.description};
+    if (pictures.dense)
+        picture.sourceSet = denseSource(addressOf(pictures.dense->png), pictures.dense->density);
+    return picture;
 }
 
 } // namespace
@@ -93,15 +126,14 @@ bool isPageName(std::string_view name)
     return endsWith(name, ".html") || endsWith(name, ".htm");
 }
 
-std::string chartPageHtml(const std::string& title, std::string_view picture,
+std::string chartPageHtml(const std::string& title, const ChartPictures& pictures,
                           const ChartItems& items, const ChartRegions& regions)
 {
     const std::string heading = escapeHtml(displayName(title));
-    const MappedPicture mapped = {"data:image/png;base64," + encodeBase64(picture),
-                                  regions.size.width, regions.size.height, regions.description};
+    const std::vector<Row> rows = rowsOf(items, regions);
     return headHtml(heading) + "<body>\n<h1>" + heading + "</h1>\n" +
-           mappedPictureHtml(mapped, imageMap(items, regions)) + tableHtml(items) +
-           "</body>\n</html>\n";
+           mappedPictureHtml(mappedPicture(pictures, regions), imageMap(rows, regions)) +
+           tableHtml(rows) + "</body>\n</html>\n";
 }
 
 } // namespace tovangl::program

@@ -7,6 +7,7 @@
 #include "tovangl-chart/ChartItem.h"
 #include "tovangl-chart/region_map.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,12 +16,24 @@ namespace tovangl::program {
 /// Whether a file name means a page: it ends in ".html" or ".htm", in upper or lower case.
 [[nodiscard]] bool isPageName(std::string_view name);
 
+/// A picture with several pixels for each pixel of the page.
+struct DensePicture
+{
+    std::string png;
+    int density; ///< how many, each way
+};
+
+struct ChartPictures
+{
+    std::string shown;                 ///< PNG; the regions belong to it
+    std::optional<DensePicture> dense; ///< shown in its place on dense displays
+};
+
 /// A page that needs no other file: the picture, the regions of its items, and a table of the items
 /// that the regions lead to.
 ///
-/// @param title    of the page; plain text
-/// @param picture  PNG
-[[nodiscard]] std::string chartPageHtml(const std::string& title, std::string_view picture,
+/// @param title  of the page; plain text
+[[nodiscard]] std::string chartPageHtml(const std::string& title, const ChartPictures& pictures,
                                         const ChartItems& items, const ChartRegions& regions);
 
 } // namespace tovangl::program

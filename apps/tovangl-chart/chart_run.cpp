@@ -13,18 +13,36 @@ namespace tovangl::program {
 
 namespace {
 
-int factorOf(const CommonOptions& options)
+constexpr int kUsualDensity = 2; // picture pixels for each pixel of a page, on most dense displays
+
+bool makesPage(const CommonOptions& options)
 {
-    return std::max(options.printFactor.value_or(1), 1);
+    return isPageName(options.map);
+}
+
+// Print has no use for a scale.
+std::optional<int> givenScale(const CommonOptions& options)
+{
+    const std::optional<std::string> scale = givenValue(options.settings, "scale");
+    return scale && !options.printFactor ? std::optional(parseWhole(*scale)) : std::nullopt;
+}
+
+// How many pixels of a page or a size a pixel of the shown picture stands for, each way.
+int shownScale(const CommonOptions& options)
+{
+    if (options.printFactor)
+        return std::max(*options.printFactor, 1);
+    return makesPage(options) ? 1 : givenScale(options).value_or(1);
 }
 
 std::string sizeText(const CommonOptions& options)
 {
-    std::string text =
+    const std::string text =
         std::to_string(options.size.width) + 'x' + std::to_string(options.size.height);
-    if (factorOf(options) > 1)
-        text += " for print at factor " + std::to_string(factorOf(options));
-    return text;
+    const int scale = givenScale(options).value_or(1);
+    if (options.printFactor && *options.printFactor > 1)
+        return text + " for print at factor " + std::to_string(*options.printFactor);
+    return scale > 1 ? text + " at scale " + std::to_string(scale) : text;
 }
 
 CFailure noPicture(const Graph& chart, const CommonOptions& options)
@@ -34,27 +52,11 @@ CFailure noPicture(const Graph& chart, const CommonOptions& options)
     return CFailure("cannot draw a picture of " + sizeText(options) + ": " + chart.problemText());
 }
 
-bool makesPage(const CommonOptions& options)
-{
-    return isPageName(options.map);
-}
-
 /// Where the picture goes; empty if only the page holds it.
 std::string pictureOutput(const CommonOptions& options)
 {
     return options.output.value_or(makesPage(options) ? "" : kStandardOutput);
 }
-
-std::string makeMap(std::string_view picture, const ChartItems& items, const ChartRegions& regions,
-                    const CommonOptions& options)
-{
-    if (!makesPage(options))
-        return regionMapJson(items, regions);
-    const std::string title = std::filesystem::path(options.map).stem();
-    return chartPageHtml(title, picture, items, regions);
-}
-
-} // namespace
 
 void checkOutputs(const CommonOptions& options)
 {
@@ -67,40 +69,89 @@ void checkOutputs(const CommonOptions& options)
                        (options.map == kStandardOutput ? "standard output" : options.map));
 }
 
-std::string_view renderPicture(Graph& chart, const CommonOptions& options)
+/// Empty if there is no picture.
+std::string renderPicture(Graph& chart, const CommonOptions& options, int scale)
 {
     unsigned char* bytes = nullptr;
     int size = 0;
+    chart.setScale(scale);
     if (options.printFactor)
         chart.createPixmapForPrinter(options.size.width, options.size.height, *options.printFactor,
                                      &bytes, &size);
     else
         chart.createPixmap(options.size.width, options.size.height, &bytes, &size);
-    if (size == 0)
-        throw noPicture(chart, options);
     return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
 }
 
-ChartRegions captionRegions(Graph& chart, const char* kind, const CommonOptions& options)
+/// The picture that a page shows on dense displays. Nobody misses one that was not asked for: a
+/// large picture may have none.
+std::optional<DensePicture> renderDense(Graph& chart, const CommonOptions& options)
+{
+    const int scale = givenScale(options).value_or(kUsualDensity);
+    if (!makesPage(options) || options.printFactor || scale == 1)
+        return std::nullopt;
+    std::string png = renderPicture(chart, options, scale);
+    if (png.empty() && givenScale(options))
+        throw noPicture(chart, options);
+    return png.empty() ? std::nullopt : std::optional(DensePicture{std::move(png), scale});
+}
+
+/// The shown picture is drawn last, because a chart tells the regions of its last rendering.
+ChartPictures renderPictures(Graph& chart, const CommonOptions& options)
+{
+    ChartPictures pictures;
+    pictures.dense = renderDense(chart, options);
+    pictures.shown = renderPicture(chart, options, shownScale(options));
+    if (pictures.shown.empty())
+        throw noPicture(chart, options);
+    return pictures;
+}
+
+ChartRegions captionRegions(Graph& chart, const char* kind, const ChartItems& items,
+                            const CommonOptions& options)
 {
     ChartRegions regions;
     regions.kind = kind;
     regions.description = chart.describe();
-    regions.size.width = options.size.width * factorOf(options);
-    regions.size.height = options.size.height * factorOf(options);
+    regions.size.width = options.size.width * shownScale(options);
+    regions.size.height = options.size.height * shownScale(options);
+    regions.title = givenValue(options.settings, "title").value_or("");
+    regions.titleRectangle = chart.titleRectangle();
     regions.captions = *chart.getRectangle();
+    if (regions.captions.size() > items.size())
+        regions.others = OthersItem{givenValue(options.settings, "others").value_or(""), {}};
     return regions;
 }
 
-void writeChart(std::string_view picture, const ChartItems& items, const ChartRegions& regions,
+std::string pageTitle(const ChartRegions& regions, const CommonOptions& options)
+{
+    return regions.title.empty() ? std::filesystem::path(options.map).stem().string()
+                                 : regions.title;
+}
+
+std::string makeMap(const ChartPictures& pictures, const ChartItems& items,
+                    const ChartRegions& regions, const CommonOptions& options)
+{
+    if (!makesPage(options))
+        return regionMapJson(items, regions);
+    return chartPageHtml(pageTitle(regions, options), pictures, items, regions);
+}
+
+/// The picture in the scale that was asked for.
+const std::string& askedPicture(const ChartPictures& pictures, const CommonOptions& options)
+{
+    return givenScale(options) && pictures.dense ? pictures.dense->png : pictures.shown;
+}
+
+void writeChart(const ChartPictures& pictures, const ChartItems& items, const ChartRegions& regions,
                 const CommonOptions& options)
 {
     std::vector<Output> outputs;
     if (const std::string output = pictureOutput(options); !output.empty())
-        outputs.push_back({output, picture});
+        outputs.push_back({output, askedPicture(pictures, options)});
     std::string map;
     if (!options.map.empty()) {
-        map = makeMap(picture, items, regions, options);
+        map = makeMap(pictures, items, regions, options);
         outputs.push_back({options.map, map});
     }
     writeOutputs(outputs);
@@ -110,6 +161,25 @@ void tellProblem(const Graph& chart, const CommonOptions& options)
 {
     if (chart.problem() != Problem::None)
         std::cerr << "tovangl-chart: " << sizeText(options) << ": " << chart.problemText() << '\n';
+}
+
+} // namespace
+
+ChartItems prepareChart(Graph& chart, const CommonOptions& options, LineColors colors)
+{
+    checkOutputs(options);
+    applySettings(chart, options.settings);
+    return readItems(options.input, colors);
+}
+
+void drawChart(Graph& chart, const char* kind, const ChartItems& items,
+               const CommonOptions& options, const AddShapes& addShapes)
+{
+    const ChartPictures pictures = renderPictures(chart, options);
+    ChartRegions regions = captionRegions(chart, kind, items, options);
+    addShapes(regions);
+    writeChart(pictures, items, regions, options);
+    tellProblem(chart, options);
 }
 
 } // namespace tovangl::program

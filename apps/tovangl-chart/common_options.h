@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The options that every chart has.
+/// The options of a command.
 #ifndef TOVANGL_CHART_COMMON_OPTIONS_H
 #define TOVANGL_CHART_COMMON_OPTIONS_H
 
 #include "common/CFailure.h"
 #include "tovangl-chart/ItemSource.h"
 #include "tovangl-chart/option_values.h"
-#include <tovangl/Graph.h>
+#include "tovangl-chart/setting_options.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
@@ -25,19 +25,11 @@ struct CommonOptions
     std::string map; // empty: none
     PictureSize size;
     std::optional<int> printFactor;
-    std::optional<std::string> fontFamily;
-    std::optional<int> fontSize;
-    std::optional<LocaleName> locale;
-    std::optional<double> threshold;
-    bool background = false;
-    bool fast = false;
+    GivenSettings settings;
 };
 
-/// Adds the options that every chart has to its command.
-void addCommonOptions(CLI::App& command, CommonOptions& options);
-
-/// Applies the settings that were given to the chart.
-void applyCommonOptions(Graph& chart, const CommonOptions& options);
+/// Adds the options that every chart has to its command, and those of this kind of chart.
+void addOptions(CLI::App& command, Setting::Chart kind, CommonOptions& options);
 
 /// Adds an option whose value parse() reads. The message about a refused value names the option.
 ///

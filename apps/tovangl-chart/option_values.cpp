@@ -4,9 +4,7 @@
 
 #include "common/CFailure.h"
 #include "common/text_checks.h"
-#include <tovangl/AxisProperty.h>
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <limits>
@@ -20,23 +18,6 @@ constexpr int kHexadecimal = 16;
 constexpr std::string_view kHexadecimalDigits = "0123456789abcdefABCDEF";
 constexpr const char* kWholeNumberHint = "a whole number; round it (printf %.0f does), or multiply "
                                          "all numbers by 10, 100 or 1000";
-constexpr const char* kNoProperty = "none";
-
-struct PropertyName
-{
-    std::string_view name;
-    AxisProperty::Flag property;
-};
-
-constexpr std::array<PropertyName, 8> kPropertyNames{
-    {{"line", AxisProperty::ShowLine},
-     {"labels", AxisProperty::ShowLabels},
-     {"title", AxisProperty::ShowTitle},
-     {"bold-labels", AxisProperty::BoldLabels},
-     {"bold-title", AxisProperty::BoldTitle},
-     {"prefixes", AxisProperty::UnitPrefixes},
-     {"hide-overlapped", AxisProperty::HideOverlapped},
-     {"shift-last", AxisProperty::ShiftLastLabel}}};
 
 CFailure badValue(std::string_view text, const std::string& wanted)
 {
@@ -96,15 +77,6 @@ std::array<int, 2> parsePair(std::string_view text, char separator, const std::s
             parseNumber<int>(text.substr(middle + 1), wanted)};
 }
 
-int propertyBit(std::string_view name)
-{
-    for (const PropertyName& candidate : kPropertyNames) {
-        if (candidate.name == name)
-            return candidate.property;
-    }
-    throw badValue(name, "an axis property (" + axisPropertyNames() + ", or none)");
-}
-
 } // namespace
 
 std::optional<Color> findColor(std::string_view text)
@@ -125,11 +97,6 @@ int parseWhole(std::string_view text)
     return parseNumber<int>(text, "a whole number");
 }
 
-double parseReal(std::string_view text)
-{
-    return parseNumber<double>(text, "a number");
-}
-
 std::string parseText(std::string_view text)
 {
     if (findBrokenUtf8(text) != std::string_view::npos)
@@ -137,59 +104,10 @@ std::string parseText(std::string_view text)
     return std::string(text);
 }
 
-Color parseColor(std::string_view text)
-{
-    const std::optional<Color> color = findColor(text);
-    if (!color)
-        throw badValue(text, "a colour such as #4070c0");
-    return *color;
-}
-
 PictureSize parseSize(std::string_view text)
 {
     const std::array<int, 2> sides = parsePair(text, 'x', "a size such as 800x600");
     return {sides[0], sides[1]};
-}
-
-AxisPosition parsePosition(std::string_view text)
-{
-    const std::array<int, 2> sides = parsePair(text, ',', "a position such as 60,200");
-    return {sides[0], sides[1]};
-}
-
-LocaleName parseLocale(std::string_view text)
-{
-    if (text == "C")
-        return {"C", ""};
-    const std::size_t middle = text.find_first_of("_-");
-    if (middle == std::string_view::npos || middle == 0 || middle + 1 == text.size())
-        throw badValue(text, "a locale such as de_AT");
-    return {parseText(text.substr(0, middle)), parseText(text.substr(middle + 1))};
-}
-
-int parseAxisProperties(std::string_view text)
-{
-    if (text == kNoProperty)
-        return 0;
-    int properties = 0;
-    while (true) {
-        const std::size_t comma = text.find(',');
-        properties |= propertyBit(text.substr(0, comma));
-        if (comma == std::string_view::npos)
-            return properties;
-        text.remove_prefix(comma + 1);
-    }
-}
-
-std::string axisPropertyNames()
-{
-    std::string names;
-    for (const PropertyName& property : kPropertyNames) {
-        if (!names.empty())
-            names += ", ";
-        names += property.name;
-    }
-    return names;
 }
 
 } // namespace tovangl::program

@@ -2,7 +2,6 @@
 // tovangl-chart pie
 #include "tovangl-chart/chart_run.h"
 #include "tovangl-chart/command_line.h"
-#include "tovangl-chart/item_lines.h"
 #include <tovangl/PieGraph.h>
 
 #include <memory>
@@ -23,45 +22,6 @@ constexpr const char* kExamples =
 
 Slices run clockwise from nine o'clock. Only numbers above 0 are drawn.)";
 
-// The library's own default. An unset line colour would follow the outlines, and the lines would be
-// white on white.
-constexpr Color kDefaultLineColor = {0, 0, 0};
-
-struct PieOptions
-{
-    CommonOptions common;
-    bool bold = false;
-    bool shortenFromLeft = false;
-    bool keepOverlaps = false;
-    bool withoutSizes = false;
-    std::optional<Color> outline;
-    std::optional<Color> text;
-    std::optional<Color> line;
-};
-
-void addPieOptions(CLI::App& command, PieOptions& options)
-{
-    command.add_flag("--bold", options.bold, "Draw captions in bold type");
-    command.add_flag("--shorten-left", options.shortenFromLeft,
-                     "Cut long captions at their beginning");
-    command.add_flag("--keep-overlaps", options.keepOverlaps, "Let captions overlap");
-    command.add_flag("--without-sizes", options.withoutSizes, "Draw captions without sizes");
-    const std::string form = "#RRGGBB";
-    addOption(command, "--outline-color", options.outline, parseColor, "Outlines of the slices")
-        ->type_name(form);
-    addOption(command, "--text-color", options.text, parseColor, "Captions")->type_name(form);
-    addOption(command, "--line-color", options.line, parseColor, "Lines that lead to captions")
-        ->type_name(form);
-}
-
-int propertiesOf(const PieOptions& options)
-{
-    return (options.bold ? PieGraph::BoldLabels : 0) |
-           (options.shortenFromLeft ? PieGraph::ShortenFromLeft : 0) |
-           (options.keepOverlaps ? 0 : PieGraph::RemoveLabelOverlaps) |
-           (options.withoutSizes ? 0 : PieGraph::ShowSizes);
-}
-
 void addSlices(PieGraph& chart, const ChartItems& items)
 {
     for (const ChartItem& item : items) {
@@ -72,21 +32,13 @@ void addSlices(PieGraph& chart, const ChartItems& items)
     }
 }
 
-void runPie(const PieOptions& options)
+void runPie(const CommonOptions& options)
 {
-    checkOutputs(options.common);
-    const ChartItems items = readItems(options.common.input, LineColors::Fill);
-    PieGraph chart(options.common.background);
-    applyCommonOptions(chart, options.common);
-    chart.setProperty(propertiesOf(options));
-    chart.setColors(options.outline.value_or(kNoColor), options.text.value_or(kNoColor),
-                    options.line.value_or(kDefaultLineColor));
+    PieGraph chart(false);
+    const ChartItems items = prepareChart(chart, options, LineColors::Fill);
     addSlices(chart, items);
-    const std::string_view picture = renderPicture(chart, options.common);
-    ChartRegions regions = captionRegions(chart, kName, options.common);
-    regions.slices = *chart.getSlice();
-    writeChart(picture, items, regions, options.common);
-    tellProblem(chart, options.common);
+    drawChart(chart, kName, items, options,
+              [&chart](ChartRegions& regions) { regions.slices = *chart.getSlice(); });
 }
 
 } // namespace
@@ -94,9 +46,8 @@ void runPie(const PieOptions& options)
 void addPieCommand(CLI::App& program)
 {
     CLI::App* command = addChartCommand(program, kName, kDescription, kExamples);
-    const auto options = std::make_shared<PieOptions>();
-    addCommonOptions(*command, options->common);
-    addPieOptions(*command, *options);
+    const auto options = std::make_shared<CommonOptions>();
+    addOptions(*command, Setting::Pie, *options);
     command->callback([options] { runPie(*options); });
 }
 

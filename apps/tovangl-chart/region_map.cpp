@@ -39,13 +39,25 @@ Json itemsJson(const ChartItems& items)
     return result;
 }
 
-/// Gives every item its region.
+/// Gives every item its region, and the others theirs.
 template <typename Regions>
-void addRegions(Json& items, const char* key, const Regions& regions)
+void addRegions(Json& items, Json& others, const char* key, const Regions& regions)
 {
     auto region = regions.begin();
     for (Json& item : items)
         item[key] = regionJson(*region++);
+    if (!others.is_null())
+        others[key] = regionJson(*region);
+}
+
+Json othersJson(const std::optional<OthersItem>& others)
+{
+    if (!others)
+        return nullptr;
+    Json json = {{"value", nullptr}, {"caption", others->caption}};
+    if (others->value)
+        json["value"] = *others->value;
+    return json;
 }
 
 } // namespace
@@ -53,16 +65,22 @@ void addRegions(Json& items, const char* key, const Regions& regions)
 std::string regionMapJson(const ChartItems& items, const ChartRegions& regions)
 {
     Json itemList = itemsJson(items);
-    addRegions(itemList, "captionRectangle", regions.captions);
+    Json others = othersJson(regions.others);
+    addRegions(itemList, others, "captionRectangle", regions.captions);
     if (regions.bars)
-        addRegions(itemList, "barRectangle", *regions.bars);
+        addRegions(itemList, others, "barRectangle", *regions.bars);
     if (regions.slices)
-        addRegions(itemList, "slice", *regions.slices);
-    const Json map = {{"chart", regions.kind},
-                      {"description", regions.description},
-                      {"width", regions.size.width},
-                      {"height", regions.size.height},
-                      {"items", std::move(itemList)}};
+        addRegions(itemList, others, "slice", *regions.slices);
+    Json map = {{"chart", regions.kind}, {"description", regions.description}};
+    if (!regions.title.empty()) {
+        map["title"] = regions.title;
+        map["titleRectangle"] = regionJson(regions.titleRectangle);
+    }
+    map["width"] = regions.size.width;
+    map["height"] = regions.size.height;
+    map["items"] = std::move(itemList);
+    if (!others.is_null())
+        map["others"] = std::move(others);
     return map.dump(kIndent) + '\n';
 }
 

@@ -15,19 +15,30 @@
 
 namespace tovangl::program {
 
-/// What a rendered chart reports about itself. Every list has one record for each item.
+/// The item that gathers what the threshold left out.
+struct OthersItem
+{
+    std::string caption;
+    std::optional<long> value; ///< none where nothing was left out
+};
+
+/// What a rendered chart reports about itself. Every list has one record for each item, and then
+/// one for the others if there are any to be gathered.
 struct ChartRegions
 {
     std::string kind;        ///< name of the chart's command
     std::string description; ///< one sentence, for an alternative text
     PictureSize size;        ///< in pixels of the picture
+    std::string title;       ///< empty: none
+    Rectangle titleRectangle{};
+    std::optional<OthersItem> others;
     std::list<Rectangle> captions;
     std::optional<std::list<Rectangle>> bars; ///< a pie has none
     std::optional<std::list<Slice>> slices;   ///< only a pie has them
 };
 
-/// An object with the chart's kind, description and size, and for each item its value, its caption
-/// and its regions, null where nothing was drawn.
+/// An object with the chart's kind, description, title and size, and for each item and the others
+/// the value, the caption and the regions, null where nothing was drawn.
 [[nodiscard]] std::string regionMapJson(const ChartItems& items, const ChartRegions& regions);
 
 } // namespace tovangl::program

@@ -372,12 +372,12 @@ std::string wanted(const Setting& setting)
     case SettingType::PictureColor:
         return "a colour such as #4070c0, transparent, or default";
     case SettingType::Palette:
-        return std::string("colours such as #4070c0,#f0a030, the name of a theme (") + kThemeNames +
-               "), or default";
+        return std::string("a list of colours such as #4070c0,#f0a030, the name of a theme (") +
+               kThemeNames + "), or default";
     case SettingType::Locale:
         return "a locale such as de_AT, or default";
     case SettingType::AxisProperties:
-        return std::string("axis properties (") + kAxisPropertyNames + ", or none)";
+        return std::string("a list of axis properties (") + kAxisPropertyNames + ", or none)";
     case SettingType::Position:
         return "a position such as 60,200";
     case SettingType::Choice:

@@ -40,9 +40,13 @@ protected:
     {
         m_items.push_back({value, caption, std::nullopt, std::nullopt});
     }
-    CHtmlPage page() const { return CHtmlPage(chartPageHtml(m_title, "PNG", m_items, m_regions)); }
+    CHtmlPage page() const
+    {
+        return CHtmlPage(chartPageHtml(m_title, m_pictures, m_items, m_regions));
+    }
 
     std::string m_title = "sales";
+    ChartPictures m_pictures{"PNG", std::nullopt};
     ChartItems m_items;
     ChartRegions m_regions;
 };
@@ -56,6 +60,33 @@ TEST_F(ChartPage, HoldsThePicture)
     EXPECT_EQ(images[0]["height"], "300");
     EXPECT_EQ(images[0]["alt"], "Two items.");
     EXPECT_EQ(images[0]["usemap"], '#' + page().all("map").at(0)["name"]);
+}
+
+TEST_F(ChartPage, HasOnePictureIfNoneIsDense)
+{
+    EXPECT_EQ(page().all("img").at(0)["srcset"], "");
+}
+
+TEST_F(ChartPage, HoldsAPictureForDenseDisplaysInTheSamePlace)
+{
+    m_pictures.dense = DensePicture{"GNP", 3};
+    const HtmlElement image = page().all("img").at(0);
+    EXPECT_EQ(image["srcset"], "data:image/png;base64,R05Q 3x");
+    EXPECT_EQ(image["src"], "data:image/png;base64,UE5H");
+    EXPECT_EQ(image["width"], "400");
+    EXPECT_EQ(image["height"], "300");
+}
+
+TEST_F(ChartPage, HasARowForTheOthers)
+{
+    m_regions.others = OthersItem{"<rest>", 12};
+    m_regions.captions = {kNone, kNone, kCaption};
+    const auto areas = page().all("area");
+    ASSERT_THAT(areas, SizeIs(1));
+    EXPECT_EQ(areas[0]["title"], "<rest>: 12");
+    EXPECT_TRUE(page().hasId(areas[0]["href"].substr(1)));
+    EXPECT_EQ(page().all("bdi").at(2).text, "<rest>");
+    EXPECT_EQ(page().all("td").at(5).text, "12");
 }
 
 TEST_F(ChartPage, HasTheRegionsOfBarsBehindThoseOfCaptions)

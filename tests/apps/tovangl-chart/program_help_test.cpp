@@ -2,7 +2,9 @@
 // What the program says about itself, and what its manual and completions say about it.
 #include "apps/support/shell.h"
 #include <tovangl/Compression.h>
+#include <tovangl/Setting.h>
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <iterator>
 #include <regex>
@@ -10,12 +12,22 @@
 namespace tovangl::program {
 namespace {
 
+using ::testing::Contains;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-constexpr const char* kCommands[] = {"pie", "bars", "hbars"};
+using Options = std::set<std::string>;
+
+struct Command
+{
+    const char* name;
+    Setting::Chart chart;
+};
+
+constexpr Command kCommands[] = {
+    {"pie", Setting::Pie}, {"bars", Setting::VerticalBars}, {"hbars", Setting::HorizontalBars}};
 
 TEST(Help, TeachesWithExamples)
 {
@@ -46,44 +58,117 @@ TEST(Help, TellsWithTheVersionWhatFastCompressesWith)
                 HasSubstr(std::string("\n--fast compresses with ") + fastCompressor() + "\n"));
 }
 
-/// The long options in the help of a command.
-std::set<std::string> optionsOf(const std::string& command)
+/// Everything in a text that looks like a long option.
+Options optionsIn(const std::string& text, const char* pattern = R"((--[a-z][a-z-]*))")
 {
-    const CTemporaryFolder folder;
-    const std::string help = runShell(folder, "tovangl-chart " + command + " --help").output;
-    const std::regex option("^  (?:-.,)?(--[a-z-]+)",
-                            std::regex::ECMAScript | std::regex::multiline);
-    std::set<std::string> options;
-    for (std::sregex_iterator it(help.begin(), help.end(), option), end; it != end; ++it)
+    const std::regex option(pattern, std::regex::ECMAScript | std::regex::multiline);
+    Options options;
+    for (std::sregex_iterator it(text.begin(), text.end(), option), end; it != end; ++it)
         options.insert((*it)[1]);
     return options;
 }
 
-/// A file beside the programs' sources, without what troff wants escaped.
+/// The long options in the help of a command.
+Options optionsOf(const char* command)
+{
+    const CTemporaryFolder folder;
+    return optionsIn(runShell(folder, std::string("tovangl-chart ") + command + " --help").output,
+                     "^  (?:-.,)?(--[a-z-]+)");
+}
+
+/// A file beside the programs' sources, without what troff wants escaped, and with the dashes that
+/// fish does without.
 std::string readSource(const std::string& name)
 {
     std::ifstream file(TOVANGL_APPS_FOLDER "/" + name);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
-    return std::regex_replace(text, std::regex(R"(\\-)"), "-");
+    const std::string plain = std::regex_replace(text, std::regex(R"(\\-)"), "-");
+    return std::regex_replace(plain, std::regex("(complete .*) -l ([a-z])"), "$1 --$2");
+}
+
+std::string optionOf(const Setting& setting)
+{
+    std::string name = setting.name;
+    std::replace(name.begin(), name.end(), '_', '-');
+    return "--" + name;
+}
+
+TEST(Help, ListsEverySettingOfTheChart)
+{
+    for (const Command& command : kCommands) {
+        const Options options = optionsOf(command.name);
+        for (const Setting& setting : settings())
+            EXPECT_EQ(options.count(optionOf(setting)) > 0, (setting.charts & command.chart) != 0)
+                << command.name << ' ' << setting.name;
+    }
 }
 
 class Documentation : public ::testing::TestWithParam<const char*>
 {};
 
-TEST_P(Documentation, NamesEveryOption)
+TEST_P(Documentation, NamesEveryOptionAndNoOther)
 {
-    const std::string text = readSource(GetParam());
-    for (const char* command : kCommands) {
-        const std::set<std::string> options = optionsOf(command);
-        EXPECT_GT(options.size(), 10U);
-        for (const std::string& option : options)
-            EXPECT_THAT(text, HasSubstr(option)) << command;
-    }
+    Options options = {"--version"};
+    for (const Command& command : kCommands)
+        options.merge(optionsOf(command.name));
+    EXPECT_EQ(optionsIn(readSource(GetParam())), options);
+}
+
+TEST_P(Documentation, NamesEverySetting)
+{
+    const Options named = optionsIn(readSource(GetParam()));
+    for (const Setting& setting : settings())
+        EXPECT_THAT(named, Contains(optionOf(setting)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Help, Documentation,
                          ::testing::Values("man/tovangl-chart.1", "completions/tovangl-chart.bash",
-                                           "completions/_tovangl-chart"));
+                                           "completions/_tovangl-chart",
+                                           "completions/tovangl-chart.fish"));
+
+/// What bash offers after "tovangl-chart", some words, and the start of another.
+std::string completions(const std::string& words)
+{
+    const CTemporaryFolder folder;
+    return runShell(folder, "bash -c 'source \"" TOVANGL_APPS_FOLDER
+                            "/completions/tovangl-chart.bash\"\n"
+                            "COMP_WORDS=(tovangl-chart " +
+                                words +
+                                ") COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
+                                "_tovangl_chart\necho \"${COMPREPLY[@]}\"'")
+        .output;
+}
+
+TEST(Completion, OffersTheOptionsOfTheCommandAndNoOthers)
+{
+    for (const Command& command : kCommands)
+        EXPECT_EQ(optionsIn(completions(std::string(command.name) + " --")),
+                  optionsOf(command.name))
+            << command.name;
+}
+
+TEST(Completion, OffersOptionsAfterFlagsAndValues)
+{
+    EXPECT_EQ(completions("pie --bold --wit"), "--without-sizes\n");
+    EXPECT_EQ(completions("pie --theme dark --wit"), "--without-sizes\n");
+}
+
+TEST(Completion, OffersTheThemesOfTheTable)
+{
+    for (const Setting& setting : settings()) {
+        if (setting.name != std::string("theme"))
+            continue;
+        std::string themes = setting.choices;
+        std::replace(themes.begin(), themes.end(), ',', ' ');
+        EXPECT_EQ(completions("bars --theme \"\""), themes + '\n');
+    }
+}
+
+TEST(Completion, OffersNothingInPlaceOfATextOrANumber)
+{
+    EXPECT_EQ(completions("pie --title --"), "\n");
+    EXPECT_EQ(completions("bars --bar-width --"), "\n");
+}
 
 } // namespace
 } // namespace tovangl::program

@@ -11,6 +11,7 @@
 namespace tovangl::program {
 namespace {
 
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
@@ -33,12 +34,19 @@ protected:
         EXPECT_THAT(result.output + result.errors, IsEmpty());
     }
     CHtmlPage page() const { return CHtmlPage(m_folder.read("x.html")); }
-    QImage picture() const
+    QImage picture() const { return decode(page().all("img").at(0)["src"]); }
+    std::string sourceSet() const { return page().all("img").at(0)["srcset"]; }
+    static QImage decode(const std::string& source)
     {
-        const std::string source = page().all("img").at(0)["src"];
         EXPECT_THAT(source, StartsWith(kAddress));
         const std::string text = source.substr(std::string(kAddress).size());
         return QImage::fromData(QByteArray::fromBase64(QByteArray::fromStdString(text)), "PNG");
+    }
+    /// The picture for dense displays, which the set of sources ends with.
+    QImage densePicture(const std::string& density) const
+    {
+        EXPECT_THAT(sourceSet(), EndsWith(' ' + density));
+        return decode(sourceSet().substr(0, sourceSet().find(' ')));
     }
 
     CTemporaryFolder m_folder;
@@ -72,6 +80,35 @@ TEST_P(ProgramPage, MapsACaptionAndAShapeOfEveryItem)
     EXPECT_THAT(page().all("script"), IsEmpty());
 }
 
+TEST_P(ProgramPage, IsCrispOnDenseDisplays)
+{
+    run("items --map x.html --size 400x300");
+    EXPECT_EQ(densePicture("2x").size(), QSize(800, 600));
+    run("items -o x.png --size 400x300 --scale 2");
+    EXPECT_EQ(densePicture("2x"),
+              QImage::fromData(QByteArray::fromStdString(m_folder.read("x.png"))));
+}
+
+TEST_P(ProgramPage, ShowsAScaledChartInThePixelsOfItsSize)
+{
+    run("items --map x.html");
+    const std::string coordinates = page().all("area").at(3)["coords"];
+    run("items --map x.html --scale 3 -o x.png");
+    EXPECT_EQ(picture().size(), QSize(800, 600));
+    EXPECT_EQ(page().all("img").at(0)["width"], "800");
+    EXPECT_EQ(page().all("area").at(3)["coords"], coordinates);
+    EXPECT_EQ(densePicture("3x"),
+              QImage::fromData(QByteArray::fromStdString(m_folder.read("x.png"))));
+}
+
+TEST_P(ProgramPage, HasOnePictureAtScaleOneAndInPrint)
+{
+    for (const char* option : {"--scale 1", "--print 2", "--print 2 --scale 2"}) {
+        run(std::string("items --map x.html ") + option);
+        EXPECT_THAT(sourceSet(), IsEmpty()) << option;
+    }
+}
+
 TEST_P(ProgramPage, ShowsAPrintInItsOwnPixels)
 {
     run("items --map x.html --print 2");
@@ -85,6 +122,14 @@ TEST_P(ProgramPage, HasTheNameOfTheFileAsItsTitle)
     const CHtmlPage page(m_folder.read("<b>&.html"));
     EXPECT_EQ(page.error(), "");
     EXPECT_EQ(page.all("h1").at(0).text, "<b>&");
+}
+
+TEST_P(ProgramPage, HasTheTitleOfTheChartAsItsTitle)
+{
+    run("items --map x.html --title '<b>Sales & more'");
+    EXPECT_EQ(page().error(), "");
+    EXPECT_EQ(page().all("h1").at(0).text, "<b>Sales & more");
+    EXPECT_EQ(page().all("title").at(0).text, "<b>Sales & more");
 }
 
 } // namespace

@@ -61,10 +61,19 @@ bool showsColor(const QImage& picture, QRgb color)
     return false;
 }
 
+/// The colour so far from the left and the top of a rectangle, as a share of its sides.
+QRgb colorIn(const QImage& picture, const Json& rectangle, double share)
+{
+    const auto at = [&](const char* start, const char* side) {
+        return int(rectangle[start].get<double>() + share * rectangle[side].get<double>());
+    };
+    return picture.pixel(at("x", "width"), at("y", "height"));
+}
+
 QRgb middleOf(const QImage& picture, const Json& rectangle)
 {
-    return picture.pixel(rectangle["x"].get<int>() + rectangle["width"].get<int>() / 2,
-                         rectangle["y"].get<int>() + rectangle["height"].get<int>() / 2);
+    constexpr double kHalf = 0.5;
+    return colorIn(picture, rectangle, kHalf);
 }
 
 TEST(Pictures, ThePipelineOfTheManualWorks)
@@ -138,6 +147,24 @@ TEST_P(EveryChart, IsDescribedInItsMap)
     EXPECT_THAT(map["description"].get<std::string>(), HasSubstr("first"));
 }
 
+TEST_P(EveryChart, MapsThePixelsOfTheScaledPicture)
+{
+    const auto [picture, map] = drawWithMap(chart() + " --scale 2", "5 a\t#ff0000\t#000000\n");
+    EXPECT_EQ(picture.size(), QSize(1600, 1200));
+    EXPECT_EQ(map["width"], 1600);
+    EXPECT_EQ(map["height"], 1200);
+    const Json& shape = map["items"][0][chart() == "pie" ? "slice" : "barRectangle"];
+    EXPECT_EQ(colorIn(picture, shape, 0.3),
+              qRgb(255, 0, 0)); // beside what a pie draws in its middle
+}
+
+TEST_P(EveryChart, MapsItsTitle)
+{
+    const Json map = drawWithMap(chart() + " --title 'Sales & more'", kItems).second;
+    EXPECT_EQ(map["title"], "Sales & more");
+    EXPECT_GT(map["titleRectangle"]["width"], 0);
+}
+
 TEST_P(EveryChart, MapsThePixelsOfThePrint)
 {
     const auto [picture, map] = drawWithMap(chart() + " --print 2", kItems);
@@ -179,7 +206,7 @@ TEST(Pictures, MapsTheSlices)
 struct OptionCase
 {
     const char* name;
-    const char* chart;
+    const char* chart; // with what the option needs to show
     const char* option;
 };
 
@@ -188,6 +215,47 @@ void PrintTo(const OptionCase& optionCase, std::ostream* stream)
 {
     *stream << optionCase.chart << ' ' << optionCase.option;
 }
+
+constexpr OptionCase kOptionCases[] = {
+    {"Font", "pie", "--font 'DejaVu Sans'"},
+    {"FontSize", "pie", "--font-size 16"},
+    {"Locale", "hbars", "--locale de_DE"},
+    {"Threshold", "pie", "--threshold 15"},
+    {"PieBackground", "pie", "--background"},
+    {"Bold", "pie", "--bold"},
+    {"ShortenLeft", "pie", "--shorten-left"},
+    {"WithoutSizes", "pie", "--without-sizes"},
+    {"OutlineColor", "pie", "--outline-color '#ff0000'"},
+    {"PieTextColor", "pie", "--text-color '#ff0000'"},
+    {"LineColor", "pie", "--line-color '#ff0000'"},
+    {"BarsBackground", "bars", "--background"},
+    {"HbarsBackground", "hbars", "--background"},
+    {"CategoryTitle", "bars", "--category-title Words"},
+    {"ValueTitle", "bars", "--value-title Words"},
+    {"HbarsCategoryTitle", "hbars", "--category-title Words"},
+    {"CategoryAxis", "bars", "--category-axis line"},
+    {"ValueAxis", "bars", "--value-axis line,labels"},
+    {"HbarsCategoryAxis", "hbars", "--category-axis none"},
+    {"BarWidth", "bars", "--bar-width 5"},
+    {"HbarsBarWidth", "hbars", "--bar-width 5"},
+    {"Position", "bars", "--position 80,100"},
+    {"HbarsPosition", "hbars", "--position 130,-1"},
+    {"BarsTextColor", "bars", "--text-color '#ff0000'"},
+    {"HbarsTextColor", "hbars", "--text-color '#ff0000'"},
+    {"Theme", "pie", "--theme dark"},
+    {"Palette", "bars", "--palette '#ff0000,#00ff00'"},
+    {"PaletteOfTheme", "hbars", "--palette dark"},
+    {"PictureColor", "hbars", "--picture-color '#ff0000'"},
+    {"PlotColor", "bars --background", "--plot-color '#ff0000'"},
+    {"BorderColor", "bars --background", "--border-color '#ff0000'"},
+    {"BarsOutlineColor", "bars", "--outline-color '#ff0000'"},
+    {"AxisColor", "hbars", "--axis-color '#ff0000'"},
+    {"AxisTitleColor", "bars --value-title Words", "--axis-title-color '#ff0000'"},
+    {"GridColor", "bars", "--grid-color '#ff0000'"},
+    {"ValueColor", "hbars", "--value-color '#ff0000'"},
+    {"Kilo", "bars", "--kilo 1000"},
+    {"Unit", "pie", "--unit bit"},
+    {"Title", "pie", "--title Words"}};
 
 class EveryOption : public ::testing::TestWithParam<OptionCase>
 {};
@@ -198,34 +266,8 @@ TEST_P(EveryOption, ShowsInThePicture)
     EXPECT_FALSE(draw(chart) == draw(chart + ' ' + GetParam().option));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pictures, EveryOption,
-    ::testing::Values(OptionCase{"Font", "pie", "--font 'DejaVu Sans'"},
-                      OptionCase{"FontSize", "pie", "--font-size 16"},
-                      OptionCase{"Locale", "hbars", "--locale de_DE"},
-                      OptionCase{"Threshold", "pie", "--threshold 15"},
-                      OptionCase{"PieBackground", "pie", "--background"},
-                      OptionCase{"Bold", "pie", "--bold"},
-                      OptionCase{"ShortenLeft", "pie", "--shorten-left"},
-                      OptionCase{"WithoutSizes", "pie", "--without-sizes"},
-                      OptionCase{"OutlineColor", "pie", "--outline-color '#ff0000'"},
-                      OptionCase{"PieTextColor", "pie", "--text-color '#ff0000'"},
-                      OptionCase{"LineColor", "pie", "--line-color '#ff0000'"},
-                      OptionCase{"BarsBackground", "bars", "--background"},
-                      OptionCase{"HbarsBackground", "hbars", "--background"},
-                      OptionCase{"CategoryTitle", "bars", "--category-title Words"},
-                      OptionCase{"ValueTitle", "bars", "--value-title Words"},
-                      OptionCase{"HbarsCategoryTitle", "hbars", "--category-title Words"},
-                      OptionCase{"CategoryAxis", "bars", "--category-axis line"},
-                      OptionCase{"ValueAxis", "bars", "--value-axis line,labels"},
-                      OptionCase{"HbarsCategoryAxis", "hbars", "--category-axis none"},
-                      OptionCase{"BarWidth", "bars", "--bar-width 5"},
-                      OptionCase{"HbarsBarWidth", "hbars", "--bar-width 5"},
-                      OptionCase{"Position", "bars", "--position 80,100"},
-                      OptionCase{"HbarsPosition", "hbars", "--position 130,-1"},
-                      OptionCase{"BarsTextColor", "bars", "--text-color '#ff0000'"},
-                      OptionCase{"HbarsTextColor", "hbars", "--text-color '#ff0000'"}),
-    [](const auto& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Pictures, EveryOption, ::testing::ValuesIn(kOptionCases),
+                         [](const auto& info) { return info.param.name; });
 
 TEST(Pictures, AreTheSameWhenSavedFastInOtherFiles)
 {
@@ -241,6 +283,13 @@ TEST(Pictures, APieWithoutColourOptionsHasTheDefaultColours)
 {
     EXPECT_EQ(draw("pie"), draw("pie --outline-color '#ffffff' --text-color '#000000' "
                                 "--line-color '#000000'"));
+}
+
+TEST(Pictures, AThemeIsAppliedBeforeTheColoursWhateverTheirOrder)
+{
+    EXPECT_EQ(draw("pie --picture-color '#ff0000' --theme dark"),
+              draw("pie --theme dark --picture-color '#ff0000'"));
+    EXPECT_EQ(draw("pie --picture-color '#ff0000' --theme dark").pixel(0, 0), qRgb(255, 0, 0));
 }
 
 TEST(Pictures, OverlapsAreKeptOnRequest)

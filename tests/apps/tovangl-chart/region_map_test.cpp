@@ -63,6 +63,55 @@ TEST(RegionMap, BarsHaveNoSlices)
     EXPECT_FALSE(map["items"][0].contains("slice"));
 }
 
+TEST(RegionMap, ATitleHasItsPlace)
+{
+    ChartRegions regions;
+    regions.title = "Sales";
+    regions.titleRectangle = kFirst;
+    const auto map = nlohmann::json::parse(regionMapJson({}, regions));
+    EXPECT_EQ(map["title"], "Sales");
+    EXPECT_EQ(map["titleRectangle"],
+              nlohmann::json::parse(R"({"x": 1, "y": 2, "width": 3, "height": 4})"));
+}
+
+TEST(RegionMap, ATitleWithoutRoomHasNoPlace)
+{
+    ChartRegions regions;
+    regions.title = "Sales";
+    EXPECT_TRUE(nlohmann::json::parse(regionMapJson({}, regions))["titleRectangle"].is_null());
+}
+
+TEST(RegionMap, TheOthersHaveTheLastRegions)
+{
+    ChartRegions regions;
+    regions.others = OthersItem{"rest", 12};
+    regions.captions = {kNone, kFirst};
+    regions.bars = std::list<Rectangle>{kNone, kSecond};
+    const auto map = nlohmann::json::parse(regionMapJson(itemsOf({1}), regions));
+    EXPECT_TRUE(map["items"][0]["barRectangle"].is_null());
+    EXPECT_EQ(map["others"], nlohmann::json::parse(R"({"value": 12, "caption": "rest",
+        "captionRectangle": {"x": 1, "y": 2, "width": 3, "height": 4},
+        "barRectangle": {"x": 5, "y": 6, "width": 7, "height": 8}})"));
+}
+
+TEST(RegionMap, OthersThatGatherNothingAreNull)
+{
+    ChartRegions regions;
+    regions.others = OthersItem{"rest", std::nullopt};
+    regions.captions = {kNone};
+    regions.slices = {{0, 0, 0, 0, 0, 0}};
+    EXPECT_EQ(nlohmann::json::parse(regionMapJson({}, regions))["others"],
+              nlohmann::json::parse(R"({"value": null, "caption": "rest",
+                  "captionRectangle": null, "slice": null})"));
+}
+
+TEST(RegionMap, NamesOnlyTheTitleAndTheOthersThatAreThere)
+{
+    const auto map = nlohmann::json::parse(regionMapJson({}, {}));
+    for (const char* key : {"title", "titleRectangle", "others"})
+        EXPECT_FALSE(map.contains(key)) << key;
+}
+
 TEST(RegionMap, AnEmptyChartHasNoItems)
 {
     const auto map = nlohmann::json::parse(regionMapJson({}, {}));
