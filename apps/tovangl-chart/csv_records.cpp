@@ -14,7 +14,7 @@ namespace tovangl::program {
 
 namespace {
 
-constexpr std::size_t kBufferStepBytes = std::size_t{64} << 10;
+constexpr std::size_t kBufferStepBytes = std::size_t{1} << 20; // each step may copy a long field
 constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 constexpr char kLineBreak = '\n';
 

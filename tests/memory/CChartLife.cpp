@@ -32,6 +32,8 @@ void CChartLife::live()
     render(true);
     call([this] { m_chart->graph().setCompression(Compression::Fast); });
     render(true);
+    call([this] { m_chart->graph().setPictureTransparent(); });
+    render(false);
     call([this] { m_chart->graph().clear(); });
     render(false);
     addItems();
