@@ -3,6 +3,7 @@
 #include "tovangl-chart/csv_items.h"
 
 #include "common/CFailure.h"
+#include "common/text_checks.h"
 #include "tovangl-chart/csv_columns.h"
 #include "tovangl-chart/option_values.h"
 
@@ -50,8 +51,11 @@ std::string parseCaption(std::string_view text)
 
 std::optional<Color> parseFill(std::string_view text)
 {
-    const std::string_view color = trim(text);
-    return color.empty() ? std::nullopt : std::optional(parseColor(color));
+    const std::string_view name = trim(text);
+    const std::optional<Color> color = findColor(name);
+    if (!color && !name.empty())
+        throw CFailure(quote(name) + " is not a colour such as #4070c0");
+    return color;
 }
 
 template <typename Parse>
