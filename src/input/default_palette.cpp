@@ -33,8 +33,7 @@ QColor defaultColor(std::size_t position)
 
 QColor othersColor()
 {
-    constexpr int kGrey = 110;
-    return QColor(kGrey, kGrey, kGrey);
+    return QColor(114, 114, 126);
 }
 
 } // namespace tovangl

@@ -15,8 +15,9 @@ namespace tovangl {
 [[nodiscard]] QColor defaultColor(std::size_t position);
 
 /// The colour of the item that gathers what the threshold leaves out. Deliberate: grey and none of
-/// the palette's, whose next colour could be that of the first slice, right beside it. Readers with
-/// any kind of colour blindness tell this grey from the colours of every theme.
+/// the palette's, whose next colour could be that of the first slice, right beside it. The grey is
+/// a bluish one, because that is furthest from the colours of all themes, whatever kind of colour
+/// blindness a reader has.
 [[nodiscard]] QColor othersColor();
 
 } // namespace tovangl

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the themes promise to readers, measured on the layouts that are painted.
 #include "input/CPieInput.h"
+#include "input/default_palette.h"
 #include "input/setting_rules.h"
 #include "input/themes.h"
 #include "layout/pie_layout.h"
@@ -119,11 +120,16 @@ protected:
     [[nodiscard]] static bool hasBackground() { return std::get<1>(GetParam()); }
 };
 
+std::string nameOfTheme(std::string name)
+{
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
 std::string nameOf(const ::testing::TestParamInfo<std::tuple<const char*, bool>>& info)
 {
-    std::string name = std::get<0>(info.param);
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name + (std::get<1>(info.param) ? "_with_background" : "");
+    return nameOfTheme(std::get<0>(info.param)) +
+           (std::get<1>(info.param) ? "_with_background" : "");
 }
 
 TEST_P(ThemeContrast, OfTextsAndAxisLinesOfStandingBarsSuffices)
@@ -221,9 +227,7 @@ TEST_P(ThemePalette, HasSlicesOfWhichAnyTwoAreSeenApart)
 INSTANTIATE_TEST_SUITE_P(Looks, ThemePalette,
                          ::testing::Values("dark", "high-contrast", "colour-blind"),
                          [](const ::testing::TestParamInfo<const char*>& info) {
-                             std::string name = info.param;
-                             std::replace(name.begin(), name.end(), '-', '_');
-                             return name;
+                             return nameOfTheme(info.param);
                          });
 
 std::vector<bool> neighboursApart(const CFillings& fillings)
@@ -259,6 +263,43 @@ TEST(DarkTheme, HasBarsAndSlicesThatStandOutFromTheirGround)
             EXPECT_TRUE(isSeen(color, ground)) << color.name().toStdString();
     }
 }
+
+TEST_P(ThemePalette, IsSeenApartFromTheOthers)
+{
+    for (CFillings fillings : {barFillings(GetParam()), sliceFillings(GetParam())}) {
+        fillings.colors.push_back(othersColor());
+        fillings.outlines.push_back(fillings.outlines.front());
+        for (std::size_t i = 0; i < kPaletteSize; ++i)
+            EXPECT_TRUE(areApart(fillings, i, kPaletteSize)) << i;
+    }
+}
+
+class Others : public ::testing::TestWithParam<const char*>
+{};
+
+TEST_P(Others, LookLikeNoItemOfATheme)
+{
+    for (const Sight sight : kSights) {
+        for (const QColor& color : sliceFillings(GetParam()).colors)
+            EXPECT_GE(colorDistance(othersColor(), color, sight), kClearlyDifferent)
+                << color.name().toStdString();
+    }
+}
+
+TEST_P(Others, StandOutFromTheGroundOfATheme)
+{
+    CPieInput pie(true);
+    apply(CSettingTarget(pie), "theme", GetParam());
+    const CChartColors& colors = pie.settings.colors;
+    EXPECT_TRUE(isSeen(othersColor(), colors.picture));
+    EXPECT_TRUE(!colors.plot.isValid() || isSeen(othersColor(), colors.plot));
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, Others,
+                         ::testing::Values("light", "dark", "high-contrast", "colour-blind"),
+                         [](const ::testing::TestParamInfo<const char*>& info) {
+                             return nameOfTheme(info.param);
+                         });
 
 class ColorBlindPalette : public ::testing::TestWithParam<Sight>
 {};

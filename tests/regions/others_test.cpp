@@ -145,7 +145,7 @@ TEST_P(Others, AreDrawnAsAnItemOfTheirSum)
     same.graph().setLocale("en", "us");
     same.addItem(5000, "first");
     same.addItem(3000, "second", {174, 191, 234}, {116, 127, 156});
-    same.addItem(80, "others", {110, 110, 110}, {73, 73, 73});
+    same.addItem(80, "others", {114, 114, 126}, {76, 76, 84});
     EXPECT_EQ(gathered, render(same.graph()));
 }
 
