@@ -214,7 +214,7 @@ void pieOthers(PictureFolder& folder)
                    {400 * kMega, "root"}});
     //! [others]
     chart.setThreshold(5);
-    chart.setOthers("all others");
+    chart.setOthers("others");
     //! [others]
     folder.draw(chart, "others", 450, 240);
 }
@@ -408,6 +408,7 @@ int main(int count, char** arguments)
                                 pie,
                                 pieOptions,
                                 pieColors,
+                                pieOthers,
                                 title,
                                 axisScale,
                                 axisCaptions,

@@ -30,14 +30,10 @@ void applySettings(CAnyChart& chart, CDice& dice)
         chart.graph().setLocale(dice.pick(kLanguages), dice.pick(kCountries));
     if (dice.oneIn(4))
         chart.graph().setThreshold(dice.roll(0, 20));
-    if (dice.oneIn(4))
-        chart.graph().setOthers(dice.pick(kCaptions));
     if (dice.oneIn(2))
         chart.setProperties(dice.roll(0, 8191), dice.pick(kCaptions));
     if (dice.oneIn(4))
         chart.setColors(dice.rollColor(), dice.rollColor(), dice.rollColor());
-    if (dice.oneIn(4))
-        chart.graph().setTitle(dice.pick(kCaptions));
     if (dice.oneIn(8))
         chart.setPosition(dice.roll(-1, 400), dice.roll(-1, 300));
     if (dice.oneIn(8))
