@@ -40,6 +40,12 @@ public:
         std::ofstream file(m_path + "/" + name, std::ios::binary);
         if (!bytes.empty() && file << bytes && file.flush())
             return;
+        miss(name);
+    }
+
+    /// Records that something is not there.
+    void miss(const std::string& name)
+    {
         std::fprintf(stderr, "cannot write %s\n", name.c_str());
         m_isComplete = false;
     }

@@ -15,11 +15,11 @@ enum class SettingType
     Whole,        ///< a whole number, such as -5 or 1024
     Real,         ///< a decimal number, such as 2 or 1.5
     Text,         ///< any text, UTF-8
-    Color,        ///< #rrggbb, or default
-    PictureColor, ///< #rrggbb, default, or transparent
-    Palette,      ///< one or more #rrggbb with commas between them, the name of a theme, or default
-    Locale,       ///< a language and a country, such as de_AT; or C, or default
-    AxisProperties, ///< names of what an axis shows with commas between them, or none
+    Color,        ///< `#rrggbb`, or default
+    PictureColor, ///< `#rrggbb`, default, or transparent
+    Palette, ///< one or more `#rrggbb` with commas between them, the name of a theme, or default
+    Locale,  ///< a language and a country, such as de_AT; or C, or default
+    AxisProperties, ///< some of Setting::choices with commas between them, or none
     Position,       ///< two whole numbers with a comma between them
     Choice          ///< one of Setting::choices
 };
@@ -35,12 +35,13 @@ struct Setting
         HorizontalBars = 4 ///< HorizontalBarGraph
     };
 
-    const char* name;         ///< lower-case words with underscores between them, such as font_size
-    SettingType type;         ///< how its value is written
-    int charts;               ///< sum of the Chart bits of the charts that have it
-    long minimum;             ///< the least value of a number; 0 for other types
-    long maximum;             ///< the greatest value of a number; 0 for other types
-    const char* choices;      ///< what a Choice accepts, with commas between; "" for other types
+    const char* name;    ///< lower-case words with underscores between them, such as font_size
+    SettingType type;    ///< how its value is written
+    int charts;          ///< sum of the Chart bits of the charts that have it
+    long minimum;        ///< the least value of a number; 0 for other types
+    long maximum;        ///< the greatest value of a number; 0 for other types
+    const char* choices; ///< what a Choice accepts, or of what AxisProperties are made, with commas
+                         ///< between; "" for other types
     const char* defaultValue; ///< the value that a new chart has
     const char* summary;      ///< what it does, in one English sentence
 };

@@ -235,6 +235,14 @@ constexpr CSettingRule choice(const char* name, int charts, const char* choices,
     return {{name, SettingType::Choice, charts, 0, 0, choices, defaultValue, summary}, write};
 }
 
+constexpr CSettingRule axis(const char* name, int charts, const char* defaultValue,
+                            const char* summary, Write write)
+{
+    return {{name, SettingType::AxisProperties, charts, 0, 0, kAxisPropertyNames, defaultValue,
+             summary},
+            write};
+}
+
 constexpr CSettingRule other(const char* name, SettingType type, int charts,
                              const char* defaultValue, const char* summary, Write write)
 {
@@ -283,12 +291,12 @@ constexpr std::array kRules = {
           "Picture pixels, each way, for each pixel of the size: 2 for displays of high density.",
           writeScale),
     flag("fast", kAll, "Saves faster, in a larger file.", writeFast),
-    other("category_axis", SettingType::AxisProperties, kBars, "line,labels,hide-overlapped",
-          "What the axis with the captions shows.", writeCategoryAxis),
+    axis("category_axis", kBars, "line,labels,hide-overlapped",
+         "What the axis with the captions shows.", writeCategoryAxis),
     text("category_title", kBars, "", "The title of the axis with the captions.",
          writeCategoryTitle),
-    other("value_axis", SettingType::AxisProperties, kVertical,
-          "line,labels,prefixes,hide-overlapped", "What the value axis shows.", writeValueAxis),
+    axis("value_axis", kVertical, "line,labels,prefixes,hide-overlapped",
+         "What the value axis shows.", writeValueAxis),
     text("value_title", kVertical, "", "The title of the value axis.", writeValueTitle),
     whole("bar_width", kBars, kLeastInt, kGreatestInt, "0",
           "The width of every bar in pixels; 0 or less lets the bars share the axis.",
@@ -377,7 +385,7 @@ std::string wanted(const Setting& setting)
     case SettingType::Locale:
         return "a locale such as de_AT, or default";
     case SettingType::AxisProperties:
-        return std::string("a list of axis properties (") + kAxisPropertyNames + ", or none)";
+        return std::string("a list of axis properties (") + setting.choices + ", or none)";
     case SettingType::Position:
         return "a position such as 60,200";
     case SettingType::Choice:

@@ -19,9 +19,9 @@ namespace tovangl {
 /// The word for the value that a new chart has.
 inline constexpr std::string_view kDefaultValue = "default";
 
-/// The names that parseAxisProperties() reads.
+/// The names that parseAxisProperties() reads, with commas between them.
 inline constexpr const char* kAxisPropertyNames =
-    "line, labels, title, bold-labels, bold-title, prefixes, hide-overlapped, shift-last";
+    "line,labels,title,bold-labels,bold-title,prefixes,hide-overlapped,shift-last";
 
 // Each parse function gives nothing where the text has another form.
 

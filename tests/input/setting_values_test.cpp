@@ -139,7 +139,7 @@ TEST(AxisPropertiesValue, HasEveryNameThatIsTold)
 {
     CAxisSettings::Properties all;
     for (const std::string_view name : splitText(kAxisPropertyNames, ',')) {
-        const auto property = parseAxisProperties(name.substr(name.find_first_not_of(' ')));
+        const auto property = parseAxisProperties(name);
         ASSERT_TRUE(property) << name;
         EXPECT_FALSE(all & *property) << name << " is a second name";
         all |= *property;
