@@ -14,6 +14,7 @@ using tovangl::AxisProperty;
 using tovangl::Color;
 using tovangl::HorizontalBarGraph;
 using tovangl::PieGraph;
+using tovangl::Theme;
 using tovangl::VerticalBarGraph;
 
 using Items = std::vector<std::pair<long, std::string>>;
@@ -182,6 +183,67 @@ void print(PictureFolder& folder)
     folder.print(chart, "for_print", 300, 170, 2);
 }
 
+// The same chart in every theme.
+void themes(PictureFolder& folder)
+{
+    const std::vector<std::pair<Theme, std::string>> all = {{Theme::Light, "light"},
+                                                            {Theme::Dark, "dark"},
+                                                            {Theme::HighContrast, "high_contrast"},
+                                                            {Theme::ColorBlind, "colour_blind"}};
+    for (const auto& [theme, name] : all) {
+        VerticalBarGraph bars(true);
+        addAll(
+            bars,
+            {{320, "Jan"}, {410, "Feb"}, {275, "Mar"}, {180, "Apr"}, {505, "May"}, {460, "Jun"}});
+        bars.setTheme(theme);
+        folder.draw(bars, "theme_" + name + "_bars", 300, 170);
+        PieGraph pie(true);
+        addAll(pie,
+               {{38, "Wind"}, {24, "Sun"}, {14, "Water"}, {11, "Wood"}, {8, "Gas"}, {5, "Coal"}});
+        pie.setProperty(PieGraph::RemoveLabelOverlaps);
+        pie.setTheme(theme);
+        folder.draw(pie, "theme_" + name + "_pie", 300, 170);
+    }
+}
+
+void title(PictureFolder& folder)
+{
+    HorizontalBarGraph chart(true);
+    addAll(chart, {{412, "Monday"}, {377, "Tuesday"}, {519, "Wednesday"}, {264, "Thursday"}});
+    chart.setTitle("Loans of the town library, calendar week 12");
+    folder.draw(chart, "title", 420, 150);
+}
+
+void palette(PictureFolder& folder)
+{
+    VerticalBarGraph chart(false);
+    addAll(chart,
+           {{34, "red"}, {51, "amber"}, {78, "green"}, {40, "red"}, {46, "amber"}, {85, "green"}});
+    chart.setPalette({{201, 62, 55}, {233, 176, 60}, {74, 148, 96}});
+    folder.draw(chart, "palette", 420, 170);
+}
+
+void highDensity(PictureFolder& folder)
+{
+    PieGraph chart(false);
+    addAll(chart, {{46, "Heating"}, {27, "Warm water"}, {19, "Appliances"}, {8, "Light"}});
+    chart.setProperty(PieGraph::RemoveLabelOverlaps);
+    folder.draw(chart, "scale_one", 300, 170);
+    chart.setScale(2);
+    folder.draw(chart, "scale_two", 300, 170);
+}
+
+void transparent(PictureFolder& folder)
+{
+    PieGraph chart(false);
+    addAll(chart, {{61, "free"}, {39, "in use"}});
+    chart.setPictureTransparent();
+    chart.setTextColor({118, 118, 118});
+    chart.setLineColor({118, 118, 118});
+    chart.setUnit("");
+    folder.draw(chart, "transparent", 300, 150);
+}
+
 } // namespace
 
 int main(int count, char** arguments)
@@ -189,8 +251,9 @@ int main(int count, char** arguments)
     if (count != 2)
         return 2;
     PictureFolder folder(arguments[1]);
-    for (const auto& drawOne : {bars, labelledBars, pie, crowdedPie, highlight, profit, turned,
-                                scripts, thumbnails, print})
+    for (const auto& drawOne :
+         {bars, labelledBars, pie, crowdedPie, highlight, profit, turned, scripts, thumbnails,
+          print, themes, title, palette, highDensity, transparent})
         drawOne(folder);
     return folder.isComplete() ? 0 : 1;
 }
