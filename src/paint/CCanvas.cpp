@@ -36,12 +36,9 @@ QPainter& initPainter(QPainter& painter, const QFont& font, const QColor& pictur
 {
     painter.setFont(font);
     painter.setRenderHint(QPainter::TextAntialiasing, false);
-    // Painted over, a transparent colour would leave the memory that the surface was made from.
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
     // Replaces what was in memory, even by nothing.
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(painter.window(), picture);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     return painter;
 }
