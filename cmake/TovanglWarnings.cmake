@@ -10,3 +10,19 @@ function(tovangl_warnings target)
         target_compile_options(${target} PRIVATE -Werror)
     endif()
 endfunction()
+
+# tovangl_c99(target): a program in strict C99, which needs nothing but the library's C header. A
+# sanitizer's runtime for C++ comes with the linker of C++.
+function(tovangl_c99 target)
+    set_target_properties(${target} PROPERTIES
+        C_STANDARD 99
+        C_STANDARD_REQUIRED ON
+        C_EXTENSIONS OFF)
+    target_compile_options(${target} PRIVATE -pedantic -Wall -Wextra)
+    if(TOVANGL_WERROR)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    if(TOVANGL_SANITIZE)
+        set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+    endif()
+endfunction()

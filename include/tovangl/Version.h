@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The version of the headers, and that of the library.
+/// The version of the headers, and that of the library. The macros are for C as well.
 #ifndef TOVANGL_VERSION_H
 #define TOVANGL_VERSION_H
 
@@ -12,6 +12,7 @@
 #define TOVANGL_VERSION_PATCH 0        ///< see TOVANGL_VERSION_MAJOR
 #define TOVANGL_VERSION_STRING "1.0.0" ///< see TOVANGL_VERSION_MAJOR
 
+#ifdef __cplusplus
 namespace tovangl {
 
 /// The version of the library that the process has loaded, such as "1.0.0". It may be later than
@@ -21,5 +22,6 @@ namespace tovangl {
 TOVANGL_EXPORT const char* version() noexcept;
 
 } // namespace tovangl
+#endif
 
 #endif

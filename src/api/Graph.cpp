@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 // What every chart of the public interface can do.
 #include "api/CGraph1dBase.h"
-#include "api/CRendering.h"
+#include "api/chart_rendering.h"
 #include "api/conversions.h"
 #include "api/problem_text.h"
 #include "input/CGraph1dInput.h"
 #include "input/themes.h"
 #include <tovangl/Graph.h>
-
-#include <QImage>
 
 #include <utility>
 
@@ -16,18 +14,8 @@ namespace tovangl {
 
 namespace {
 
-// Whether anything can be painted. If not, the chart records the reason.
-bool canRender(CGraph1dBase& graph, const CRendering& rendering)
+void handOver(const CPngFile& file, unsigned char** data, int* size)
 {
-    if (rendering.obstacle() == Problem::None)
-        return true;
-    graph.setProblem(rendering.obstacle());
-    return false;
-}
-
-void handOver(QImage image, CGraph1dBase& graph, unsigned char** data, int* size)
-{
-    const CPngFile& file = graph.paintDevice2Bytes(image);
     *data = file.data.get();
     *size = static_cast<int>(file.size);
 }
@@ -196,24 +184,15 @@ std::string Graph::problemText() const
 
 void Graph::createPixmap(int width, int height, unsigned char** data, int* size)
 {
-    if (!m_graph)
-        return;
-    m_graph->forgetDrawing();
-    const CRendering rendering;
-    handOver(canRender(*m_graph, rendering) ? m_graph->getImage(width, height) : QImage(), *m_graph,
-             data, size);
+    if (m_graph)
+        handOver(renderPicture(*m_graph, width, height), data, size);
 }
 
 void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned char** data,
                                    int* size)
 {
-    if (!m_graph)
-        return;
-    m_graph->forgetDrawing();
-    const CRendering rendering;
-    handOver(canRender(*m_graph, rendering) ? m_graph->getImageForPrinter(width, height, factor)
-                                            : QImage(),
-             *m_graph, data, size);
+    if (m_graph)
+        handOver(renderForPrinter(*m_graph, width, height, factor), data, size);
 }
 
 } // namespace tovangl

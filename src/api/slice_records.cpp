@@ -40,7 +40,7 @@ Slice toSlice(const CSliceAngles& slice, const QRectF& pie)
 
 } // namespace
 
-void assignSlices(std::list<Slice>& list, const CPieGraph& graph)
+std::vector<Slice> sliceRecords(const CPieGraph& graph)
 {
     std::vector<Slice> records(graph.recordCount(), kNoSlice);
     if (graph.isDrawn()) {
@@ -50,6 +50,12 @@ void assignSlices(std::list<Slice>& list, const CPieGraph& graph)
                 records[*record] = toSlice(slice.angles, graph.layout().drawnPieRect);
         }
     }
+    return records;
+}
+
+void assignSlices(std::list<Slice>& list, const CPieGraph& graph)
+{
+    const std::vector<Slice> records = sliceRecords(graph);
     std::list<Slice>(records.begin(), records.end()).swap(list);
 }
 

@@ -7,13 +7,17 @@
 #include <tovangl/Slice.h>
 
 #include <list>
+#include <vector>
 
 namespace tovangl {
 
 class CPieGraph;
 
-/// Replaces the list's content with one record for each item, and one for the others. If memory
-/// runs out, the list keeps its old content.
+/// One record for each item, and one for the others.
+[[nodiscard]] std::vector<Slice> sliceRecords(const CPieGraph& graph);
+
+/// Replaces the list's content with these records. If memory runs out, the list keeps its old
+/// content.
 void assignSlices(std::list<Slice>& list, const CPieGraph& graph);
 
 } // namespace tovangl

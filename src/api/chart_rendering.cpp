@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// One rendering of a chart, from its input to the bytes of a picture.
+#include "api/chart_rendering.h"
+
+#include "api/CGraph1dBase.h"
+#include "api/CRendering.h"
+
+#include <QImage>
+
+namespace tovangl {
+
+namespace {
+
+// Whether anything can be painted. If not, the chart records the reason.
+bool canRender(CGraph1dBase& graph, const CRendering& rendering)
+{
+    if (rendering.obstacle() == Problem::None)
+        return true;
+    graph.setProblem(rendering.obstacle());
+    return false;
+}
+
+template <typename Draw>
+const CPngFile& render(CGraph1dBase& graph, Draw draw)
+{
+    graph.forgetDrawing();
+    const CRendering rendering;
+    QImage image = canRender(graph, rendering) ? draw() : QImage();
+    return graph.paintDevice2Bytes(image);
+}
+
+} // namespace
+
+const CPngFile& renderPicture(CGraph1dBase& graph, int width, int height)
+{
+    return render(graph, [&] { return graph.getImage(width, height); });
+}
+
+const CPngFile& renderForPrinter(CGraph1dBase& graph, int width, int height, int factor)
+{
+    return render(graph, [&] { return graph.getImageForPrinter(width, height, factor); });
+}
+
+} // namespace tovangl

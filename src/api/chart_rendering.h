@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// One rendering of a chart, from its input to the bytes of a picture.
+#ifndef TOVANGL_API_CHART_RENDERING_H
+#define TOVANGL_API_CHART_RENDERING_H
+
+#include "output/CPngBuilder.h"
+
+namespace tovangl {
+
+class CGraph1dBase;
+
+/// Renders for the screen. A picture that cannot be made has no bytes, and the chart's problem says
+/// why. Only std::bad_alloc can leave this call.
+///
+/// @return the file, which the chart keeps until its next rendering
+const CPngFile& renderPicture(CGraph1dBase& graph, int width, int height);
+
+/// The same for print, at factor times the resolution.
+const CPngFile& renderForPrinter(CGraph1dBase& graph, int width, int height, int factor);
+
+} // namespace tovangl
+
+#endif
