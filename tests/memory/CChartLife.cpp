@@ -57,7 +57,7 @@ void CChartLife::handleFailure(const Call& operation)
 {
     CAllocationFaults::end();
     if (!m_swallowsFailure)
-        ++m_exceptionCount;
+        ++m_failureCount;
     operation();
     if (m_addsItemAfterFailure && m_chart)
         m_chart->addItem(100, "seeded");

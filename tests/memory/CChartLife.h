@@ -26,7 +26,7 @@ public:
     /// What was rendered on the way.
     [[nodiscard]] const std::vector<CRenderedChart>& renderings() const { return m_renderings; }
     /// How many calls std::bad_alloc has left.
-    [[nodiscard]] int exceptionCount() const { return m_exceptionCount; }
+    [[nodiscard]] int failureCount() const { return m_failureCount; }
     /// Whether the chart itself gave that reason after each rendering that it has left.
     [[nodiscard]] bool tellsLackOfMemory() const { return m_tellsLackOfMemory; }
 
@@ -47,7 +47,7 @@ private:
     ChartKind m_kind;
     std::unique_ptr<CAnyChart> m_chart;
     std::vector<CRenderedChart> m_renderings;
-    int m_exceptionCount = 0;
+    int m_failureCount = 0;
     bool m_tellsLackOfMemory = true;
     bool m_addsItemAfterFailure = false;
     bool m_swallowsFailure = false;

@@ -36,7 +36,7 @@ void liveWithFault(ChartKind kind, FaultPattern pattern, long failing,
         if (!isSameRendering(life.renderings()[i], expected[i]))
             throw std::runtime_error("another picture");
     }
-    if (life.exceptionCount() > 0)
+    if (life.failureCount() > 0)
         throw std::bad_alloc();
 }
 

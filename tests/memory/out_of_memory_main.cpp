@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Lets each allocation of the library's own fail once in the life of every kind of chart.
+// Lets each allocation of the library's own fail once in the life of every kind of chart, through
+// the C++ interface and through that of C.
 //
 // out_of_memory [--every N] [--self-test | --seed-leak]
 // --every N tries only each N-th allocation; --seed-leak does nothing but leak. The last line of
 // the output sums up.
 #include "memory/CChartLife.h"
+#include "memory/CChartLifeInC.h"
 #include "memory/allocation_faults.h"
 
 #include <cstdio>
@@ -32,9 +34,10 @@ struct CSummary
 // A fewer number would mean that the counting does not work.
 constexpr long kFewestAllocations = 50;
 
+template <typename Life>
 std::vector<CRenderedChart> renderUndisturbed(ChartKind kind)
 {
-    CChartLife life(kind);
+    Life life(kind);
     life.live();
     return life.renderings();
 }
@@ -47,31 +50,40 @@ bool areSameRenderings(const std::vector<CRenderedChart>& a, const std::vector<C
     return isSame;
 }
 
+void seed(CChartLife& life, SeededFault fault)
+{
+    if (fault == SeededFault::WrongPicture)
+        life.addItemAfterFailure();
+    if (fault == SeededFault::SwallowedFailure)
+        life.swallowFailure();
+}
+
+// The faults of the harness are seeded in the other life alone.
+void seed(CChartLifeInC& /*life*/, SeededFault /*fault*/) {}
+
 // Tries one failing allocation, and says what went wrong; null where nothing did.
+template <typename Life>
 const char* findFlaw(ChartKind kind, const std::vector<CRenderedChart>& expected,
                      const CAllocationFaults& faults, SeededFault seeded)
 {
     const long liveBefore = CAllocationFaults::liveCount();
     bool areEqual = false;
-    int exceptionCount = 0;
+    int failureCount = 0;
     bool isTold = false;
     {
-        CChartLife life(kind);
-        if (seeded == SeededFault::WrongPicture)
-            life.addItemAfterFailure();
-        if (seeded == SeededFault::SwallowedFailure)
-            life.swallowFailure();
+        Life life(kind);
+        seed(life, seeded);
         life.live();
         areEqual = areSameRenderings(life.renderings(), expected);
-        exceptionCount = life.exceptionCount();
+        failureCount = life.failureCount();
         isTold = life.tellsLackOfMemory();
     }
     if (seeded == SeededFault::Leak)
         (void)CAllocationFaults::allocateAsLibrary();
     if (!areEqual)
         return "the chart renders another picture afterwards";
-    if (faults.hasFailed() != (exceptionCount == 1))
-        return "std::bad_alloc does not leave the call";
+    if (faults.hasFailed() != (failureCount == 1))
+        return "the call does not tell that memory ran out";
     if (!isTold)
         return "the chart does not say that memory ran out";
     if (CAllocationFaults::liveCount() != liveBefore)
@@ -80,13 +92,14 @@ const char* findFlaw(ChartKind kind, const std::vector<CRenderedChart>& expected
 }
 
 // Lets the allocations of one kind of chart fail, one after the other, until a life has no more.
+template <typename Life>
 void tryKind(ChartKind kind, FaultPattern pattern, long every, SeededFault seeded,
              CSummary& summary)
 {
-    const std::vector<CRenderedChart> expected = renderUndisturbed(kind);
+    const std::vector<CRenderedChart> expected = renderUndisturbed<Life>(kind);
     for (long failing = 1;; failing += every) {
         const CAllocationFaults faults(pattern, failing);
-        const char* const flaw = findFlaw(kind, expected, faults, seeded);
+        const char* const flaw = findFlaw<Life>(kind, expected, faults, seeded);
         if (!faults.hasFailed()) {
             summary.allocations += CAllocationFaults::count();
             return;
@@ -99,18 +112,25 @@ void tryKind(ChartKind kind, FaultPattern pattern, long every, SeededFault seede
     }
 }
 
-CSummary tryAll(long every, SeededFault seeded)
+template <typename Life>
+void tryEveryKind(long every, SeededFault seeded, CSummary& summary)
 {
-    CSummary summary;
     for (ChartKind kind : kChartKinds) {
         const long before = summary.allocations;
-        tryKind(kind, FaultPattern::Once, every, seeded, summary);
+        tryKind<Life>(kind, FaultPattern::Once, every, seeded, summary);
         if (summary.allocations - before < kFewestAllocations) {
             ++summary.wrong;
             std::printf("FAIL  %s: hardly any allocation counted\n", nameOf(kind));
         }
-        tryKind(kind, FaultPattern::FromThenOn, every, seeded, summary);
+        tryKind<Life>(kind, FaultPattern::FromThenOn, every, seeded, summary);
     }
+}
+
+CSummary tryAll(long every, SeededFault seeded)
+{
+    CSummary summary;
+    tryEveryKind<CChartLife>(every, seeded, summary);
+    tryEveryKind<CChartLifeInC>(every, seeded, summary);
     return summary;
 }
 
@@ -128,7 +148,8 @@ int runSelfTest()
 int runAll(long every)
 {
     const CSummary summary = tryAll(every, SeededFault::None);
-    std::printf("%ld allocations in the lives of three charts, %ld failures tried, %ld wrong\n",
+    std::printf("%ld allocations in the lives of three charts in C++ and in C, %ld failures tried, "
+                "%ld wrong\n",
                 summary.allocations / 2, summary.failuresTried, summary.wrong);
     return summary.wrong == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
