@@ -34,6 +34,9 @@ inline constexpr bool kHeavy = true;
 /// Calls in unusual orders and numbers.
 [[nodiscard]] HostileTable sequenceInputs();
 
+/// All of these by way of the C interface.
+[[nodiscard]] HostileTable inputsInC();
+
 /// Inputs that must be reported, each for its own reason: the table's own test.
 [[nodiscard]] HostileTable seededFaults();
 
