@@ -43,7 +43,7 @@ set(tovangl_pc_private "")
 if(NOT BUILD_SHARED_LIBS)
     list(JOIN tovangl_compressor_pkgconfig ", " tovangl_pc_compressors)
     set(tovangl_pc_private "Requires.private: ${tovangl_qt_pkgconfig}, ${tovangl_pc_compressors}
-Libs.private: -Wl,-z,nodelete ${CMAKE_THREAD_LIBS_INIT}
+Libs.private: -Wl,-z,nodelete ${CMAKE_THREAD_LIBS_INIT} -lstdc++ -lm
 ")
 endif()
 file(RELATIVE_PATH tovangl_pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})

@@ -165,6 +165,32 @@ static void a_chart_without_a_title_has_no_rectangle_for_it(void)
     tovangl_chart_destroy(chart);
 }
 
+static void a_title_has_a_rectangle_at_the_top(void)
+{
+    tovangl_chart* chart = make_filled_chart(TOVANGL_BARS);
+    tovangl_rectangle title = {0, 0, 0, 0};
+    CHECK(tovangl_chart_set(chart, "title", "Spending") == TOVANGL_OK);
+    render(chart);
+    CHECK(tovangl_chart_title_rectangle(chart, &title) == TOVANGL_OK);
+    CHECK(title.width > 20 && title.height > 5 && title.y < 30);
+    tovangl_chart_destroy(chart);
+}
+
+static void the_others_have_the_last_record(void)
+{
+    tovangl_chart* chart = make_filled_chart(TOVANGL_PIE);
+    const tovangl_slice* slices = NULL;
+    size_t count = 0;
+    CHECK(tovangl_chart_set(chart, "threshold", "25") == TOVANGL_OK);
+    CHECK(tovangl_chart_set(chart, "others", "the rest") == TOVANGL_OK);
+    render(chart);
+    CHECK(tovangl_chart_slices(chart, &slices, &count) == TOVANGL_OK);
+    CHECK(count == 4);
+    CHECK(slices[1].span == 0 && slices[2].span == 0);
+    CHECK(slices[3].span > 107 && slices[3].span < 109);
+    tovangl_chart_destroy(chart);
+}
+
 static void arrays_of_one_kind_survive_a_call_for_another(void)
 {
     tovangl_chart* chart = make_filled_chart(TOVANGL_PIE);
@@ -200,6 +226,8 @@ const struct c_test result_tests[] = {
     {"what a kind does not have is told", what_a_kind_does_not_have_is_told},
     {"a chart without a title has no rectangle for it",
      a_chart_without_a_title_has_no_rectangle_for_it},
+    {"a title has a rectangle at the top", a_title_has_a_rectangle_at_the_top},
+    {"the others have the last record", the_others_have_the_last_record},
     {"arrays of one kind survive a call for another",
      arrays_of_one_kind_survive_a_call_for_another},
     END_OF_TESTS};
