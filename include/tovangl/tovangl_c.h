@@ -65,14 +65,14 @@ typedef enum tovangl_problem
 /// How a setting's value is written as text. Later versions may add values.
 typedef enum tovangl_setting_type
 {
-    TOVANGL_SETTING_BOOLEAN = 0,         ///< true or false
-    TOVANGL_SETTING_WHOLE = 1,           ///< a whole number, such as -5 or 1024
-    TOVANGL_SETTING_REAL = 2,            ///< a decimal number, such as 2 or 1.5
-    TOVANGL_SETTING_TEXT = 3,            ///< any text
-    TOVANGL_SETTING_COLOR = 4,           ///< \#rrggbb, or default
-    TOVANGL_SETTING_PICTURE_COLOR = 5,   ///< \#rrggbb, default, or transparent
-    TOVANGL_SETTING_PALETTE = 6,         ///< \#rrggbb,\#rrggbb, the name of a theme, or default
-    TOVANGL_SETTING_LOCALE = 7,          ///< a language and a country, such as de_AT; or C
+    TOVANGL_SETTING_BOOLEAN = 0,       ///< true or false
+    TOVANGL_SETTING_WHOLE = 1,         ///< a whole number, such as -5 or 1024
+    TOVANGL_SETTING_REAL = 2,          ///< a decimal number, such as 2 or 1.5
+    TOVANGL_SETTING_TEXT = 3,          ///< any text
+    TOVANGL_SETTING_COLOR = 4,         ///< \#rrggbb, or default
+    TOVANGL_SETTING_PICTURE_COLOR = 5, ///< \#rrggbb, default, or transparent
+    TOVANGL_SETTING_PALETTE = 6,       ///< \#rrggbb,\#rrggbb, the name of a theme, or default
+    TOVANGL_SETTING_LOCALE = 7, ///< a language and a country, such as de_AT; or C, or default
     TOVANGL_SETTING_AXIS_PROPERTIES = 8, ///< names with commas between them, or none
     TOVANGL_SETTING_POSITION = 9,        ///< two whole numbers with a comma between them
     TOVANGL_SETTING_CHOICE = 10          ///< one of tovangl_setting.choices
@@ -169,6 +169,7 @@ TOVANGL_EXPORT const char* tovangl_chart_error(const tovangl_chart* chart);
 
 /// Sets a setting by its name.
 ///
+/// @param chart  not null
 /// @param name   such as "font_size"; not null
 /// @param value  as tovangl_setting.type has it; not null
 TOVANGL_EXPORT tovangl_status tovangl_chart_set(tovangl_chart* chart, const char* name,
@@ -176,12 +177,15 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_set(tovangl_chart* chart, const char
 
 /// The same for a value of a given length. A NUL inside is a character.
 ///
-/// @param length  number of bytes of the value, which may be null if it is 0
+/// @param chart, name  as for tovangl_chart_set()
+/// @param value        may be null if length is 0
+/// @param length       number of bytes of the value
 TOVANGL_EXPORT tovangl_status tovangl_chart_set_sized(tovangl_chart* chart, const char* name,
                                                       const char* value, size_t length);
 
 /// Adds one item.
 ///
+/// @param chart    not null
 /// @param value    the length of a bar, or the size of a slice: a pie draws values above 0 only
 /// @param caption  not null
 /// @param fill     0xrrggbb, or TOVANGL_NO_COLOR for the palette's next colour
@@ -193,6 +197,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_add_item(tovangl_chart* chart, int64
 /// Adds many items, or none of them where one is wrong; tovangl_chart_error() says which.
 /// Everything is copied.
 ///
+/// @param chart     not null
 /// @param count     number of items; the arrays may all be null if it is 0
 /// @param values    one for each item
 /// @param captions  one for each item; none is null
@@ -206,6 +211,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_add_items(tovangl_chart* chart, size
 
 /// The same for captions that stand in one text, one behind the other, as columns of texts do.
 ///
+/// @param chart      not null
 /// @param text       all captions; a NUL inside is a character. May be null if text_size is 0
 /// @param text_size  number of bytes of the text
 /// @param offsets    count + 1 numbers, of which none is smaller than the one before or greater
@@ -229,6 +235,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_clear(tovangl_chart* chart);
 /// plugin of Qt on the machine, or a process that is ending. A picture that is too small for its
 /// chart is made without the chart: tovangl_chart_problem() tells of it.
 ///
+/// @param chart          not null
 /// @param width, height  picture size in pixels
 /// @param data           receives the first byte, which the chart owns until its next rendering,
 ///                       tovangl_chart_free_picture() or tovangl_chart_destroy(); not null
@@ -240,6 +247,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_render(tovangl_chart* chart, int32_t
 /// Renders the chart for print: factor times as many pixels each way, with fonts, margins and lines
 /// factor times as large, no gradient background, and slices in paler colours.
 ///
+/// @param chart          not null
 /// @param width, height  size in pixels before the factor is applied
 /// @param factor         whole-number resolution; below 1 counts as 1
 /// @param data, size     as for tovangl_chart_render()
@@ -264,12 +272,14 @@ TOVANGL_EXPORT const char* tovangl_chart_problem_text(const tovangl_chart* chart
 /// It names the kind of chart, the number of items drawn, and the greatest and the least of these
 /// with their captions. The sentence is one line.
 ///
-/// @param text  receives the sentence, which the chart owns until the next call of this function or
-///              tovangl_chart_destroy(); not null
+/// @param chart  not null
+/// @param text   receives the sentence, which the chart owns until the next call of this function
+///               or tovangl_chart_destroy(); not null
 TOVANGL_EXPORT tovangl_status tovangl_chart_describe(tovangl_chart* chart, const char** text);
 
 /// Where the last rendering drew the title; all zero where it drew none.
 ///
+/// @param chart      not null
 /// @param rectangle  receives a copy; not null
 TOVANGL_EXPORT tovangl_status tovangl_chart_title_rectangle(tovangl_chart* chart,
                                                             tovangl_rectangle* rectangle);
@@ -277,6 +287,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_title_rectangle(tovangl_chart* chart
 /// Where the captions were drawn: one rectangle for each item, in the order of adding, and with the
 /// setting "others" one more for the item that it draws. All zero for a hidden caption.
 ///
+/// @param chart       not null
 /// @param rectangles  receives the first of them, which the chart owns until the next call of this
 ///                    function or tovangl_chart_destroy(); not to be read where count is 0. Not
 ///                    null
@@ -289,6 +300,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_caption_rectangles(tovangl_chart* ch
 ///
 /// A bar whose width was set can reach beyond the picture.
 ///
+/// @param chart              not null
 /// @param rectangles, count  as for tovangl_chart_caption_rectangles()
 TOVANGL_EXPORT tovangl_status tovangl_chart_bar_rectangles(tovangl_chart* chart,
                                                            const tovangl_rectangle** rectangles,
@@ -296,6 +308,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_bar_rectangles(tovangl_chart* chart,
 
 /// The slice of each item in the last rendering, in the same order. Bars give TOVANGL_WRONG_KIND.
 ///
+/// @param chart          not null
 /// @param slices, count  as for tovangl_chart_caption_rectangles()
 TOVANGL_EXPORT tovangl_status tovangl_chart_slices(tovangl_chart* chart,
                                                    const tovangl_slice** slices, size_t* count);
