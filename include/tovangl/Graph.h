@@ -54,8 +54,10 @@ public:
 
     /// Sets the font of all texts. The default is "Tahoma" at 11 pixels.
     ///
-    /// @param family     family name, of which the first 256 characters are used; the system's best
-    ///                   match replaces a family that is not installed
+    /// @param family     family name, of which the first 256 characters are used; a family of
+    /// addFont()
+    ///                   goes before an installed one; the system's best match replaces a
+    ///                   family that is not there
     /// @param pixelSize  size in pixels before the print factor; below 1 the system's default size
     ///                   is used, above 30,000 it is 30,000
     void setFont(const std::string& family, int pixelSize);

@@ -8,6 +8,7 @@
 #include <tovangl/Color.h>
 #include <tovangl/Compression.h>
 #include <tovangl/Export.h>
+#include <tovangl/Font.h>
 #include <tovangl/Graph.h>
 #include <tovangl/HorizontalBarGraph.h>
 #include <tovangl/MessageHandler.h>

@@ -2,6 +2,7 @@
 // A chart behind the public interface.
 #include "api/CGraph1dBase.h"
 
+#include "api/CAddedFonts.h"
 #include "api/description.h"
 #include "base/CGlobal.h"
 #include "input/CGraph1dInput.h"
@@ -139,7 +140,9 @@ void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
     m_selectedItems = std::move(selection.items);
     recordCaptions(std::vector<QRect>(m_selectedItems.size()));
 
-    CCanvas canvas(device, input().settings, request.scale);
+    const CGraph1dSettings& settings = input().settings;
+    CCanvas canvas(device, settings, request.scale,
+                   CAddedFonts::ofProcess().qtFamily(settings.fontFamily));
     const auto others = input().gatherOthers(selection.leftOut);
     const auto texts = drawContents(canvas, request, m_selectedItems, others);
     if (texts) {

@@ -18,14 +18,14 @@ void noteEnd()
     processEnds = true;
 }
 
+} // namespace
+
 Problem findObstacle()
 {
     if (processEnds)
         return Problem::ProcessEnding;
     return ensureApplication() ? Problem::None : Problem::NoPlatformPlugin;
 }
-
-} // namespace
 
 CRendering::CRendering()
     : m_obstacle(findObstacle())

@@ -5,11 +5,16 @@
 #define TOVANGL_API_CRENDERING_H
 
 #include "api/CMessageSilencer.h"
+#include "api/font_gate.h"
 #include <tovangl/Problem.h>
 
 namespace tovangl {
 
-/// The scope of one rendering: the application object exists, and Qt's messages are discarded.
+/// Why nothing can be painted, if so. The application object is made if there is none.
+[[nodiscard]] Problem findObstacle();
+
+/// The scope of one rendering: the application object exists, Qt's messages are discarded, and the
+/// fonts stay as they are.
 class CRendering
 {
 public:
@@ -23,6 +28,7 @@ public:
 
 private:
     const CMessageSilencer m_silencer;
+    const CFontUse m_fontUse;
     Problem m_obstacle;
 };
 

@@ -31,6 +31,21 @@ QFont chartFont(const CGraph1dSettings& settings, int scale, const QPaintDevice&
     return font;
 }
 
+// What the machine would otherwise choose: how letters are fitted to pixels, and the families that
+// characters come from which this one lacks.
+QFont independentFont(QFont font, const QString& family)
+{
+    font.setFamily(family);
+    font.setHintingPreference(QFont::PreferFullHinting);
+    font.setStyleStrategy(QFont::StyleStrategy(font.styleStrategy() | QFont::NoFontMerging));
+    return font;
+}
+
+QFont chosenFont(const QFont& installed, const QString& addedFamily)
+{
+    return addedFamily.isEmpty() ? installed : independentFont(installed, addedFamily);
+}
+
 // Sets up a painter before anything is measured with it.
 QPainter& initPainter(QPainter& painter, const QFont& font, const QColor& picture)
 {
@@ -45,10 +60,12 @@ QPainter& initPainter(QPainter& painter, const QFont& font, const QColor& pictur
 
 } // namespace
 
-CCanvas::CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale)
+CCanvas::CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale,
+                 const QString& addedFamily)
     : m_painter(&device)
     , m_measurer(
-          initPainter(m_painter, chartFont(settings, scale, device), settings.colors.picture))
+          initPainter(m_painter, chosenFont(chartFont(settings, scale, device), addedFamily),
+                      settings.colors.picture))
 {}
 
 void CCanvas::paint(const CBarLayout& layout)

@@ -21,9 +21,12 @@ struct CPieLayout;
 class CCanvas
 {
 public:
-    /// @param device  not null; it must outlive the canvas
-    /// @param scale   device pixels for each pixel of a setting
-    CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale);
+    /// @param device       not null; it must outlive the canvas
+    /// @param scale        device pixels for each pixel of a setting
+    /// @param addedFamily  a family of the host's own to draw with, by Qt's name for it; empty: the
+    ///                     installed one that the settings name
+    CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale,
+            const QString& addedFamily = QString());
     Q_DISABLE_COPY(CCanvas)
 
     [[nodiscard]] CTextMeasurer& measurer() { return m_measurer; }

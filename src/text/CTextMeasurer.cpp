@@ -4,6 +4,7 @@
 
 #include "text/qt_text.h"
 
+#include <QFontInfo>
 #include <QPainter>
 
 namespace tovangl {
@@ -34,6 +35,13 @@ private:
     QFont m_plain;
 };
 
+// Where one font serves all scripts, Qt takes the one that suits the first text. For an Arabic one
+// that would be any installed family that can shape Arabic, and it would serve all other texts too.
+void loadForAllScripts(const QFont& font)
+{
+    static_cast<void>(QFontInfo(font).family());
+}
+
 bool isShort(const QString& text)
 {
     return text.size() == 1 || text == cdraw::ellipsis();
@@ -47,6 +55,10 @@ CTextMeasurer::CTextMeasurer(QPainter& painter)
     , m_bold{painter.font(), {}}
 {
     m_bold.font.setWeight(QFont::Bold);
+    if (m_plain.font.styleStrategy() & QFont::NoFontMerging) {
+        loadForAllScripts(m_plain.font);
+        loadForAllScripts(m_bold.font);
+    }
 }
 
 QRectF CTextMeasurer::boundingRect(const QString& text, bool isBold)

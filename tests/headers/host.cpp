@@ -93,6 +93,8 @@ int main()
 {
     tovangl::installEmptyMsgHandler();
     expect(std::strcmp(tovangl::version(), TOVANGL_VERSION_STRING) == 0, "version");
+    expect(tovangl::addFont("/nonexistent").empty(), "no font file");
+    expect(tovangl::addFont(nullptr, 0).empty(), "no font");
     drawPie();
     tovangl::VerticalBarGraph upright(true);
     upright.setHorizontalAxis(tovangl::AxisProperty::ShowLabels, "across");

@@ -29,6 +29,8 @@ inline constexpr bool kHeavy = true;
 [[nodiscard]] HostileTable textInputs();
 /// Fonts, locales, thresholds, positions, widths, properties, colours.
 [[nodiscard]] HostileTable settingInputs();
+/// Font files, broken and odd.
+[[nodiscard]] HostileTable fontInputs();
 /// Picture sizes and print factors.
 [[nodiscard]] HostileTable pictureInputs();
 /// Calls in unusual orders and numbers.

@@ -54,8 +54,8 @@ COptions parseOptions(int count, char** arguments)
 HostileTable wholeTable()
 {
     HostileTable table;
-    for (const auto& part : {valueInputs(), textInputs(), settingInputs(), pictureInputs(),
-                             sequenceInputs(), inputsInC()})
+    for (const auto& part : {valueInputs(), textInputs(), settingInputs(), fontInputs(),
+                             pictureInputs(), sequenceInputs(), inputsInC()})
         table.insert(table.end(), part.begin(), part.end());
     return table;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Lets each allocation of the library's own fail once in the life of every kind of chart, through
-// the C++ interface and through that of C.
+// the C++ interface and through that of C, and while a font is added.
 //
 // out_of_memory [--every N] [--self-test | --seed-leak]
 // --every N tries only each N-th allocation; --seed-leak does nothing but leak. The last line of
@@ -8,6 +8,7 @@
 #include "memory/CChartLife.h"
 #include "memory/CChartLifeInC.h"
 #include "memory/allocation_faults.h"
+#include "support/small_font.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -112,6 +113,47 @@ void tryKind(ChartKind kind, FaultPattern pattern, long every, SeededFault seede
     }
 }
 
+// Adds a font that is there already, or a new one; whether that ran out of memory.
+bool runsOutWhileAdding(const std::string& file)
+{
+    const CFaultyCall faulty;
+    try {
+        (void)addFont(reinterpret_cast<const unsigned char*>(file.data()), file.size());
+        return false;
+    } catch (const std::bad_alloc&) {
+        return true;
+    }
+}
+
+const char* findFlawInFonts(const std::string& file, const CAllocationFaults& faults)
+{
+    const long liveBefore = CAllocationFaults::liveCount();
+    const bool isOut = runsOutWhileAdding(file);
+    if (faults.hasFailed() != isOut)
+        return "std::bad_alloc does not leave the call";
+    if (isOut && CAllocationFaults::liveCount() != liveBefore)
+        return "an allocation is not freed";
+    return nullptr;
+}
+
+// Every time with a family of its own, because a font is added once.
+void tryFonts(FaultPattern pattern, CSummary& summary)
+{
+    for (long failing = 1;; ++failing) {
+        const std::string file = smallFont(std::to_string(summary.failuresTried));
+        const CAllocationFaults faults(pattern, failing);
+        const char* const flaw = findFlawInFonts(file, faults);
+        if (!faults.hasFailed())
+            return;
+        ++summary.failuresTried;
+        ++summary.allocations;
+        if (flaw) {
+            ++summary.wrong;
+            std::printf("FAIL  adding a font, allocation %ld: %s\n", failing, flaw);
+        }
+    }
+}
+
 template <typename Life>
 void tryEveryKind(long every, SeededFault seeded, CSummary& summary)
 {
@@ -129,6 +171,9 @@ void tryEveryKind(long every, SeededFault seeded, CSummary& summary)
 CSummary tryAll(long every, SeededFault seeded)
 {
     CSummary summary;
+    (void)runsOutWhileAdding(smallFont("the first")); // makes the process's list of fonts
+    tryFonts(FaultPattern::Once, summary);
+    tryFonts(FaultPattern::FromThenOn, summary);
     tryEveryKind<CChartLife>(every, seeded, summary);
     tryEveryKind<CChartLifeInC>(every, seeded, summary);
     return summary;
@@ -148,8 +193,8 @@ int runSelfTest()
 int runAll(long every)
 {
     const CSummary summary = tryAll(every, SeededFault::None);
-    std::printf("%ld allocations in the lives of three charts in C++ and in C, %ld failures tried, "
-                "%ld wrong\n",
+    std::printf("%ld allocations in the lives of three charts in C++ and in C and for fonts, %ld "
+                "failures tried, %ld wrong\n",
                 summary.allocations / 2, summary.failuresTried, summary.wrong);
     return summary.wrong == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Renders mixed charts from many threads at once: every picture must be that of one thread alone.
+// Renders mixed charts from many threads at once, while other threads add fonts: every picture must
+// be that of one thread alone.
 //
 // many_threads [--pictures N] [--threads N] [--seed-fault pixel|race]
 // The last line of the output sums up.
 #include "support/mixed_charts.h"
+#include "support/small_font.h"
+#include <tovangl/Font.h>
 
 #include <atomic>
 #include <cstdio>
@@ -14,6 +17,8 @@
 
 namespace tovangl {
 namespace {
+
+constexpr unsigned kFontThreads = 2;
 
 struct COptions
 {
@@ -48,12 +53,27 @@ public:
         }
     }
 
+    // Adds a font for every few charts that the others render.
+    void addFonts()
+    {
+        constexpr unsigned kChartsForAFont = 20;
+        while (m_next < m_expected.size()) {
+            const unsigned number = m_nextFont++;
+            while (m_next < m_expected.size() && m_next < number * kChartsForAFont)
+                std::this_thread::yield();
+            const std::string file = smallFont("Font " + std::to_string(number));
+            if (addFont(reinterpret_cast<const unsigned char*>(file.data()), file.size()).empty())
+                ++m_differences;
+        }
+    }
+
     [[nodiscard]] int differences() const { return m_differences; }
 
 private:
     const std::vector<CRenderedChart>& m_expected;
     const COptions& m_options;
     std::atomic<unsigned> m_next{0};
+    std::atomic<unsigned> m_nextFont{0};
     std::atomic<int> m_differences{0};
     int m_unprotected = 0; // written by all threads where a race is seeded
 };
@@ -89,6 +109,8 @@ int runThreads(const COptions& options)
     std::vector<std::thread> threads;
     for (unsigned i = 0; i < options.threads; ++i)
         threads.emplace_back([&work] { work.help(); });
+    for (unsigned i = 0; i < kFontThreads; ++i)
+        threads.emplace_back([&work] { work.addFonts(); });
     for (std::thread& thread : threads)
         thread.join();
     std::printf("%u pictures from %u threads, %d differ from those of one thread\n",

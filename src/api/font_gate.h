@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Keeps the process's fonts as they are while charts are drawn.
+#ifndef TOVANGL_API_FONT_GATE_H
+#define TOVANGL_API_FONT_GATE_H
+
+#include <QtGlobal>
+
+namespace tovangl {
+
+/// The scope in which a thread draws. Many threads can draw at once. Scopes must not nest.
+class CFontUse
+{
+public:
+    CFontUse();
+    ~CFontUse();
+    Q_DISABLE_COPY(CFontUse)
+};
+
+/// The scope in which a thread changes the fonts, and no other thread draws: fontconfig searches
+/// its list of fonts without a lock. It begins when the pictures are done that were begun before
+/// it, and those begun later wait, so that it comes about even if threads draw all the time.
+class CFontChange
+{
+public:
+    CFontChange();
+    ~CFontChange();
+    Q_DISABLE_COPY(CFontChange)
+};
+
+} // namespace tovangl
+
+#endif

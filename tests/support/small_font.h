@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Font files of a few hundred bytes, for tests that need many or odd ones.
+#ifndef TOVANGL_SUPPORT_SMALL_FONT_H
+#define TOVANGL_SUPPORT_SMALL_FONT_H
+
+#include <string>
+#include <vector>
+
+namespace tovangl {
+
+/// A name in a font, by the numbers of the format.
+struct CFontName
+{
+    unsigned platform;
+    unsigned encoding;
+    unsigned language;
+    unsigned kind; ///< 1 is the family, 2 the style
+    std::string bytes;
+};
+
+/// A name for Windows in English; the text is ASCII.
+[[nodiscard]] CFontName windowsName(unsigned kind, const std::string& text);
+/// A name for the Macintosh in English, in its encoding.
+[[nodiscard]] CFontName macintoshName(unsigned kind, const std::string& bytes);
+
+struct CSmallFont
+{
+    std::vector<CFontName> names;
+    bool isBold = false;
+    int unitsPerEm = 1000;
+    /// How wide the one glyph is that stands for all characters of ASCII, in units.
+    int glyphWidth = 500;
+};
+
+/// A font whose characters are rectangles.
+[[nodiscard]] std::string smallFont(const CSmallFont& font);
+/// The same with one name, for the family.
+[[nodiscard]] std::string smallFont(const std::string& family);
+/// A collection of fonts.
+[[nodiscard]] std::string smallCollection(const std::vector<std::string>& fonts);
+
+} // namespace tovangl
+
+#endif
