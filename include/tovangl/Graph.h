@@ -176,9 +176,14 @@ public:
     /// @return UTF-8; empty where there is no chart
     std::string describe() const;
 
-    /// What was wrong with the last rendering: why it gave no picture, or a picture without the
-    /// chart. Problem::None where the chart was drawn, before the first rendering, and where there
-    /// is no chart.
+    /// What was wrong with the last rendering: why it gave no picture, a picture without the chart,
+    /// or a chart whose texts are not in the font that was set. Problem::None where all is well,
+    /// before the first rendering, and where there is no chart.
+    ///
+    /// A replaced family is reported only if setFont() has set it: the default is there on few
+    /// machines. In a list of families, one that is there is enough. Names of kinds, such as
+    /// "sans-serif", and names for which the machine's configuration has a family, are never
+    /// reported.
     Problem problem() const;
 
     /// The problem in one English sentence, such as: The picture has no room for the chart.

@@ -4,6 +4,7 @@
 
 #include "api/CAddedFonts.h"
 #include "api/description.h"
+#include "api/font_problem.h"
 #include "base/CGlobal.h"
 #include "input/CGraph1dInput.h"
 #include "output/raster_surface.h"
@@ -141,8 +142,8 @@ void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
     recordCaptions(std::vector<QRect>(m_selectedItems.size()));
 
     const CGraph1dSettings& settings = input().settings;
-    CCanvas canvas(device, settings, request.scale,
-                   CAddedFonts::ofProcess().qtFamily(settings.fontFamily));
+    const QString added = CAddedFonts::ofProcess().qtFamily(settings.fontFamily);
+    CCanvas canvas(device, settings, request.scale, added);
     const auto others = input().gatherOthers(selection.leftOut);
     const auto texts = drawContents(canvas, request, m_selectedItems, others);
     if (texts) {
@@ -152,7 +153,8 @@ void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
             m_others = COthers{input().items.size(), selection.leftOut, texts->captions.back()};
     }
     m_isDrawn = texts.has_value();
-    m_problem = m_isDrawn ? Problem::None : Problem::TooSmallForChart;
+    m_problem =
+        m_isDrawn ? fontProblem(settings, canvas.usedFamily(), added) : Problem::TooSmallForChart;
 }
 
 void CGraph1dBase::recordCaptions(const std::vector<QRect>& captions)

@@ -20,6 +20,10 @@ const char* problemSentence(Problem problem)
         return "The process is ending, and Qt can no longer paint.";
     case Problem::TooSmallForChart:
         return "The picture has no room for the chart.";
+    case Problem::NoGlyphs:
+        return "There is no font on this machine, and the chart has no letters.";
+    case Problem::FamilyReplaced:
+        return "The font family is not there, and another one takes its place.";
     }
     return "";
 }

@@ -29,6 +29,7 @@ CGraph1dSettings::CGraph1dSettings()
 void CGraph1dSettings::setFont(const QString& family, int pixelSize)
 {
     fontFamily = family.left(kLongestFontFamily);
+    isFamilyChosen = !family.isEmpty();
     fontSize = pixelSize;
 }
 

@@ -35,7 +35,8 @@ struct CGraph1dSettings
     /// Items whose share of the total is smaller are left out; per cent, any number.
     double threshold = 0.0;
     QString fontFamily;
-    int fontSize; ///< pixels before scaling
+    bool isFamilyChosen = false; ///< by the host, and not the default
+    int fontSize;                ///< pixels before scaling
     /// Every locale groups digits. Only newer versions of Qt switch grouping off for "C", and a
     /// chart's numbers must not depend on the version.
     QLocale locale;

@@ -8,6 +8,8 @@
 #include "paint/pie_painting.h"
 #include "text/qt_text.h"
 
+#include <QFontInfo>
+
 #include <algorithm>
 
 namespace tovangl {
@@ -67,6 +69,11 @@ CCanvas::CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int sca
           initPainter(m_painter, chosenFont(chartFont(settings, scale, device), addedFamily),
                       settings.colors.picture))
 {}
+
+QString CCanvas::usedFamily() const
+{
+    return QFontInfo(m_painter.font()).family();
+}
 
 void CCanvas::paint(const CBarLayout& layout)
 {

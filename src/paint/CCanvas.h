@@ -30,6 +30,8 @@ public:
     Q_DISABLE_COPY(CCanvas)
 
     [[nodiscard]] CTextMeasurer& measurer() { return m_measurer; }
+    /// Qt's name for the family that texts are painted in; empty if there is no font at all.
+    [[nodiscard]] QString usedFamily() const;
     void paint(const CBarLayout& layout);
     void paint(const CPieLayout& layout);
 

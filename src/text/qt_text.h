@@ -6,6 +6,7 @@
 #define TOVANGL_TEXT_QT_TEXT_H
 
 #include <QFont>
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QLocale>
 #include <QPaintDevice>
@@ -32,6 +33,12 @@ inline void setFamily(QFont& font, const QString& family)
 }
 
 inline void setDefaultSize(QFont&, const QPaintDevice&) {}
+
+/// Whether the machine has a family for a name, which can be another name of it.
+inline bool hasFamily(const QString& name)
+{
+    return QFontDatabase().hasFamily(name);
+}
 #else
 /// Qt 5 reads a name with commas as a list of families, Qt 6 as one family, which nobody has.
 inline void setFamily(QFont& font, const QString& family)
@@ -51,6 +58,11 @@ inline void setDefaultSize(QFont& font, const QPaintDevice& device)
     constexpr qreal kDotsPerInch = 100;
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
         font.setPointSizeF(kPoints * kDotsPerInch / device.logicalDpiY());
+}
+
+inline bool hasFamily(const QString& name)
+{
+    return QFontDatabase::hasFamily(name);
 }
 #endif
 

@@ -91,6 +91,21 @@ TEST_P(ProblemOfEveryChart, IsASizeThatOnlyThePrintFactorMakesTooLarge)
     EXPECT_EQ(chart->problem(), Problem::SizeOutOfRange);
 }
 
+TEST_P(ProblemOfEveryChart, IsAFamilyThatIsReplaced)
+{
+    chart->setFont("No Such Family", 11);
+    render(kSide, kSide);
+    EXPECT_EQ(chart->problem(), Problem::FamilyReplaced);
+    EXPECT_GT(size, 0);
+}
+
+TEST_P(ProblemOfEveryChart, IsTheLackOfRoomWhereTheFamilyIsReplacedToo)
+{
+    chart->setFont("No Such Family", 11);
+    render(kSideWithoutRoom, kSideWithoutRoom);
+    EXPECT_EQ(chart->problem(), Problem::TooSmallForChart);
+}
+
 TEST_P(ProblemOfEveryChart, IsThatOfTheLastRendering)
 {
     render(kSide, 0);
@@ -105,6 +120,25 @@ TEST_P(ProblemOfEveryChart, IsKeptByClear)
     EXPECT_EQ(chart->problem(), Problem::SizeOutOfRange);
 }
 
+class FamilyThatIsThere : public ::testing::TestWithParam<const char*>
+{};
+
+TEST_P(FamilyThatIsThere, IsNoProblem)
+{
+    PieGraph pie(false);
+    pie.addItem(3, "a");
+    pie.setFont(GetParam(), 11);
+    for (int time = 0; time < 2; ++time) {
+        (void)exported(pie, kSide, kSide);
+        EXPECT_EQ(pie.problem(), Problem::None);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, FamilyThatIsThere,
+                         ::testing::Values("", "DejaVu Sans", "dejavu sans", " DejaVu Sans ",
+                                           "DejaVu Sans [PfEd]", "No Such Family, DejaVu Sans",
+                                           "sans-serif", "Monospace", "No Such Family, serif"));
+
 TEST(ProblemOfNoChart, IsNone)
 {
     const Graph graph;
@@ -116,7 +150,8 @@ TEST(ProblemText, IsOneSentenceForEveryProblem)
 {
     for (const Problem problem :
          {Problem::SizeOutOfRange, Problem::NoMemory, Problem::NoPlatformPlugin,
-          Problem::ProcessEnding, Problem::TooSmallForChart})
+          Problem::ProcessEnding, Problem::TooSmallForChart, Problem::NoGlyphs,
+          Problem::FamilyReplaced})
         EXPECT_THAT(problemSentence(problem), MatchesRegex("[A-Z][^\n.!?]+\\."));
 }
 

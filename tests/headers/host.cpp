@@ -50,7 +50,7 @@ void exportBothWays(tovangl::Graph& graph, const char* what)
 
 void setCommonSettings(tovangl::Graph& graph)
 {
-    graph.setFont("Tahoma", 11);
+    graph.setFont("sans-serif", 11);
     graph.setLocale("en", "us");
     graph.setThreshold(0.5);
     expect(!(graph.threshold() < 0.5), "threshold");

@@ -40,7 +40,7 @@ void checkSize(const CExport& picture, std::int64_t width, std::int64_t height)
 void checkProblem(const CExport& picture, const Graph& graph)
 {
     const Problem problem = graph.problem();
-    const bool isMade = problem == Problem::None || problem == Problem::TooSmallForChart;
+    const bool isMade = problem == Problem::None || problem >= Problem::TooSmallForChart;
     require(isMade == (picture.size > 0), "a chart says why there is no picture");
     require(graph.problemText().empty() == (problem == Problem::None),
             "a problem is told in words as well");

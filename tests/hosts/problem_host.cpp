@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A host that cannot draw, and asks why: problem_host FOLDER plugin|memory
+// A host that cannot draw, or not all of a chart, and asks why:
+//   problem_host FOLDER plugin|memory|fonts
 #include "draw_pie.h"
 
 #include <cstring>
@@ -14,10 +15,23 @@ void limitMemory()
     setrlimit(RLIMIT_AS, &limit);
 }
 
+// Without a font on the machine there is a picture, but none of its texts. The host's own font is
+// enough for the next one.
+bool tellsLackOfFonts()
+{
+    const PieExport pie = exportPie(400, 300);
+    if (pie.bytes.empty() || pie.problem != tovangl::Problem::NoGlyphs)
+        return false;
+    return !tovangl::addFont("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf").empty() &&
+           exportPie(400, 300).problem == tovangl::Problem::None;
+}
+
 } // namespace
 
 int main(int, char** arguments)
 {
+    if (std::strcmp(arguments[2], "fonts") == 0)
+        return tellsLackOfFonts() ? 0 : 1;
     const bool lacksMemory = std::strcmp(arguments[2], "memory") == 0;
     if (lacksMemory)
         limitMemory();
