@@ -36,6 +36,9 @@ tovangl_part(Tests TOVANGL_BUILD_TESTS "Build the tests" ${tovangl_is_top_level}
 tovangl_part(Examples TOVANGL_BUILD_EXAMPLES "Build the examples" ${tovangl_is_top_level})
 tovangl_part(Benchmarks TOVANGL_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 tovangl_part("Fuzz targets" TOVANGL_BUILD_FUZZERS "Build the fuzz targets (needs clang)" OFF)
+# For builds that repeat another one, with another Qt or a sanitizer: with it, a test compiles even if
+# it forgets one of these headers. The library is always compiled as a user compiles it.
+option(TOVANGL_PRECOMPILED_HEADERS "Parse the headers that most tests include once" OFF)
 option(TOVANGL_INSTALL "Generate install rules" ${tovangl_is_top_level})
 set(TOVANGL_MAINTAINER "The tovangl authors <authors@tovangl.example>" CACHE STRING
     "The maintainer that the packages name")

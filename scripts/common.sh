@@ -17,7 +17,8 @@ build_preset() {
     done
     if (($#)); then shift; fi
     if command -v ccache >/dev/null; then
-        options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+        # It keeps nothing of sources that take precompiled headers.
+        options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DTOVANGL_PRECOMPILED_HEADERS=OFF)
     fi
     cmake --preset "$preset" "${options[@]}"
     cmake --build "build/$preset" --parallel "$(cores)" ${1:+--target "$@"}
