@@ -65,9 +65,8 @@ QPainter& initPainter(QPainter& painter, const QFont& font, const QColor& pictur
 CCanvas::CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale,
                  const QString& addedFamily)
     : m_painter(&device)
-    , m_measurer(
-          initPainter(m_painter, chosenFont(chartFont(settings, scale, device), addedFamily),
-                      settings.colors.picture))
+    , m_measurer(initPainter(m_painter, chosenFont(chartFont(settings, scale, device), addedFamily),
+                             settings.colors.picture))
 {}
 
 QString CCanvas::usedFamily() const
