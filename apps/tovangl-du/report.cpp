@@ -97,6 +97,18 @@ bool isDigits(std::string_view text)
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+// What follows the number in the name of a picture.
+bool isPictureRest(const std::string& rest)
+{
+    for (const char* ending : {kPictureEnding, kDensePictureEnding}) {
+        for (const char* stem : {"-children", "-files", "-months"}) {
+            if (rest == std::string(stem) + ending)
+                return true;
+        }
+    }
+    return false;
+}
+
 bool isReportFileName(const std::string& name)
 {
     if (name == kFirstPage || name == kStyleName)
@@ -105,8 +117,7 @@ bool isReportFileName(const std::string& name)
     if (end == std::string::npos || !isDigits(std::string_view(name).substr(0, end)))
         return false;
     const std::string rest = name.substr(end);
-    return rest == ".html" || rest == "-children.png" || rest == "-files.png" ||
-           rest == "-months.png";
+    return rest == ".html" || isPictureRest(rest);
 }
 
 bool namesThisProgram(const fs::path& page)

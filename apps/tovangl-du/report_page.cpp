@@ -147,12 +147,16 @@ private:
 
     void addSection(const char* title, ReportPicture picture, const std::string& rows)
     {
-        const std::string fileName = m_contents.pictureStem + picture.map.name() + ".png";
+        const std::string stem = m_contents.pictureStem + picture.map.name();
+        const std::string fileName = stem + kPictureEnding;
+        const std::string denseName = stem + kDensePictureEnding;
         m_html += std::string("<section>\n<h2>") + title + "</h2>\n" +
-                  mappedPictureHtml({fileName, picture.width, picture.height, picture.description},
+                  mappedPictureHtml({fileName, denseSource(denseName, kDensity), picture.width,
+                                     picture.height, picture.description},
                                     picture.map) +
                   rows + "</section>\n";
         m_files.push_back({fileName, std::move(picture.png)});
+        m_files.push_back({denseName, std::move(picture.densePng)});
     }
 
     void addUnreadable()

@@ -16,6 +16,9 @@ namespace tovangl::program {
 /// The generator that the head of a page names.
 inline constexpr const char* kGenerator = "tovangl-du";
 inline constexpr const char* kStyleName = "style.css";
+/// The ends of the names of pictures.
+inline constexpr const char* kPictureEnding = ".png";
+inline constexpr const char* kDensePictureEnding = "-2x.png"; // for dense displays
 /// The content of the style file.
 [[nodiscard]] std::string reportStyle();
 

@@ -8,6 +8,8 @@
 #include <tovangl/PieGraph.h>
 #include <tovangl/VerticalBarGraph.h>
 
+#include <utility>
+
 namespace tovangl::program {
 
 namespace {
@@ -43,15 +45,23 @@ void applyLook(Graph& chart)
     chart.setLocale("en", "us");
 }
 
-ReportPicture render(Graph& chart, int height, const char* name)
+std::string renderPng(Graph& chart, int height, int scale)
 {
     unsigned char* bytes = nullptr;
     int size = 0;
+    chart.setScale(scale);
     chart.createPixmap(kWidth, height, &bytes, &size);
     if (size == 0)
         throw CFailure("cannot draw: " + chart.problemText());
-    return {std::string(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)),
-            kWidth, height, chart.describe(), CImageMap(name)};
+    return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
+}
+
+// The map is in pixels of the page, and a chart tells the regions of its last rendering.
+ReportPicture render(Graph& chart, int height, const char* name)
+{
+    std::string dense = renderPng(chart, height, kDensity);
+    std::string png = renderPng(chart, height, 1);
+    return {std::move(png), std::move(dense), kWidth, height, chart.describe(), CImageMap(name)};
 }
 
 // Captions come first: where one overlaps a bar or a slice, the reader points at the caption.

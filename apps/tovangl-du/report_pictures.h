@@ -11,10 +11,14 @@
 
 namespace tovangl::program {
 
+/// Picture pixels, each way, for each pixel of the page, in the picture for dense displays.
+inline constexpr int kDensity = 2;
+
 struct ReportPicture
 {
     std::string png;
-    int width;
+    std::string densePng; ///< the same for dense displays
+    int width;            ///< in pixels of the page
     int height;
     std::string description; ///< UTF-8, not escaped
     CImageMap map;

@@ -31,6 +31,7 @@ FILES = {
     "letters & bills/letter": 200_000,
     "notes": 100_000,
 }
+DENSE = 2  # pixels of a display, each way, for each pixel of a page
 NOW = int(time.time())  # when the files changed last, but every second one a year earlier
 YEAR = 365 * 24 * 60 * 60
 
@@ -74,10 +75,10 @@ def make_chart(folder, kind):
                    check=True)
 
 
-def open_reader(folder):
+def open_reader(folder, density=1):
     """A container may forbid what a browser needs: that is no fault of the pages."""
     try:
-        return Reader(folder)
+        return Reader(folder, density)
     except WebDriverException as failure:
         print("skipped: the browser does not start here:", failure.msg.splitlines()[0])
         sys.exit(SKIPPED)
@@ -252,6 +253,40 @@ class ChartPageTest(PageTest):
         text = self.reader.all("img")[0].get_attribute("alt")
         self.assertIn("3 of 3 items drawn", text)
         self.assertIn("first", text)
+
+
+class DenseDisplayTest(PageTest):
+    """The pages on a display with two pixels, each way, for each of theirs."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.reader = open_reader(cls.folder, DENSE)
+        cls.addClassCleanup(cls.reader.close)
+
+    def expect_crisp_pictures(self):
+        for picture in self.reader.all("img"):
+            source = self.reader.dense_source(picture)
+            self.assertEqual(picture.get_property("currentSrc"), source)
+            self.assertTrue(self.reader.is_shown_as(picture, source))
+            self.assertFalse(self.reader.is_shown_as(picture, picture.get_attribute("src")))
+
+    def test_charts_are_crisp(self):
+        for kind in ("pie", "bars", "hbars"):
+            self.open(f"file://{self.folder}/{kind}.html")
+            self.expect_crisp_pictures()
+
+    def test_reports_are_crisp(self):
+        self.open(self.site + "report/index.html")
+        self.expect_crisp_pictures()
+
+    def test_regions_are_where_their_items_are_shown(self):
+        for kind in ("pie", "bars", "hbars"):
+            self.open(f"file://{self.folder}/{kind}.html")
+            for region in self.reader.regions():
+                self.point_at(region)
+            shapes = self.reader.regions()[-len(ITEMS):]
+            self.assertEqual([self.reader.pixel(region) for region in shapes],
+                             [color for _, color in ITEMS.values()])
 
 
 class SelfTest(PageTest):

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """A reader of pages: a browser that looks, points and clicks."""
 import os
+import urllib.parse
 
 from selenium import webdriver
 from selenium.webdriver.chrome.service import Service
@@ -14,7 +15,6 @@ GLANCE = 0.02  # seconds between two looks at what is waited for
 ARGUMENTS = (
     "--headless=new",
     "--window-size=1000,1000",
-    "--force-device-scale-factor=1",
     "--disable-gpu",
     "--disable-dev-shm-usage",
     "--disable-background-networking",
@@ -37,6 +37,24 @@ READ_PIXELS = """
     return pixels;
 """
 
+# Whether two sources of pictures have the same size and pixels.
+COMPARE_PICTURES = """
+    const read = async source => {
+        const picture = new Image();
+        picture.src = source;
+        await picture.decode();
+        const canvas = document.createElement('canvas');
+        canvas.width = picture.naturalWidth;
+        canvas.height = picture.naturalHeight;
+        const context = canvas.getContext('2d');
+        context.drawImage(picture, 0, 0);
+        return context.getImageData(0, 0, canvas.width, canvas.height);
+    };
+    return Promise.all(Array.from(arguments).slice(0, 2).map(read))
+        .then(([a, b]) => a.width === b.width && a.height === b.height &&
+                          a.data.every((channel, index) => channel === b.data[index]));
+"""
+
 
 class Region:
     """An area of an image map: what it says, where it leads, and a place well inside it."""
@@ -57,11 +75,15 @@ class Region:
 
 
 class Reader:
-    """Opens pages in a headless Chromium whose files all lie in one folder."""
+    """Opens pages in a headless Chromium whose files all lie in one folder.
 
-    def __init__(self, folder):
+    The density is that of the display: its pixels, each way, for each pixel of a page.
+    """
+
+    def __init__(self, folder, density=1):
         options = webdriver.ChromeOptions()
-        for argument in ARGUMENTS + (f"--user-data-dir={folder}/browser",):
+        for argument in ARGUMENTS + (f"--force-device-scale-factor={density}",
+                                     f"--user-data-dir={folder}/browser{density}"):
             options.add_argument(argument)
         if os.getuid() == 0:  # the sandbox does not work for root
             options.add_argument("--no-sandbox")
@@ -110,6 +132,20 @@ class Reader:
     def pixel(self, region):
         """The colour at the place inside the region."""
         return self.run(READ_PIXELS, self.picture(region), *region.inside(), 1, 1)[0]
+
+    def dense_source(self, picture):
+        """The address of the picture for dense displays."""
+        source = picture.get_attribute("srcset").split(" ")[0]
+        return urllib.parse.urljoin(self.driver.current_url, source)
+
+    def is_shown_as(self, picture, source):
+        """Whether the display shows just the pixels of a source, not scaled in any way.
+
+        For that the picture moves to the corner of the window, on whole pixels.
+        """
+        self.run("arguments[0].style = 'position: fixed; left: 0; top: 0; z-index: 1';", picture)
+        return self.run(COMPARE_PICTURES, f"data:image/png;base64,{picture.screenshot_as_base64}",
+                        source)
 
     def hover(self, region):
         """Rests on a place inside the region; returns the titles that the browser shows for it."""

@@ -52,8 +52,8 @@ TEST_F(DiskUsageReport, IsAFolderOfPagesAndPictures)
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.output, "Wrote 3 pages; open report/index.html\n");
     EXPECT_THAT(reportNames(), IsSupersetOf({"index.html", "2.html", "3.html", "style.css",
-                                             "1-children.png", "3-months.png"}));
-    EXPECT_EQ(reportNames().size(), 3U * 4 + 1);
+                                             "1-children.png", "3-months.png", "3-months-2x.png"}));
+    EXPECT_EQ(reportNames().size(), 3U * 7 + 1);
 }
 
 TEST_F(DiskUsageReport, LeadsFromEachPageToPagesThatAreThere)
@@ -72,6 +72,10 @@ TEST_F(DiskUsageReport, LeadsFromEachPageToPagesThatAreThere)
             if (!target.empty() && target[0] != '#') {
                 EXPECT_THAT(names, Contains(target));
             }
+            const std::string dense = element["srcset"];
+            if (!dense.empty()) {
+                EXPECT_THAT(names, Contains(dense.substr(0, dense.find(' '))));
+            }
         }
     }
 }
@@ -89,7 +93,7 @@ TEST_F(DiskUsageReport, NamesItsFilesByNumberWhateverTheFoldersAreCalled)
     addFolder("index.html", 500);
     ASSERT_EQ(run("tree -o report").status, 0);
     EXPECT_THAT(reportNames(),
-                Each(MatchesRegex("index\\.html|style\\.css|[0-9]+(\\.html|-[a-z]+\\.png)")));
+                Each(MatchesRegex("index\\.html|style\\.css|[0-9]+(\\.html|-[a-z]+(-2x)?\\.png)")));
     for (const char* name : {"index.html", "2.html", "5.html"}) {
         EXPECT_EQ(page(name).error(), "");
         EXPECT_TRUE(page(name).all("script").empty());

@@ -8,6 +8,7 @@
 namespace tovangl::program {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -44,13 +45,23 @@ TEST_F(ReportPage, ComesWithItsPictures)
 {
     add("folder", 500, 7);
     const std::vector<ReportFile> files = make();
-    ASSERT_THAT(files, SizeIs(4));
-    EXPECT_EQ(files[0].name, "5.html");
-    EXPECT_EQ(files[1].name, "5-children.png");
-    EXPECT_EQ(files[2].name, "5-files.png");
-    EXPECT_EQ(files[3].name, "5-months.png");
+    std::vector<std::string> names;
+    for (const ReportFile& file : files)
+        names.push_back(file.name);
+    EXPECT_THAT(names, ElementsAre("5.html", "5-children.png", "5-children-2x.png", "5-files.png",
+                                   "5-files-2x.png", "5-months.png", "5-months-2x.png"));
     for (std::size_t i = 1; i < files.size(); ++i)
         EXPECT_THAT(files[i].bytes, StartsWith("\x89PNG"));
+}
+
+TEST_F(ReportPage, ShowsItsPicturesOnDenseDisplaysInTheSamePlace)
+{
+    add("folder", 500, 7);
+    for (const HtmlElement& image : page().all("img")) {
+        const std::string stem = image["src"].substr(0, image["src"].find('.'));
+        EXPECT_EQ(image["srcset"], stem + "-2x.png 2x");
+        EXPECT_EQ(image["width"], "800");
+    }
 }
 
 TEST_F(ReportPage, IsSound)
