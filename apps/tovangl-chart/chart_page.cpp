@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <vector>
 
 namespace tovangl::program {
 
@@ -43,40 +42,31 @@ std::string anchorOf(std::size_t index)
     return "item-" + std::to_string(index + 1);
 }
 
-// What regions belong to, each with the row that they lead to.
-struct Row
+// Others that gather nothing have no row, and their regions are empty.
+ChartItems rowsOf(const ChartItems& items, const ChartRegions& regions)
 {
-    std::string caption; // any bytes
-    std::string value;   // empty if it is not known
-};
-
-std::vector<Row> rowsOf(const ChartItems& items, const ChartRegions& regions)
-{
-    std::vector<Row> rows;
-    for (const ChartItem& item : items)
-        rows.push_back({item.caption, std::to_string(item.value)});
-    if (regions.others)
-        rows.push_back({regions.others->caption, regions.others->value
-                                                     ? std::to_string(*regions.others->value)
-                                                     : std::string()});
+    ChartItems rows = items;
+    if (regions.others && regions.others->count > 0)
+        rows.push_back({regions.others->value, regions.others->caption, {}, {}});
     return rows;
 }
 
-RegionLink linkOf(const std::vector<Row>& rows, std::size_t index)
+RegionLink linkOf(const ChartItems& rows, std::size_t index)
 {
-    const std::string text = displayName(rows[index].caption) + ": " + rows[index].value;
+    const std::string text =
+        displayName(rows[index].caption) + ": " + std::to_string(rows[index].value);
     return {'#' + anchorOf(index), text, text};
 }
 
 // Where regions overlap, the first one wins, so captions come before bars and slices: that is what
 // the reader points at.
-CImageMap imageMap(const std::vector<Row>& rows, const ChartRegions& regions)
+CImageMap imageMap(const ChartItems& rows, const ChartRegions& regions)
 {
     CImageMap map(kMapName);
     const auto addAll = [&](const auto& list, auto add) {
-        std::size_t index = 0;
-        for (const auto& region : list)
-            (map.*add)(region, linkOf(rows, index++));
+        auto region = list.begin();
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            (map.*add)(*region++, linkOf(rows, i));
     };
     addAll(regions.captions, &CImageMap::addRectangle);
     if (regions.bars)
@@ -95,13 +85,13 @@ std::string headHtml(const std::string& title)
            "</title>\n<style>\n" + kStyle + "</style>\n</head>\n";
 }
 
-std::string tableHtml(const std::vector<Row>& rows)
+std::string tableHtml(const ChartItems& rows)
 {
     std::string html = "<table>\n<thead><tr><th>Item</th><th>Value</th></tr></thead>\n<tbody>\n";
     for (std::size_t i = 0; i < rows.size(); ++i)
         html += "<tr id=\"" + anchorOf(i) + "\"><td><bdi>" +
-                escapeHtml(displayName(rows[i].caption)) + "</bdi></td><td>" + rows[i].value +
-                "</td></tr>\n";
+                escapeHtml(displayName(rows[i].caption)) + "</bdi></td><td>" +
+                std::to_string(rows[i].value) + "</td></tr>\n";
     return html + "</tbody>\n</table>\n";
 }
 
@@ -130,7 +120,7 @@ std::string chartPageHtml(const std::string& title, const ChartPictures& picture
                           const ChartItems& items, const ChartRegions& regions)
 {
     const std::string heading = escapeHtml(displayName(title));
-    const std::vector<Row> rows = rowsOf(items, regions);
+    const ChartItems rows = rowsOf(items, regions);
     return headHtml(heading) + "<body>\n<h1>" + heading + "</h1>\n" +
            mappedPictureHtml(mappedPicture(pictures, regions), imageMap(rows, regions)) +
            tableHtml(rows) + "</body>\n</html>\n";

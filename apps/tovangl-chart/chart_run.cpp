@@ -107,8 +107,7 @@ ChartPictures renderPictures(Graph& chart, const CommonOptions& options)
     return pictures;
 }
 
-ChartRegions captionRegions(Graph& chart, const char* kind, const ChartItems& items,
-                            const CommonOptions& options)
+ChartRegions captionRegions(Graph& chart, const char* kind, const CommonOptions& options)
 {
     ChartRegions regions;
     regions.kind = kind;
@@ -118,8 +117,9 @@ ChartRegions captionRegions(Graph& chart, const char* kind, const ChartItems& it
     regions.title = givenValue(options.settings, "title").value_or("");
     regions.titleRectangle = chart.titleRectangle();
     regions.captions = *chart.getRectangle();
-    if (regions.captions.size() > items.size())
-        regions.others = OthersItem{givenValue(options.settings, "others").value_or(""), {}};
+    const std::string others = givenValue(options.settings, "others").value_or("");
+    if (!others.empty())
+        regions.others = OthersItem{others, chart.othersCount(), chart.othersValue()};
     return regions;
 }
 
@@ -176,7 +176,7 @@ void drawChart(Graph& chart, const char* kind, const ChartItems& items,
                const CommonOptions& options, const AddShapes& addShapes)
 {
     const ChartPictures pictures = renderPictures(chart, options);
-    ChartRegions regions = captionRegions(chart, kind, items, options);
+    ChartRegions regions = captionRegions(chart, kind, options);
     addShapes(regions);
     writeChart(pictures, items, regions, options);
     tellProblem(chart, options);

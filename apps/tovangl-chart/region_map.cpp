@@ -54,9 +54,9 @@ Json othersJson(const std::optional<OthersItem>& others)
 {
     if (!others)
         return nullptr;
-    Json json = {{"value", nullptr}, {"caption", others->caption}};
-    if (others->value)
-        json["value"] = *others->value;
+    Json json = {{"count", others->count}, {"value", nullptr}, {"caption", others->caption}};
+    if (others->count > 0)
+        json["value"] = others->value;
     return json;
 }
 

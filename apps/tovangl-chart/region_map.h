@@ -9,6 +9,7 @@
 #include <tovangl/Rectangle.h>
 #include <tovangl/Slice.h>
 
+#include <cstddef>
 #include <list>
 #include <optional>
 #include <string>
@@ -19,7 +20,8 @@ namespace tovangl::program {
 struct OthersItem
 {
     std::string caption;
-    std::optional<long> value; ///< none where nothing was left out
+    std::size_t count = 0; ///< of the items that it gathers
+    long value = 0;        ///< their sum
 };
 
 /// What a rendered chart reports about itself. Every list has one record for each item, and then

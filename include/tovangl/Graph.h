@@ -11,6 +11,7 @@
 #include <tovangl/Rectangle.h>
 #include <tovangl/Theme.h>
 
+#include <cstddef>
 #include <list>
 #include <string>
 #include <vector>
@@ -114,6 +115,12 @@ public:
     ///
     /// @param caption  UTF-8; empty, the default, drops what the threshold leaves out
     void setOthers(const std::string& caption);
+
+    /// How many items the last rendering gathered; 0 where it drew no item for them.
+    std::size_t othersCount() const;
+
+    /// The value of the item that gathers them; 0 where there is none.
+    long othersValue() const;
 
     /// Sets the colours of items that have none of their own: the first is that of the first item,
     /// and after the last comes the first again. A colour that is not set leaves that item's

@@ -75,6 +75,8 @@ public:
     [[nodiscard]] std::size_t recordCount() const;
     /// The record of an item of the last layout; none for others that the host wants no more.
     [[nodiscard]] std::optional<std::size_t> recordOf(std::size_t item) const;
+    /// What the last rendering gathered into one item; nothing where it drew no such item.
+    [[nodiscard]] CLeftOut gathered() const { return m_others ? m_others->leftOut : CLeftOut(); }
     /// Where the last rendering drew the title; null where it drew none.
     [[nodiscard]] QRect titleRectangle() const { return m_titleRect; }
     [[nodiscard]] std::string describe() const;

@@ -101,6 +101,16 @@ void Graph::setOthers(const std::string& caption)
         m_graph->input().settings.othersCaption = toQString(caption);
 }
 
+std::size_t Graph::othersCount() const
+{
+    return m_graph ? m_graph->gathered().count() : 0;
+}
+
+long Graph::othersValue() const
+{
+    return m_graph ? static_cast<long>(m_graph->gathered().value()) : 0;
+}
+
 void Graph::setPalette(const std::vector<Color>& colors)
 {
     if (!m_graph)

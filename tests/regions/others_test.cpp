@@ -70,6 +70,22 @@ TEST_P(Others, HaveTheLastRecord)
     EXPECT_EQ(captions(), std::vector<bool>({true, false, true, false, true}));
 }
 
+TEST_P(Others, AreCountedAndSummedUp)
+{
+    render(graph());
+    EXPECT_EQ(graph().othersCount(), 2U);
+    EXPECT_EQ(graph().othersValue(), 80);
+}
+
+TEST_P(Others, AreNoneWhereTheLastRenderingDrewNone)
+{
+    EXPECT_EQ(graph().othersCount(), 0U);
+    render(graph());
+    render(graph(), 20, 20);
+    EXPECT_EQ(graph().othersCount(), 0U);
+    EXPECT_EQ(graph().othersValue(), 0);
+}
+
 TEST_P(Others, HaveARecordOfZerosBeforeAnyRendering)
 {
     EXPECT_EQ(drawn(), std::vector<bool>(5, false));

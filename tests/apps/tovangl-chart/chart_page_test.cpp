@@ -79,7 +79,7 @@ TEST_F(ChartPage, HoldsAPictureForDenseDisplaysInTheSamePlace)
 
 TEST_F(ChartPage, HasARowForTheOthers)
 {
-    m_regions.others = OthersItem{"<rest>", 12};
+    m_regions.others = OthersItem{"<rest>", 3, 12};
     m_regions.captions = {kNone, kNone, kCaption};
     const auto areas = page().all("area");
     ASSERT_THAT(areas, SizeIs(1));
@@ -87,6 +87,13 @@ TEST_F(ChartPage, HasARowForTheOthers)
     EXPECT_TRUE(page().hasId(areas[0]["href"].substr(1)));
     EXPECT_EQ(page().all("bdi").at(2).text, "<rest>");
     EXPECT_EQ(page().all("td").at(5).text, "12");
+}
+
+TEST_F(ChartPage, HasNoRowForOthersThatGatherNothing)
+{
+    m_regions.others = OthersItem{"rest", 0, 0};
+    m_regions.captions = {kNone, kNone, kNone};
+    EXPECT_EQ(page().all("tr").size(), m_items.size() + 1);
 }
 
 TEST_F(ChartPage, HasTheRegionsOfBarsBehindThoseOfCaptions)

@@ -116,6 +116,16 @@ TEST_P(ProgramPage, ShowsAPrintInItsOwnPixels)
     EXPECT_EQ(picture().width(), 1600);
 }
 
+TEST_P(ProgramPage, LeadsFromTheOthersToTheirRow)
+{
+    run("items --map x.html --threshold 50 --others Rest");
+    const auto areas = page().all("area");
+    ASSERT_EQ(areas.size(), 4U);
+    EXPECT_EQ(areas[3]["title"], "Rest: 40");
+    EXPECT_EQ(areas[3]["href"], "#item-3");
+    EXPECT_EQ(page().all("bdi").at(2).text, "Rest");
+}
+
 TEST_P(ProgramPage, HasTheNameOfTheFileAsItsTitle)
 {
     run("items --map '<b>&.html'");

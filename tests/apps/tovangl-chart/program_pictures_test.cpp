@@ -149,7 +149,7 @@ TEST_P(EveryChart, IsDescribedInItsMap)
 
 TEST_P(EveryChart, MapsThePixelsOfTheScaledPicture)
 {
-    const auto [picture, map] = drawWithMap(chart() + " --scale 2", "5 a\t#ff0000\t#000000\n");
+    const auto [picture, map] = drawWithMap(chart() + " --scale 2", "5 a\t#ff0000\n");
     EXPECT_EQ(picture.size(), QSize(1600, 1200));
     EXPECT_EQ(map["width"], 1600);
     EXPECT_EQ(map["height"], 1200);
@@ -163,6 +163,16 @@ TEST_P(EveryChart, MapsItsTitle)
     const Json map = drawWithMap(chart() + " --title 'Sales & more'", kItems).second;
     EXPECT_EQ(map["title"], "Sales & more");
     EXPECT_GT(map["titleRectangle"]["width"], 0);
+}
+
+TEST_P(EveryChart, MapsTheOthers)
+{
+    const Json map = drawWithMap(chart() + " --threshold 25 --others Rest", kItems).second;
+    ASSERT_EQ(map["items"].size(), 4U);
+    EXPECT_EQ(map["others"]["caption"], "Rest");
+    EXPECT_EQ(map["others"]["count"], 2);
+    EXPECT_EQ(map["others"]["value"], 3000);
+    EXPECT_GT(map["others"]["captionRectangle"]["width"], 0);
 }
 
 TEST_P(EveryChart, MapsThePixelsOfThePrint)
@@ -255,7 +265,8 @@ constexpr OptionCase kOptionCases[] = {
     {"ValueColor", "hbars", "--value-color '#ff0000'"},
     {"Kilo", "bars", "--kilo 1000"},
     {"Unit", "pie", "--unit bit"},
-    {"Title", "pie", "--title Words"}};
+    {"Title", "pie", "--title Words"},
+    {"Others", "bars --threshold 25", "--others Rest"}};
 
 class EveryOption : public ::testing::TestWithParam<OptionCase>
 {};

@@ -84,12 +84,12 @@ TEST(RegionMap, ATitleWithoutRoomHasNoPlace)
 TEST(RegionMap, TheOthersHaveTheLastRegions)
 {
     ChartRegions regions;
-    regions.others = OthersItem{"rest", 12};
+    regions.others = OthersItem{"rest", 3, 12};
     regions.captions = {kNone, kFirst};
     regions.bars = std::list<Rectangle>{kNone, kSecond};
     const auto map = nlohmann::json::parse(regionMapJson(itemsOf({1}), regions));
     EXPECT_TRUE(map["items"][0]["barRectangle"].is_null());
-    EXPECT_EQ(map["others"], nlohmann::json::parse(R"({"value": 12, "caption": "rest",
+    EXPECT_EQ(map["others"], nlohmann::json::parse(R"({"count": 3, "value": 12, "caption": "rest",
         "captionRectangle": {"x": 1, "y": 2, "width": 3, "height": 4},
         "barRectangle": {"x": 5, "y": 6, "width": 7, "height": 8}})"));
 }
@@ -97,11 +97,11 @@ TEST(RegionMap, TheOthersHaveTheLastRegions)
 TEST(RegionMap, OthersThatGatherNothingAreNull)
 {
     ChartRegions regions;
-    regions.others = OthersItem{"rest", std::nullopt};
+    regions.others = OthersItem{"rest", 0, 0};
     regions.captions = {kNone};
     regions.slices = {{0, 0, 0, 0, 0, 0}};
     EXPECT_EQ(nlohmann::json::parse(regionMapJson({}, regions))["others"],
-              nlohmann::json::parse(R"({"value": null, "caption": "rest",
+              nlohmann::json::parse(R"({"count": 0, "value": null, "caption": "rest",
                   "captionRectangle": null, "slice": null})"));
 }
 
