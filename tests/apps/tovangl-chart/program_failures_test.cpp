@@ -132,7 +132,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailingCommand{"Threshold", "tovangl-chart bars --threshold 5% items -o x.png",
                        "--threshold: \"5%\" is not a number"},
         FailingCommand{"Axis", "tovangl-chart bars --value-axis line,loud items -o x.png",
-                       "--value-axis: \"line,loud\" is not a list of axis properties (line, "},
+                       "--value-axis: \"line,loud\" is not a list of axis properties (line,"},
         FailingCommand{"BarWidth", "tovangl-chart bars --bar-width x items -o x.png",
                        "--bar-width: \"x\" is not a whole number from "},
         FailingCommand{"NoScale", "tovangl-chart hbars --scale 0 items -o x.png",
