@@ -1,6 +1,6 @@
 # bash completion for tovangl-chart
 _tovangl_chart() {
-    local common='-o --output --map --size --print --theme --title --font --font-size --locale
+    local common='-o --output --map --size --print --theme --title --font --font-file --font-size --locale
         --threshold --others --palette --background --picture-color --text-color --plot-color
         --border-color --outline-color --kilo --scale --fast --csv --caption --value --color
         --help'
@@ -12,7 +12,7 @@ _tovangl_chart() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local words files=
     case $previous in
-        -o | --output | --map) files=yes ;;
+        -o | --output | --map | --font-file) files=yes ;;
         --category-axis | --value-axis) words=$axis ;;
         --theme | --palette) words='light dark high-contrast colour-blind' ;;
         --picture-color) words='transparent' ;;

@@ -1,10 +1,14 @@
 # bash completion for tovangl-du
 _tovangl_du() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-    local words='-o --output --pages --depth -x --one-file-system --help --version'
+    local words='-o --output --pages --depth --font-file -x --one-file-system --help --version'
     case $previous in
         --pages | --depth) return ;;
         -o | --output) words= ;;
+        --font-file)
+            mapfile -t COMPREPLY < <(compgen -f -- "$current")
+            return
+            ;;
     esac
     mapfile -t COMPREPLY < <(
         if [[ $current == -* ]]; then compgen -W "$words" -- "$current"; fi

@@ -2,6 +2,7 @@
 // The steps that every chart command takes.
 #include "tovangl-chart/chart_run.h"
 
+#include "common/font_files.h"
 #include "common/output_files.h"
 #include "tovangl-chart/chart_page.h"
 
@@ -56,6 +57,14 @@ CFailure noPicture(const Graph& chart, const CommonOptions& options)
 std::string pictureOutput(const CommonOptions& options)
 {
     return options.output.value_or(makesPage(options) ? "" : kStandardOutput);
+}
+
+/// Whether the user knows already, or has not asked for what is missing: few machines have the
+/// default family.
+bool isNoNews(Problem problem, const CommonOptions& options)
+{
+    return problem == Problem::None ||
+           (problem == Problem::FamilyReplaced && !givenValue(options.settings, "font"));
 }
 
 void checkOutputs(const CommonOptions& options)
@@ -157,9 +166,17 @@ void writeChart(const ChartPictures& pictures, const ChartItems& items, const Ch
     writeOutputs(outputs);
 }
 
+// Without a family, the first one of the user's own files is the one that is meant.
+void applyFontFiles(Graph& chart, const std::vector<std::string>& files)
+{
+    const std::vector<std::string> families = addFontFiles(files);
+    if (!families.empty())
+        chart.setByName("font", families.front());
+}
+
 void tellProblem(const Graph& chart, const CommonOptions& options)
 {
-    if (chart.problem() != Problem::None)
+    if (!isNoNews(chart.problem(), options))
         std::cerr << "tovangl-chart: " << sizeText(options) << ": " << chart.problemText() << '\n';
 }
 
@@ -168,6 +185,7 @@ void tellProblem(const Graph& chart, const CommonOptions& options)
 ChartItems prepareChart(Graph& chart, const CommonOptions& options, LineColors colors)
 {
     checkOutputs(options);
+    applyFontFiles(chart, options.fontFiles);
     applySettings(chart, options.settings);
     return readItems(options.input, colors);
 }

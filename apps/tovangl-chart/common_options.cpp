@@ -2,6 +2,7 @@
 // The options of a command.
 #include "tovangl-chart/common_options.h"
 
+#include "common/font_files.h"
 #include "tovangl-chart/csv_options.h"
 
 namespace tovangl::program {
@@ -38,6 +39,7 @@ void addSizeOptions(CLI::App& command, CommonOptions& options)
     addOption(command, "--print", options.printFactor, parseWhole,
               "For print: N times as many pixels each way, slices in paler colours")
         ->type_name("N");
+    addFontFileOption(command, options.fontFiles);
 }
 
 } // namespace

@@ -15,6 +15,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tovangl::program {
 
@@ -25,6 +26,7 @@ struct CommonOptions
     std::string map; // empty: none
     PictureSize size;
     std::optional<int> printFactor;
+    std::vector<std::string> fontFiles;
     GivenSettings settings;
 };
 

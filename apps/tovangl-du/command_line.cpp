@@ -3,12 +3,14 @@
 #include "tovangl-du/command_line.h"
 
 #include "common/CFailure.h"
+#include "common/font_files.h"
 #include "common/interruption.h"
 #include "common/program_arguments.h"
 #include "common/text_checks.h"
 #include "tovangl-du/CProgressLine.h"
 #include "tovangl-du/byte_text.h"
 #include "tovangl-du/report.h"
+#include "tovangl-du/report_pictures.h"
 
 #include <ctime>
 #include <iostream>
@@ -38,6 +40,7 @@ struct DiskUsageOptions
 {
     WalkOptions walk;
     std::string output = "tovangl-report";
+    std::vector<std::string> fontFiles;
 };
 
 void addOptions(CLI::App& program, DiskUsageOptions& options)
@@ -61,6 +64,7 @@ void addOptions(CLI::App& program, DiskUsageOptions& options)
                     "Write pages for folders down to N levels")
         ->type_name("N")
         ->check(CLI::Range(0, kMostLevels));
+    addFontFileOption(program, options.fontFiles);
     program.add_flag("-x,--one-file-system", options.walk.isOneFileSystem,
                      "Leave out folders on other file systems");
 }
@@ -91,10 +95,18 @@ void tellUnreadable(const WalkResult& result)
                   << " more could not be read\n";
 }
 
-std::size_t write(const WalkResult& result, const DiskUsageOptions& options, CStagedFolder& folder)
+void tellLackOfLetters(const std::string& fontFamily)
+{
+    const std::string problem = lackOfLetters(fontFamily);
+    if (!problem.empty())
+        std::cerr << "tovangl-du: " << problem << '\n';
+}
+
+std::size_t write(const WalkResult& result, const DiskUsageOptions& options,
+                  const std::string& fontFamily, CStagedFolder& folder)
 {
     CProgressLine line;
-    return writeReport(result, options.walk.root, options.walk.now, folder,
+    return writeReport(result, options.walk.root, options.walk.now, fontFamily, folder,
                        [&line](std::size_t page) {
                            stopIfInterrupted();
                            line.show([page] { return "page " + formatCount(page); });
@@ -106,12 +118,15 @@ void runReport(DiskUsageOptions options)
     if (options.output.empty())
         throw CFailure("--output: the folder has no name");
     options.walk.now = std::time(nullptr);
+    const std::vector<std::string> added = addFontFiles(options.fontFiles);
+    const std::string fontFamily = added.empty() ? kReportFontFamily : added.front();
     noteInterruptions();
     CStagedFolder folder(options.output, isReport);
     const WalkResult result = walk(options.walk);
-    const std::size_t pages = write(result, options, folder);
+    const std::size_t pages = write(result, options, fontFamily, folder);
     folder.publish();
     tellUnreadable(result);
+    tellLackOfLetters(fontFamily);
     std::cout << "Wrote " << formatNumberOf(pages, "page", "pages") << "; open "
               << makePrintable(options.output) << '/' << kFirstPage << '\n';
 }

@@ -144,15 +144,20 @@ bool isReport(const fs::path& folder)
 }
 
 std::size_t writeReport(const WalkResult& walk, const std::string& rootName, std::int64_t now,
-                        CStagedFolder& folder, const std::function<void(std::size_t)>& report)
+                        const std::string& fontFamily, CStagedFolder& folder,
+                        const std::function<void(std::size_t)>& report)
 {
     const CPageList pages(walk, rootName);
     const PageOf pageOf = [&pages](FolderId id) { return pages.fileNameOf(id); };
     const std::string time = timeText(now);
     for (std::size_t i = 0; i < pages.size(); ++i) {
         report(i + kFirstNumber);
-        const PageContents contents{pages.folderOf(i), pages.pathOf(i),
-                                    std::to_string(i + kFirstNumber) + '-', walk.unreadable, time};
+        const PageContents contents{pages.folderOf(i),
+                                    pages.pathOf(i),
+                                    std::to_string(i + kFirstNumber) + '-',
+                                    walk.unreadable,
+                                    time,
+                                    fontFamily};
         for (const ReportFile& file : makePage(contents, pageOf))
             folder.write(file.name, file.bytes);
     }

@@ -22,10 +22,12 @@ inline constexpr const char* kFirstPage = "index.html";
 ///
 /// @param rootName  the name of the root of the walk
 /// @param now       seconds since the start of 1970
+/// @param fontFamily  of the pictures
 /// @param report    called before each page with its number
 /// @return the number of pages
 std::size_t writeReport(const WalkResult& walk, const std::string& rootName, std::int64_t now,
-                        CStagedFolder& folder, const std::function<void(std::size_t)>& report);
+                        const std::string& fontFamily, CStagedFolder& folder,
+                        const std::function<void(std::size_t)>& report);
 
 } // namespace tovangl::program
 

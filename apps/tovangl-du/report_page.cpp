@@ -4,7 +4,6 @@
 
 #include "common/html_text.h"
 #include "tovangl-du/byte_text.h"
-#include "tovangl-du/report_pictures.h"
 
 namespace tovangl::program {
 
@@ -136,12 +135,14 @@ private:
         const ChildRows children = childRows(m_folder, m_pageOf);
         const ReportRows files = fileRows(m_folder, children);
         const ReportRows months = monthRows(m_folder);
-        addSection("Contents", drawPie(children.pie, m_folder.bytes, "children"),
+        addSection("Contents",
+                   drawPie(children.pie, m_folder.bytes, "children", m_contents.fontFamily),
                    foldedTable(children.table, m_folder.bytes, "Name"));
-        addSection("Largest files", drawLyingBars(files, m_folder.bytes, "files"),
+        addSection("Largest files",
+                   drawLyingBars(files, m_folder.bytes, "files", m_contents.fontFamily),
                    table(files, m_folder.bytes, "File"));
         addSection("Bytes by month of last change",
-                   drawUprightBars(months, m_folder.bytes, "months"),
+                   drawUprightBars(months, m_folder.bytes, "months", m_contents.fontFamily),
                    table(months, m_folder.bytes, "Month"));
     }
 

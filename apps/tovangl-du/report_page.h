@@ -6,6 +6,7 @@
 
 #include "tovangl-du/FolderSummary.h"
 #include "tovangl-du/folder_walk.h"
+#include "tovangl-du/report_pictures.h"
 #include "tovangl-du/report_rows.h"
 
 #include <string>
@@ -36,6 +37,7 @@ struct PageContents
     std::string pictureStem;    ///< the pictures' names start with it
     const std::vector<UnreadablePlace>& unreadable; ///< listed if the folder is the root
     std::string time;                               ///< of the walk
+    std::string fontFamily = kReportFontFamily;     ///< of the pictures
 };
 
 /// A file of the report.

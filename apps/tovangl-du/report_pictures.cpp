@@ -20,7 +20,6 @@ constexpr int kUprightHeight = 240;
 constexpr int kRowHeight = 24;
 constexpr int kRoomAroundRows = 30;
 
-constexpr const char* kFontFamily = "DejaVu Sans";
 constexpr int kFontSize = 11;
 
 // Bars have an outline two thirds as bright as they are.
@@ -39,9 +38,9 @@ RegionLink linkOf(const ReportRow& row, long total)
 }
 
 // The page is in English, and so are its pictures.
-void applyLook(Graph& chart)
+void applyLook(Graph& chart, const std::string& fontFamily)
 {
-    chart.setFont(kFontFamily, kFontSize);
+    chart.setFont(fontFamily, kFontSize);
     chart.setLocale("en", "us");
 }
 
@@ -74,9 +73,9 @@ void addCaptions(ReportPicture& picture, Graph& chart, const ReportRows& rows, l
 
 template <typename BarChart>
 ReportPicture drawBars(BarChart& chart, const ReportRows& rows, int height, long total,
-                       const char* name)
+                       const char* name, const std::string& fontFamily)
 {
-    applyLook(chart);
+    applyLook(chart, fontFamily);
     for (const ReportRow& row : rows)
         chart.addItem(row.bytes, row.caption, row.color, outlineOf(row.color));
     ReportPicture picture = render(chart, height, name);
@@ -89,10 +88,19 @@ ReportPicture drawBars(BarChart& chart, const ReportRows& rows, int height, long
 
 } // namespace
 
-ReportPicture drawPie(const ReportRows& rows, long total, const char* name)
+std::string lackOfLetters(const std::string& fontFamily)
 {
     PieGraph chart(false);
-    applyLook(chart);
+    applyLook(chart, fontFamily);
+    static_cast<void>(render(chart, kPieHeight, ""));
+    return chart.problem() == Problem::NoGlyphs ? chart.problemText() : std::string();
+}
+
+ReportPicture drawPie(const ReportRows& rows, long total, const char* name,
+                      const std::string& fontFamily)
+{
+    PieGraph chart(false);
+    applyLook(chart, fontFamily);
     for (const ReportRow& row : rows)
         chart.addItem(row.bytes, row.caption, row.color);
     ReportPicture picture = render(chart, kPieHeight, name);
@@ -103,17 +111,19 @@ ReportPicture drawPie(const ReportRows& rows, long total, const char* name)
     return picture;
 }
 
-ReportPicture drawLyingBars(const ReportRows& rows, long total, const char* name)
+ReportPicture drawLyingBars(const ReportRows& rows, long total, const char* name,
+                            const std::string& fontFamily)
 {
     HorizontalBarGraph chart(true);
     const int height = kRoomAroundRows + kRowHeight * static_cast<int>(rows.size());
-    return drawBars(chart, rows, height, total, name);
+    return drawBars(chart, rows, height, total, name, fontFamily);
 }
 
-ReportPicture drawUprightBars(const ReportRows& rows, long total, const char* name)
+ReportPicture drawUprightBars(const ReportRows& rows, long total, const char* name,
+                              const std::string& fontFamily)
 {
     VerticalBarGraph chart(true);
-    return drawBars(chart, rows, kUprightHeight, total, name);
+    return drawBars(chart, rows, kUprightHeight, total, name, fontFamily);
 }
 
 } // namespace tovangl::program

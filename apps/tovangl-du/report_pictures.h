@@ -14,6 +14,12 @@ namespace tovangl::program {
 /// Picture pixels, each way, for each pixel of the page, in the picture for dense displays.
 inline constexpr int kDensity = 2;
 
+/// The family of the texts where the user has none of their own.
+inline constexpr const char* kReportFontFamily = "DejaVu Sans";
+
+/// What to say if pictures have no letters, because there is no font; empty if they have some.
+[[nodiscard]] std::string lackOfLetters(const std::string& fontFamily);
+
 struct ReportPicture
 {
     std::string png;
@@ -29,9 +35,13 @@ struct ReportPicture
 ///
 /// @param total  100 per cent of all shares; above 0
 /// @param name   of the image map
-[[nodiscard]] ReportPicture drawPie(const ReportRows& rows, long total, const char* name);
-[[nodiscard]] ReportPicture drawLyingBars(const ReportRows& rows, long total, const char* name);
-[[nodiscard]] ReportPicture drawUprightBars(const ReportRows& rows, long total, const char* name);
+/// @param fontFamily  of the texts
+[[nodiscard]] ReportPicture drawPie(const ReportRows& rows, long total, const char* name,
+                                    const std::string& fontFamily);
+[[nodiscard]] ReportPicture drawLyingBars(const ReportRows& rows, long total, const char* name,
+                                          const std::string& fontFamily);
+[[nodiscard]] ReportPicture drawUprightBars(const ReportRows& rows, long total, const char* name,
+                                            const std::string& fontFamily);
 
 } // namespace tovangl::program
 

@@ -2,6 +2,7 @@
 // A host that cannot draw, or not all of a chart, and asks why:
 //   problem_host FOLDER plugin|memory|fonts
 #include "draw_pie.h"
+#include <tovangl/Font.h>
 
 #include <cstring>
 #include <sys/resource.h>
