@@ -22,6 +22,9 @@ namespace tovangl {
 /// sign for missing ones. For bold texts, add the family's bold file too; without it, Qt makes the
 /// regular letters bolder.
 ///
+/// Add fonts before drawing: where a thread has drawn in another family while the machine had no
+/// font at all, texts in that family can stay without letters.
+///
 /// A file is added once, however often it is passed. Fonts stay until the process ends. Any thread
 /// can call this, while others draw; it waits for the pictures that are being drawn.
 ///
