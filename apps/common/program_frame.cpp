@@ -35,13 +35,13 @@ int fail(const char* name, const char* message)
 
 } // namespace
 
-int runProgram(const char* name, const std::function<void()>& work)
+int runProgram(const char* name, const std::function<int()>& work)
 {
     ignoreWriteSignals();
     try {
-        work();
+        const int status = work();
         requirePrinted();
-        return EXIT_SUCCESS;
+        return status;
     } catch (const std::bad_alloc&) {
         return fail(name, "out of memory");
     } catch (const std::exception& failure) {

@@ -15,9 +15,9 @@ inline constexpr int kExitFailure = 2;
 /// failed write to standard output.
 ///
 /// @param name  the program, for messages
-/// @param work  throws CFailure if it cannot continue
+/// @param work  returns the exit status, or throws CFailure if it cannot continue
 /// @return the exit status for main()
-int runProgram(const char* name, const std::function<void()>& work);
+int runProgram(const char* name, const std::function<int()>& work);
 
 } // namespace tovangl::program
 

@@ -23,8 +23,9 @@ _tovangl_chart() {
                 pie) words="$common $pie" files=yes ;;
                 bars) words="$common $bars $value" files=yes ;;
                 hbars) words="$common $bars --value-color" files=yes ;;
+                doctor) words='--font --font-file --help' ;;
             esac
-            if ((COMP_CWORD == 1)); then words='pie bars hbars --help --version' files=; fi
+            if ((COMP_CWORD == 1)); then words='pie bars hbars doctor --help --version' files=; fi
             ;;
     esac
     mapfile -t COMPREPLY < <(

@@ -1,5 +1,6 @@
 # fish completion for tovangl-chart
 set -l charts pie bars hbars
+set -l doctor '__fish_seen_subcommand_from doctor'
 set -l any "__fish_seen_subcommand_from $charts"
 set -l pie '__fish_seen_subcommand_from pie'
 set -l bars '__fish_seen_subcommand_from bars hbars'
@@ -11,6 +12,7 @@ set -l themes 'light dark high-contrast colour-blind'
 complete -c tovangl-chart -n "not $any" -f -a pie -d 'A pie'
 complete -c tovangl-chart -n "not $any" -f -a bars -d 'Vertical bars'
 complete -c tovangl-chart -n "not $any" -f -a hbars -d 'Horizontal bars'
+complete -c tovangl-chart -n "not $any" -f -a doctor -d 'Check that charts can be drawn'
 complete -c tovangl-chart -n "not $any" -l version -d 'Show the version'
 complete -c tovangl-chart -s h -l help -d 'Show the help'
 
@@ -40,6 +42,9 @@ complete -c tovangl-chart -n $any -l outline-color -x -d 'Colour of the outlines
 complete -c tovangl-chart -n $any -l kilo -x -a '1024 1000' -d 'What a prefix such as K stands for'
 complete -c tovangl-chart -n $any -l scale -x -a 2 -d 'More pixels for displays of high density'
 complete -c tovangl-chart -n $any -l fast -d 'Save faster, in a larger file'
+
+complete -c tovangl-chart -n $doctor -l font -x -d 'Look for this font family'
+complete -c tovangl-chart -n $doctor -l font-file -r -F -d 'Use the font in this file'
 
 complete -c tovangl-chart -n $pie -l bold -d 'Captions in bold type'
 complete -c tovangl-chart -n $pie -l shorten-left -d 'Cut captions at their beginning'

@@ -5,6 +5,8 @@
 #include "common/program_arguments.h"
 #include <tovangl/Compression.h>
 
+#include <cstdlib>
+
 namespace tovangl::program {
 
 namespace {
@@ -26,7 +28,8 @@ Examples:
   psql --csv -c 'SELECT relname, relpages FROM pg_class' | tovangl-chart pie --csv -o t.png
   tovangl-chart bars --csv --caption Month --value 'Net sales' sales.csv -o sales.png
 
-Each chart has its own help: tovangl-chart pie --help)";
+Each chart has its own help: tovangl-chart pie --help
+If charts look wrong or cannot be drawn: tovangl-chart doctor)";
 
 } // namespace
 
@@ -38,7 +41,7 @@ CLI::App* addChartCommand(CLI::App& program, const char* name, const char* descr
     return command;
 }
 
-void runCommandLine(int count, const char* const* arguments, const char* version)
+int runCommandLine(int count, const char* const* arguments, const char* version)
 {
     CLI::App program(kDescription);
     const std::string whatRuns =
@@ -48,7 +51,10 @@ void runCommandLine(int count, const char* const* arguments, const char* version
     addPieCommand(program);
     addBarsCommand(program);
     addHbarsCommand(program);
+    int status = EXIT_SUCCESS;
+    addDoctorCommand(program, status);
     parseArguments(program, count, arguments);
+    return status;
 }
 
 } // namespace tovangl::program

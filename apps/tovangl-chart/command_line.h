@@ -14,6 +14,8 @@ namespace tovangl::program {
 void addPieCommand(CLI::App& program);
 void addBarsCommand(CLI::App& program);
 void addHbarsCommand(CLI::App& program);
+/// @param status  receives the exit status
+void addDoctorCommand(CLI::App& program, int& status);
 
 /// Adds a command with the layout that all share.
 CLI::App* addChartCommand(CLI::App& program, const char* name, const char* description,
@@ -22,7 +24,8 @@ CLI::App* addChartCommand(CLI::App& program, const char* name, const char* descr
 /// Reads the arguments and does what they ask for. Throws CFailure.
 ///
 /// @param version  printed by --version
-void runCommandLine(int count, const char* const* arguments, const char* version);
+/// @return the exit status
+int runCommandLine(int count, const char* const* arguments, const char* version);
 
 } // namespace tovangl::program
 

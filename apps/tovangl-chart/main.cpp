@@ -7,6 +7,6 @@
 int main(int count, char** arguments)
 {
     return tovangl::program::runProgram("tovangl-chart", [count, arguments] {
-        tovangl::program::runCommandLine(count, arguments, tovangl::version());
+        return tovangl::program::runCommandLine(count, arguments, tovangl::version());
     });
 }

@@ -4,9 +4,12 @@
 #include "tovangl-du/command_line.h"
 #include <tovangl/Version.h>
 
+#include <cstdlib>
+
 int main(int count, char** arguments)
 {
     return tovangl::program::runProgram("tovangl-du", [count, arguments] {
         tovangl::program::runDiskUsage(count, arguments, tovangl::version());
+        return EXIT_SUCCESS;
     });
 }

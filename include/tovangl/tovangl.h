@@ -7,6 +7,7 @@
 #include <tovangl/AxisProperty.h>
 #include <tovangl/Color.h>
 #include <tovangl/Compression.h>
+#include <tovangl/Diagnosis.h>
 #include <tovangl/Export.h>
 #include <tovangl/Font.h>
 #include <tovangl/Graph.h>

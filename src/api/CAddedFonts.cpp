@@ -45,6 +45,15 @@ CAddedFonts& CAddedFonts::ofProcess()
     return fonts;
 }
 
+QString CAddedFonts::nameOf(const QString& qtFamily) const
+{
+    const auto& families = m_content.families;
+    const auto found =
+        std::find_if(families.begin(), families.end(),
+                     [&qtFamily](const auto& entry) { return entry.second.qtName == qtFamily; });
+    return found != families.end() ? found->second.name : qtFamily;
+}
+
 // The new file goes first: if Qt does not take it, the older ones need no new names.
 bool CAddedFonts::add(std::string_view file, const std::vector<QString>& families)
 {
@@ -94,7 +103,7 @@ const QString& CAddedFonts::nameFamily(const QString& family, Families& renamed)
         return known->second.qtName;
     CFamily& entry = renamed[key];
     if (!entry.isUsed)
-        entry = {newName(), std::make_shared<std::atomic<bool>>(false)};
+        entry = {family, newName(), std::make_shared<std::atomic<bool>>(false)};
     return entry.qtName;
 }
 

@@ -40,6 +40,8 @@ public:
     /// @param setting  a family, or several with commas between them
     /// @return empty if none is an added one
     [[nodiscard]] QString qtFamily(const QString& setting) const;
+    /// The family's own name; any other name as it is.
+    [[nodiscard]] QString nameOf(const QString& qtFamily) const;
 
 private:
     // A file as Qt has it, and the family of each font in it.
@@ -50,6 +52,7 @@ private:
     };
     struct CFamily
     {
+        QString name;
         QString qtName;
         // Every thread keeps what it found by a name. So once a chart has used the family, another
         // file for it comes with another name.

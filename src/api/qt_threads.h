@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Hides what differs between Qt 5.15 and 6 in threads. No other file in this folder tests the Qt
-/// version.
+/// Tells which Qt runs, and hides what differs between 5.15 and 6 in threads. No other file in this
+/// folder tests the Qt version.
 #ifndef TOVANGL_API_QT_THREADS_H
 #define TOVANGL_API_QT_THREADS_H
 
@@ -13,6 +13,12 @@
 
 namespace tovangl {
 namespace qt {
+
+/// The version that runs, which can be later than the one that the library was built with.
+inline const char* runningVersion()
+{
+    return qVersion();
+}
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 inline constexpr bool kPaintsInThreads = false;

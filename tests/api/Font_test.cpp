@@ -159,5 +159,22 @@ TEST(AddFont, ReadsNothingButRegularFiles)
         EXPECT_THAT(addFont(path), IsEmpty()) << path;
 }
 
+TEST(UsedFontFamily, IsTheAddedOneByItsOwnName)
+{
+    addBytes(smallFont("Own Name"));
+    EXPECT_EQ(usedFontFamily("own name"), "Own Name");
+}
+
+TEST(UsedFontFamily, IsTheOneThatReplacesAnother)
+{
+    EXPECT_NE(usedFontFamily("No Such Family"), "No Such Family");
+    EXPECT_NE(usedFontFamily("No Such Family"), "");
+}
+
+TEST(Platform, IsTheOneWithoutADisplay)
+{
+    EXPECT_EQ(platformName(), "offscreen");
+}
+
 } // namespace
 } // namespace tovangl

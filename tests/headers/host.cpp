@@ -95,6 +95,9 @@ int main()
     expect(std::strcmp(tovangl::version(), TOVANGL_VERSION_STRING) == 0, "version");
     expect(tovangl::addFont("/nonexistent").empty(), "no font file");
     expect(tovangl::addFont(nullptr, 0).empty(), "no font");
+    expect(tovangl::qtVersion()[0] != '\0', "Qt's version");
+    expect(!tovangl::platformName().empty(), "platform");
+    expect(!tovangl::usedFontFamily("").empty(), "font family");
     drawPie();
     tovangl::VerticalBarGraph upright(true);
     upright.setHorizontalAxis(tovangl::AxisProperty::ShowLabels, "across");

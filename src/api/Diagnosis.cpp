@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// What the library finds on the machine.
+#include "api/CAddedFonts.h"
+#include "api/CRendering.h"
+#include "api/conversions.h"
+#include "api/qt_threads.h"
+#include "input/CGraph1dSettings.h"
+#include "paint/CCanvas.h"
+#include <tovangl/Diagnosis.h>
+
+#include <QGuiApplication>
+#include <QImage>
+
+namespace tovangl {
+
+namespace {
+
+CGraph1dSettings settingsWith(const std::string& family)
+{
+    CGraph1dSettings settings;
+    if (!family.empty())
+        settings.setFont(toQString(family), settings.fontSize);
+    return settings;
+}
+
+} // namespace
+
+const char* qtVersion() noexcept
+{
+    return qt::runningVersion();
+}
+
+std::string platformName()
+{
+    const CRendering rendering;
+    return rendering.obstacle() == Problem::None ? QGuiApplication::platformName().toStdString()
+                                                 : std::string();
+}
+
+std::string usedFontFamily(const std::string& family)
+{
+    const CRendering rendering;
+    if (rendering.obstacle() != Problem::None)
+        return {};
+    const CGraph1dSettings settings = settingsWith(family);
+    const CAddedFonts& fonts = CAddedFonts::ofProcess();
+    QImage image(1, 1, QImage::Format_ARGB32);
+    const CCanvas canvas(image, settings, 1, fonts.qtFamily(settings.fontFamily));
+    return fonts.nameOf(canvas.usedFamily()).toStdString();
+}
+
+} // namespace tovangl

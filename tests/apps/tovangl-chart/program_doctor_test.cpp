@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// What tovangl-chart doctor finds.
+#include "apps/support/shell.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tovangl::program {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+constexpr const char* kWithoutFonts =
+    "echo '<fontconfig/>' >none.conf; FONTCONFIG_FILE=$PWD/none.conf ";
+
+TEST(Doctor, IsContentWhereChartsCanBeDrawn)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runShell(folder, "tovangl-chart doctor --font 'DejaVu Sans'");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.output, AllOf(HasSubstr("good  Qt: "), HasSubstr("good  platform plugin: "),
+                                     HasSubstr("good  font \"DejaVu Sans\": "),
+                                     HasSubstr("good  picture: "), Not(HasSubstr("bad "))));
+    EXPECT_THAT(result.errors, IsEmpty());
+}
+
+TEST(Doctor, NamesAPackageWhereThereIsNoFont)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result =
+        runShell(folder, kWithoutFonts + std::string("tovangl-chart doctor"));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.output, HasSubstr("bad   default font: no font found; install the package "
+                                         "fonts-dejavu-core"));
+}
+
+TEST(Doctor, NamesTheFamilyThatReplacesAnother)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runShell(folder, "tovangl-chart doctor --font 'No Such'");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.output, HasSubstr("bad   font \"No Such\": not there, and replaced by "));
+}
+
+TEST(Doctor, FindsTheFamilyOfAFile)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result =
+        runShell(folder, kWithoutFonts + std::string("tovangl-chart doctor --font-file "
+                                                     "/usr/share/fonts/truetype/dejavu/"
+                                                     "DejaVuSerif.ttf"));
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.output, HasSubstr("good  font \"DejaVu Serif\": "));
+}
+
+TEST(Doctor, FindsThatThePlatformPluginIsMissing)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result =
+        runShell(folder, "cp \"$(command -v tovangl-chart)\" . && mkdir plugins && "
+                         "printf '[Paths]\\nPrefix = .\\nPlugins = plugins\\n' >qt.conf && "
+                         "./tovangl-chart doctor");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.output, AllOf(HasSubstr("bad   platform plugin: "), HasSubstr("libqt"),
+                                     HasSubstr("bad   picture: ")));
+}
+
+} // namespace
+} // namespace tovangl::program
