@@ -211,17 +211,15 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_add_items(tovangl_chart* chart, size
 
 /// The same for captions that stand in one text, one behind the other, as columns of texts do.
 ///
-/// @param chart      not null
-/// @param text       all captions; a NUL inside is a character. May be null if text_size is 0
-/// @param text_size  number of bytes of the text
-/// @param offsets    count + 1 numbers, of which none is smaller than the one before or greater
-/// than
-///                   text_size: caption i reaches from offsets[i] up to, and without, offsets[i +
-///                   1]
+/// @param chart    not null
+/// @param text     all captions; a NUL inside is a character. May be null if size is 0
+/// @param size     number of bytes of the text
+/// @param offsets  count + 1 numbers: caption i reaches from offsets[i] up to, and without,
+///                 offsets[i + 1]. None is smaller than the one before, or greater than size
 /// @param count, values, fills, outlines  as in tovangl_chart_add_items()
 TOVANGL_EXPORT tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, size_t count,
                                                         const int64_t* values, const char* text,
-                                                        size_t text_size, const size_t* offsets,
+                                                        size_t size, const size_t* offsets,
                                                         const uint32_t* fills,
                                                         const uint32_t* outlines);
 

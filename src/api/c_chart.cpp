@@ -5,8 +5,6 @@
 #include "api/CBarBase.h"
 #include "api/CPieGraph.h"
 
-#include <utility>
-
 tovangl_chart::tovangl_chart(std::unique_ptr<tovangl::CBarBase> barGraph)
     : bars(std::move(barGraph))
     , graph(*bars)

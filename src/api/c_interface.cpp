@@ -7,6 +7,7 @@
 #include <tovangl/Setting.h>
 #include <tovangl/Version.h>
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -57,11 +58,11 @@ int kindOf(const tovangl_chart& chart)
 
 bool hasSetting(const tovangl_chart& chart, std::string_view name)
 {
-    for (const Setting& setting : settings()) {
-        if (setting.name == name && (setting.charts & kindOf(chart)) != 0)
-            return true;
-    }
-    return false;
+    const SettingTable table = settings();
+    const int kind = kindOf(chart);
+    return std::any_of(table.begin(), table.end(), [=](const Setting& setting) {
+        return setting.name == name && (setting.charts & kind) != 0;
+    });
 }
 
 COutcome setByName(tovangl_chart& chart, std::string_view name, std::string_view value)

@@ -119,13 +119,13 @@ tovangl_status tovangl_chart_add_items(tovangl_chart* chart, size_t count, const
 }
 
 tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, size_t count, const int64_t* values,
-                                         const char* text, size_t text_size, const size_t* offsets,
+                                         const char* text, size_t size, const size_t* offsets,
                                          const uint32_t* fills, const uint32_t* outlines)
 {
     return tovangl::callChart(chart, [=](tovangl_chart& target) -> tovangl::COutcome {
-        if ((count > 0 && (!values || !offsets)) || (text_size > 0 && !text))
+        if ((count > 0 && (!values || !offsets)) || (size > 0 && !text))
             return {TOVANGL_NULL_ARGUMENT};
-        if (count > 0 && !tovangl::areOffsets(offsets, count, text_size))
+        if (count > 0 && !tovangl::areOffsets(offsets, count, size))
             return {TOVANGL_BAD_ARGUMENT, "the offsets do not cut the text into captions"};
         const char* const begin = text ? text : "";
         return tovangl::addItems(target, {count, values, fills, outlines},

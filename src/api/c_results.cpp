@@ -24,17 +24,24 @@ static_assert(int{TOVANGL_PROBLEM_TOO_SMALL_FOR_CHART} ==
 
 // Where the host wants the records of a result, and their number.
 template <typename Record>
-struct CResult
+class CResult
 {
-    const Record** records;
-    std::size_t* count;
+public:
+    CResult(const Record** records, std::size_t* count)
+        : m_records(records)
+        , m_count(count)
+    {}
 
-    [[nodiscard]] bool isWanted() const { return records && count; }
+    [[nodiscard]] bool isWanted() const { return m_records && m_count; }
     void set(const Record* first, std::size_t number) const
     {
-        *records = first;
-        *count = number;
+        *m_records = first;
+        *m_count = number;
     }
+
+private:
+    const Record** m_records;
+    std::size_t* m_count;
 };
 
 // Runs a call that hands out records: none, where it fails.
@@ -95,7 +102,7 @@ using tovangl::COutcome;
 tovangl_status tovangl_chart_render(tovangl_chart* chart, int32_t width, int32_t height,
                                     const unsigned char** data, size_t* size)
 {
-    const tovangl::CResult<unsigned char> result{data, size};
+    const tovangl::CResult result(data, size);
     return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
         return tovangl::handOver(tovangl::renderPicture(target.graph, width, height), target.graph,
                                  result);
@@ -106,7 +113,7 @@ tovangl_status tovangl_chart_render_for_print(tovangl_chart* chart, int32_t widt
                                               int32_t factor, const unsigned char** data,
                                               size_t* size)
 {
-    const tovangl::CResult<unsigned char> result{data, size};
+    const tovangl::CResult result(data, size);
     return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
         return tovangl::handOver(tovangl::renderForPrinter(target.graph, width, height, factor),
                                  target.graph, result);
@@ -159,7 +166,7 @@ tovangl_status tovangl_chart_title_rectangle(tovangl_chart* chart, tovangl_recta
 tovangl_status tovangl_chart_caption_rectangles(tovangl_chart* chart,
                                                 const tovangl_rectangle** rectangles, size_t* count)
 {
-    const tovangl::CResult<tovangl_rectangle> result{rectangles, count};
+    const tovangl::CResult result(rectangles, count);
     return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
         return tovangl::keepRecords(target.graph.itemRectangles(), target.captionRectangles,
                                     result);
@@ -169,7 +176,7 @@ tovangl_status tovangl_chart_caption_rectangles(tovangl_chart* chart,
 tovangl_status tovangl_chart_bar_rectangles(tovangl_chart* chart,
                                             const tovangl_rectangle** rectangles, size_t* count)
 {
-    const tovangl::CResult<tovangl_rectangle> result{rectangles, count};
+    const tovangl::CResult result(rectangles, count);
     return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
         return target.bars ? tovangl::keepRecords(target.bars->itemBarRectangles(),
                                                   target.barRectangles, result)
@@ -180,7 +187,7 @@ tovangl_status tovangl_chart_bar_rectangles(tovangl_chart* chart,
 tovangl_status tovangl_chart_slices(tovangl_chart* chart, const tovangl_slice** slices,
                                     size_t* count)
 {
-    const tovangl::CResult<tovangl_slice> result{slices, count};
+    const tovangl::CResult result(slices, count);
     return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
         return target.pie
                    ? tovangl::keepRecords(tovangl::sliceRecords(*target.pie), target.slices, result)
@@ -191,7 +198,7 @@ tovangl_status tovangl_chart_slices(tovangl_chart* chart, const tovangl_slice** 
 tovangl_status tovangl_chart_slice_polygon(tovangl_chart* chart, const tovangl_slice* slice,
                                            const tovangl_point** points, size_t* count)
 {
-    const tovangl::CResult<tovangl_point> result{points, count};
+    const tovangl::CResult result(points, count);
     return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) -> COutcome {
         if (!slice)
             return {TOVANGL_NULL_ARGUMENT};
