@@ -48,18 +48,21 @@ typedef enum tovangl_status
     TOVANGL_BAD_VALUE = 5,       ///< the setting does not accept the value
     TOVANGL_WRONG_KIND = 6,      ///< a chart of this kind has no such thing
     TOVANGL_NO_PICTURE = 7,      ///< the picture cannot be made; see tovangl_chart_problem()
-    TOVANGL_NO_MEMORY = 8        ///< memory ran out; the chart can be used again
+    TOVANGL_NO_MEMORY = 8,       ///< memory ran out; the chart can be used again
+    TOVANGL_NO_FONT = 9          ///< the file cannot be read, or is not a font that can be used
 } tovangl_status;
 
 /// What was wrong with a rendering. Later versions may add values.
 typedef enum tovangl_problem
 {
-    TOVANGL_PROBLEM_NONE = 0,               ///< the chart was drawn, or nothing was rendered yet
-    TOVANGL_PROBLEM_SIZE_OUT_OF_RANGE = 1,  ///< no picture: the size is out of range
-    TOVANGL_PROBLEM_NO_MEMORY = 2,          ///< no picture: there was not enough memory for it
-    TOVANGL_PROBLEM_NO_PLATFORM_PLUGIN = 3, ///< no picture: Qt's offscreen plugin cannot be loaded
-    TOVANGL_PROBLEM_PROCESS_ENDING = 4,     ///< no picture: the process has begun to end
-    TOVANGL_PROBLEM_TOO_SMALL_FOR_CHART = 5 ///< a picture without the chart: it has no room for it
+    TOVANGL_PROBLEM_NONE = 0,                ///< the chart was drawn, or nothing was rendered yet
+    TOVANGL_PROBLEM_SIZE_OUT_OF_RANGE = 1,   ///< no picture: the size is out of range
+    TOVANGL_PROBLEM_NO_MEMORY = 2,           ///< no picture: there was not enough memory for it
+    TOVANGL_PROBLEM_NO_PLATFORM_PLUGIN = 3,  ///< no picture: Qt's offscreen plugin cannot be loaded
+    TOVANGL_PROBLEM_PROCESS_ENDING = 4,      ///< no picture: the process has begun to end
+    TOVANGL_PROBLEM_TOO_SMALL_FOR_CHART = 5, ///< a picture without the chart: no room for it
+    TOVANGL_PROBLEM_NO_GLYPHS = 6,           ///< the chart has no letters: the machine has no font
+    TOVANGL_PROBLEM_FAMILY_REPLACED = 7      ///< another font is used than the family that was set
 } tovangl_problem;
 
 /// How a setting's value is written as text. Later versions may add values.
@@ -73,7 +76,7 @@ typedef enum tovangl_setting_type
     TOVANGL_SETTING_PICTURE_COLOR = 5, ///< \#rrggbb, default, or transparent
     TOVANGL_SETTING_PALETTE = 6,       ///< \#rrggbb,\#rrggbb, the name of a theme, or default
     TOVANGL_SETTING_LOCALE = 7, ///< a language and a country, such as de_AT; or C, or default
-    TOVANGL_SETTING_AXIS_PROPERTIES = 8, ///< names with commas between them, or none
+    TOVANGL_SETTING_AXIS_PROPERTIES = 8, ///< some of the choices with commas between them, or none
     TOVANGL_SETTING_POSITION = 9,        ///< two whole numbers with a comma between them
     TOVANGL_SETTING_CHOICE = 10          ///< one of tovangl_setting.choices
 } tovangl_setting_type;
@@ -82,7 +85,7 @@ typedef enum tovangl_setting_type
 typedef struct tovangl_setting
 {
     const char* name;          ///< lower-case words with underscores between them: font_size
-    const char* choices;       ///< what a choice accepts, with commas between; "" for other types
+    const char* choices;       ///< of a choice or of axis properties, with commas between; or ""
     const char* default_value; ///< the value that every chart begins with
     const char* summary;       ///< what it does, in one English sentence
     int64_t minimum;           ///< the least value of a number; 0 for other types
@@ -140,6 +143,29 @@ TOVANGL_EXPORT const char* tovangl_status_text(int status);
 ///
 /// @return TOVANGL_NO_PICTURE where nothing can be drawn in this process
 TOVANGL_EXPORT tovangl_status tovangl_warm_up(void);
+
+/// Makes the families of a font file usable by all charts of this process, whatever is installed on
+/// the machine. The setting "font" then takes their names.
+///
+/// TTF and OTF files can be added, and collections of them (TTC). A file is added once, however
+/// often it is passed. Fonts stay until the process ends. Any thread can call this, while others
+/// draw; it waits for the pictures that are being drawn.
+///
+/// @param path      of a regular file of at most 256 MB; not null
+/// @param families  receives the names of the families, with a line feed between them and a NUL
+///                  behind them; empty where they do not fit. May be null if capacity is 0
+/// @param capacity  room for them in bytes
+/// @param length    receives their length without the NUL, whether they fit or not; may be null
+TOVANGL_EXPORT tovangl_status tovangl_add_font_file(const char* path, char* families,
+                                                    size_t capacity, size_t* length);
+
+/// The same for a font file in memory.
+///
+/// @param bytes  copied; not null
+/// @param size   number of bytes
+/// @param families, capacity, length  as for tovangl_add_font_file()
+TOVANGL_EXPORT tovangl_status tovangl_add_font(const unsigned char* bytes, size_t size,
+                                               char* families, size_t capacity, size_t* length);
 
 /// The number of settings in the table.
 TOVANGL_EXPORT size_t tovangl_setting_count(void);

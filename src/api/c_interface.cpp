@@ -112,6 +112,8 @@ const char* tovangl_status_text(int status)
         return "The picture cannot be made.";
     case TOVANGL_NO_MEMORY:
         return "There is not enough memory.";
+    case TOVANGL_NO_FONT:
+        return "The file cannot be read, or is not a font that can be used.";
     default:
         return "";
     }

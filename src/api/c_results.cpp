@@ -21,6 +21,8 @@ static_assert(int{TOVANGL_PROBLEM_NO_PLATFORM_PLUGIN} ==
 static_assert(int{TOVANGL_PROBLEM_PROCESS_ENDING} == static_cast<int>(Problem::ProcessEnding));
 static_assert(int{TOVANGL_PROBLEM_TOO_SMALL_FOR_CHART} ==
               static_cast<int>(Problem::TooSmallForChart));
+static_assert(int{TOVANGL_PROBLEM_NO_GLYPHS} == static_cast<int>(Problem::NoGlyphs));
+static_assert(int{TOVANGL_PROBLEM_FAMILY_REPLACED} == static_cast<int>(Problem::FamilyReplaced));
 
 // Where the host wants the records of a result, and their number.
 template <typename Record>

@@ -23,6 +23,7 @@ struct c_test
 
 // Each table ends in a row without a function.
 extern const struct c_test chart_tests[];
+extern const struct c_test font_tests[];
 extern const struct c_test item_tests[];
 extern const struct c_test result_tests[];
 extern const struct c_test setting_tests[];

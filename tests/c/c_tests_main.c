@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Runs the tests of one part of the C interface: c_tests charts|items|results|settings
+// Runs the tests of one part of the C interface: c_tests charts|fonts|items|results|settings
 #include "c_tests.h"
 
 #include <stdlib.h>
@@ -47,6 +47,8 @@ static const struct c_test* find_tests(const char* part)
 {
     if (strcmp(part, "charts") == 0)
         return chart_tests;
+    if (strcmp(part, "fonts") == 0)
+        return font_tests;
     if (strcmp(part, "items") == 0)
         return item_tests;
     if (strcmp(part, "results") == 0)
@@ -58,7 +60,7 @@ int main(int count, char** arguments)
 {
     const struct c_test* test = count == 2 ? find_tests(arguments[1]) : NULL;
     if (!test) {
-        fprintf(stderr, "usage: c_tests charts|items|results|settings\n");
+        fprintf(stderr, "usage: c_tests charts|fonts|items|results|settings\n");
         return EXIT_FAILURE;
     }
     for (; test->run; ++test) {

@@ -70,11 +70,11 @@ static void every_failure_has_a_sentence(void)
 {
     int status;
     CHECK_TEXT(tovangl_status_text(TOVANGL_OK), "");
-    for (status = TOVANGL_NULL_ARGUMENT; status <= TOVANGL_NO_MEMORY; ++status) {
+    for (status = TOVANGL_NULL_ARGUMENT; status <= TOVANGL_NO_FONT; ++status) {
         const char* text = tovangl_status_text(status);
         CHECK(strlen(text) > 10 && text[strlen(text) - 1] == '.');
     }
-    CHECK_TEXT(tovangl_status_text(TOVANGL_NO_MEMORY + 1), "");
+    CHECK_TEXT(tovangl_status_text(TOVANGL_NO_FONT + 1), "");
     CHECK_TEXT(tovangl_status_text(-1), "");
 }
 

@@ -30,7 +30,8 @@ static void every_row_of_the_table_is_whole(void)
         CHECK(setting.charts >= TOVANGL_PIE && setting.charts <= 7);
         CHECK(setting.type >= TOVANGL_SETTING_BOOLEAN && setting.type <= TOVANGL_SETTING_CHOICE);
         CHECK(setting.minimum <= setting.maximum);
-        CHECK((setting.choices[0] != '\0') == (setting.type == TOVANGL_SETTING_CHOICE));
+        CHECK((setting.choices[0] != '\0') == (setting.type == TOVANGL_SETTING_CHOICE ||
+                                               setting.type == TOVANGL_SETTING_AXIS_PROPERTIES));
     }
 }
 
