@@ -153,8 +153,12 @@ void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
             m_others = COthers{input().items.size(), selection.leftOut, texts->captions.back()};
     }
     m_isDrawn = texts.has_value();
-    m_problem =
-        m_isDrawn ? fontProblem(settings, canvas.usedFamily(), added) : Problem::TooSmallForChart;
+    if (!m_isDrawn)
+        m_problem = Problem::TooSmallForChart;
+    else if (added.isEmpty())
+        m_problem = installedFontProblem(settings);
+    else
+        m_problem = addedFontProblem(canvas.usedFamily(), added);
 }
 
 void CGraph1dBase::recordCaptions(const std::vector<QRect>& captions)

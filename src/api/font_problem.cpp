@@ -5,6 +5,9 @@
 #include "input/CGraph1dSettings.h"
 #include "text/qt_text.h"
 
+#include <QFont>
+#include <QFontInfo>
+
 #include <algorithm>
 #include <array>
 #include <map>
@@ -39,11 +42,21 @@ bool isResolved(const QString& name)
     return isKind(name) || qt::hasFamily(name);
 }
 
+// Loads the font that the system has for no name, in a size that no chart has. In the size of a
+// chart it would change which fonts Qt takes characters from later.
+bool isAnyFontThere()
+{
+    constexpr int kUnusedPixelSize = 30001;
+    QFont font;
+    font.setPixelSize(kUnusedPixelSize);
+    return !QFontInfo(font).family().isEmpty();
+}
+
 // Asking takes a tenth of the time of a small chart, and the machine's fonts stay the same.
-class CResolvedNames
+class CKnownFonts
 {
 public:
-    [[nodiscard]] bool contains(const QString& name)
+    [[nodiscard]] bool isNameResolved(const QString& name)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         const auto known = m_names.find(name);
@@ -54,43 +67,52 @@ public:
         return m_names.emplace(name, isResolved(name)).first->second;
     }
 
+    // Asked again while there is none, because a host can add one.
+    [[nodiscard]] bool isAnyThere()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isAnyThere = m_isAnyThere || isAnyFontThere();
+        return m_isAnyThere;
+    }
+
 private:
     static constexpr std::size_t kMostNames = 256;
 
     std::mutex m_mutex;
     std::map<QString, bool> m_names;
+    bool m_isAnyThere = false;
 };
 
 // Lives until the end of the process, because exit handlers can draw.
-CResolvedNames& resolvedNames()
+CKnownFonts& knownFonts()
 {
-    static CResolvedNames& names = *std::make_unique<CResolvedNames>().release();
-    return names;
+    static CKnownFonts& fonts = *std::make_unique<CKnownFonts>().release();
+    return fonts;
 }
 
-bool isReplaced(const QString& setting, const QString& used)
+bool isReplaced(const QString& setting)
 {
     const QStringList names = setting.split(QLatin1Char(','));
-    const auto is = [&used](const QString& name) {
-        return familyOf(name).compare(used, Qt::CaseInsensitive) == 0;
-    };
-    const auto resolves = [](const QString& name) {
-        return resolvedNames().contains(familyOf(name));
-    };
-    return std::none_of(names.begin(), names.end(), is) &&
-           std::none_of(names.begin(), names.end(), resolves);
+    return std::none_of(names.begin(), names.end(), [](const QString& name) {
+        return knownFonts().isNameResolved(familyOf(name));
+    });
 }
 
 } // namespace
 
-Problem fontProblem(const CGraph1dSettings& settings, const QString& used, const QString& added)
+Problem installedFontProblem(const CGraph1dSettings& settings)
+{
+    if (!knownFonts().isAnyThere())
+        return Problem::NoGlyphs;
+    return settings.isFamilyChosen && isReplaced(settings.fontFamily) ? Problem::FamilyReplaced
+                                                                      : Problem::None;
+}
+
+Problem addedFontProblem(const QString& used, const QString& added)
 {
     if (used.isEmpty())
         return Problem::NoGlyphs;
-    const bool isOther = added.isEmpty()
-                             ? settings.isFamilyChosen && isReplaced(settings.fontFamily, used)
-                             : used != added;
-    return isOther ? Problem::FamilyReplaced : Problem::None;
+    return used == added ? Problem::None : Problem::FamilyReplaced;
 }
 
 } // namespace tovangl

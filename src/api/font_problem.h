@@ -12,13 +12,18 @@ namespace tovangl {
 
 struct CGraph1dSettings;
 
-/// What is wrong with the font that a chart is drawn with: it has no letters, another family takes
-/// the place of the one that the host set, or nothing.
+/// What is wrong with a chart in a font of the machine's: there is none, another family takes the
+/// place of the one that the host set, or nothing.
 ///
-/// @param used   Qt's name for the family that the chart is drawn with; empty: there is none
-/// @param added  Qt's name for the host's own family that it should be; empty: an installed one
-[[nodiscard]] Problem fontProblem(const CGraph1dSettings& settings, const QString& used,
-                                  const QString& added);
+/// It loads no font that a chart uses, because that would change which fonts Qt takes characters
+/// from in later charts.
+[[nodiscard]] Problem installedFontProblem(const CGraph1dSettings& settings);
+
+/// Likewise of a chart in a font of the host's own, with Qt's names for families.
+///
+/// @param used   the family that the chart is drawn with; empty: there is none
+/// @param added  the one that it should be
+[[nodiscard]] Problem addedFontProblem(const QString& used, const QString& added);
 
 } // namespace tovangl
 
