@@ -5,6 +5,7 @@
 #include "common/base64.h"
 #include "common/html_text.h"
 #include "common/image_map.h"
+#include "common/page_frame.h"
 
 #include <algorithm>
 #include <cctype>
@@ -76,15 +77,6 @@ CImageMap imageMap(const ChartItems& rows, const ChartRegions& regions)
     return map;
 }
 
-std::string headHtml(const std::string& title)
-{
-    return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-           "<meta name=\"generator\" content=\"" +
-           std::string(kGenerator) +
-           "\">\n<meta name=\"viewport\" content=\"width=device-width\">\n<title>" + title +
-           "</title>\n<style>\n" + kStyle + "</style>\n</head>\n";
-}
-
 std::string tableHtml(const ChartItems& rows)
 {
     std::string html = "<table>\n<thead><tr><th>Item</th><th>Value</th></tr></thead>\n<tbody>\n";
@@ -121,9 +113,11 @@ std::string chartPageHtml(const std::string& title, const ChartPictures& picture
 {
     const std::string heading = escapeHtml(displayName(title));
     const ChartItems rows = rowsOf(items, regions);
-    return headHtml(heading) + "<body>\n<h1>" + heading + "</h1>\n" +
-           mappedPictureHtml(mappedPicture(pictures, regions), imageMap(rows, regions)) +
-           tableHtml(rows) + "</body>\n</html>\n";
+    const std::string body =
+        "<h1>" + heading + "</h1>\n" +
+        mappedPictureHtml(mappedPicture(pictures, regions), imageMap(rows, regions)) +
+        tableHtml(rows);
+    return pageHtml({kGenerator, heading, "<style>\n" + std::string(kStyle) + "</style>", body});
 }
 
 } // namespace tovangl::program

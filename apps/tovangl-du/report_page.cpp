@@ -3,6 +3,7 @@
 #include "tovangl-du/report_page.h"
 
 #include "common/html_text.h"
+#include "common/page_frame.h"
 #include "tovangl-du/byte_text.h"
 
 namespace tovangl::program {
@@ -80,26 +81,24 @@ public:
 
     std::vector<ReportFile> make()
     {
-        m_html = head() + header() + "<main>\n";
+        m_html = header() + "<main>\n";
         if (m_folder.bytes > 0)
             addSections();
         if (m_folder.depth == 0)
             addUnreadable();
-        m_html += "</main>\n" + footer() + "</body>\n</html>\n";
-        m_files.insert(m_files.begin(), {m_contents.path.back().page, std::move(m_html)});
+        m_html += "</main>\n" + footer();
+        const std::string style =
+            "<link rel=\"stylesheet\" href=\"" + std::string(kStyleName) + "\">";
+        m_files.insert(m_files.begin(), {m_contents.path.back().page,
+                                         pageHtml({kGenerator, title(), style, m_html})});
         return std::move(m_files);
     }
 
 private:
-    [[nodiscard]] std::string head() const
+    [[nodiscard]] std::string title() const
     {
-        return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-               "<meta name=\"generator\" content=\"" +
-               std::string(kGenerator) +
-               "\">\n<meta name=\"viewport\" content=\"width=device-width\">\n<title>" +
-               escapeHtml(displayName(m_contents.path.back().name)) + ", " +
-               formatBytes(m_folder.bytes) + "</title>\n<link rel=\"stylesheet\" href=\"" +
-               kStyleName + "\">\n</head>\n<body>\n";
+        return escapeHtml(displayName(m_contents.path.back().name)) + ", " +
+               formatBytes(m_folder.bytes);
     }
 
     [[nodiscard]] std::string header() const
