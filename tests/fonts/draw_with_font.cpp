@@ -18,8 +18,8 @@ const char* const kCaptions[] = {"Arabic: \xd8\xa7\xd9\x84\xd8\xb3\xd9\x84\xd8\x
                                  "Rent & food, 12 \xe2\x82\xac",
                                  "\xe4\xb8\xad\xe6\x96\x87",
                                  "\xf0\x9f\x98\x80 smile",
-                                 "\xe0\xa4\xb9\xe0\xa4\xbf\xe0\xa4\xa8\xe0\xa5\x8d\xe0\xa4\xa6\xe0"
-                                 "\xa5\x80",
+                                 ("\xe0\xa4\xb9\xe0\xa4\xbf\xe0\xa4\xa8\xe0\xa5\x8d\xe0\xa4\xa6\xe0"
+                                  "\xa5\x80"),
                                  "AVATAR fi ffl"};
 
 void write(const CExport& picture, const std::string& path)
