@@ -95,9 +95,7 @@ void setItemLabels(CBarLayout& layout, const std::vector<CTextLabel>& labels,
                      isReversed ? Qt::AlignRight : Qt::AlignLeft,
                      look.color,
                      false,
-                     false,
-                     QPointF(),
-                     measurer.slack(bar.labelRect.width())};
+                     false};
     }
 }
 

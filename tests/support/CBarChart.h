@@ -69,7 +69,7 @@ public:
     [[nodiscard]] CBarLayout layout(const CRequest& request) const
     {
         QImage image(1, 1, QImage::Format_ARGB32);
-        CCanvas canvas(image, input.settings, request);
+        CCanvas canvas(image, input.settings, request.scale);
         return layOut(request, canvas);
     }
     [[nodiscard]] CDrawnBars drawn(const CRequest& request) const
@@ -77,7 +77,7 @@ public:
         QImage image(request.width, request.height, QImage::Format_ARGB32);
         CBarLayout layout;
         {
-            CCanvas canvas(image, input.settings, request);
+            CCanvas canvas(image, input.settings, request.scale);
             layout = layOut(request, canvas);
             canvas.paint(layout);
         }
