@@ -13,14 +13,14 @@
 ///   on to another filter function or to itself.
 /// - A rendering that begins puts a filter in front of the current handler, even if the host
 ///   installed that handler while another thread draws.
-/// - The end of the last rendering restores the handler that the host wants at that time. Once a
-///   host has exchanged handlers while pictures were drawn, a filter for it stays instead.
-/// - A message passes each of these functions once. If handlers of the host's pass messages on in a
-///   loop, it ends there.
+/// - The end of the last rendering restores the host's handler. Once a host has exchanged handlers
+///   while pictures were drawn, a filter stays in force instead.
+/// - A message reaches each handler through a filter once. If handlers of the host's pass messages
+///   on in a loop, it ends there.
 ///
-/// Qt's exchange leaves one gap: if hosts exchange handlers twice within the fraction of a
-/// microsecond in which a rendering begins or ends, one of them can get the filter of the handler
-/// before the last, and so bypass the last one.
+/// Qt's exchange leaves one gap: if a host exchanges handlers within the fraction of a microsecond
+/// between two of the library's exchanges, and again between the next two, one of its handlers can
+/// get the filter of the handler before the last, and so bypass the last one.
 ///
 /// A handler that the host installs *while* a thread draws gets the rest of that rendering's
 /// messages, because it is the host's latest choice.
