@@ -46,7 +46,7 @@ void layout(benchmark::State& state, const CChartCase& chart)
     if (chart.factor != 1)
         request.device = OutputDevice::Printer;
     const std::vector<std::size_t> drawn = graph->drawnItems();
-    CCanvas canvas(picture, graph->input().settings, chart.factor);
+    CCanvas canvas(picture, graph->input().settings, request);
     for (auto _ : state)
         benchmark::DoNotOptimize(
             computeLayout(graph->input(), drawn, request, canvas.measurer()).fits());

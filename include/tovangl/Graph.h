@@ -78,13 +78,13 @@ public:
     /// file.
     void setCompression(Compression compression);
 
-    /// Sets a setting by its name, as the table of settings() has it.
+    /// Sets a setting by its name, one row of settings().
     ///
     /// Where several are set, the order is that of the table: a theme replaces the colours that
     /// were set before it.
     ///
     /// @param name   such as "font_size"
-    /// @param value  UTF-8, as the setting's type has it
+    /// @param value  UTF-8, in the form of the setting's type
     /// @return empty, or why nothing was set: the value is not a whole number from 1 to 1000
     std::string setByName(const std::string& name, const std::string& value);
 
@@ -155,7 +155,8 @@ public:
     void setKilo(int size);
 
     /// Draws this many pixels each way for each pixel of the size, with the look of the screen, for
-    /// displays of high density. Rectangles are in pixels of the picture. Print ignores it.
+    /// displays of high density. The layout is that of scale 1, magnified: the same labels are
+    /// shown, in the same words. Rectangles are in pixels of the picture. Print ignores it.
     ///
     /// @param scale  below 1 counts as 1, which is the default; above 1000 as 1000
     void setScale(int scale);

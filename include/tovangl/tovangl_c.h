@@ -197,7 +197,7 @@ TOVANGL_EXPORT const char* tovangl_chart_error(const tovangl_chart* chart);
 ///
 /// @param chart  not null
 /// @param name   such as "font_size"; not null
-/// @param value  as tovangl_setting.type has it; not null
+/// @param value  in the form of its tovangl_setting.type; not null
 TOVANGL_EXPORT tovangl_status tovangl_chart_set(tovangl_chart* chart, const char* name,
                                                 const char* value);
 

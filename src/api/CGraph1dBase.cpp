@@ -143,7 +143,7 @@ void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
 
     const CGraph1dSettings& settings = input().settings;
     const QString added = CAddedFonts::ofProcess().qtFamily(settings.fontFamily);
-    CCanvas canvas(device, settings, request.scale, added);
+    CCanvas canvas(device, settings, request, added);
     const auto others = input().gatherOthers(selection.leftOut);
     const auto texts = drawContents(canvas, request, m_selectedItems, others);
     if (texts) {

@@ -5,6 +5,7 @@
 #include "api/conversions.h"
 #include "api/qt_threads.h"
 #include "input/CGraph1dSettings.h"
+#include "layout/CRequest.h"
 #include "paint/CCanvas.h"
 #include <tovangl/Diagnosis.h>
 
@@ -45,7 +46,7 @@ std::string usedFontFamily(const std::string& family)
     const CGraph1dSettings settings = settingsWith(family);
     const CAddedFonts& fonts = CAddedFonts::ofProcess();
     QImage image(1, 1, QImage::Format_ARGB32);
-    const CCanvas canvas(image, settings, 1, fonts.qtFamily(settings.fontFamily));
+    const CCanvas canvas(image, settings, CRequest(), fonts.qtFamily(settings.fontFamily));
     return fonts.nameOf(canvas.usedFamily()).toStdString();
 }
 

@@ -261,7 +261,7 @@ constexpr std::array kRules = {
           "The font's size in pixels; below 1 it is the system's, and above 30,000 it is 30,000.",
           writeFontSize),
     other("locale", SettingType::Locale, kAll, "default",
-          "How numbers are written; by default as the process's locale has it.", writeLocale),
+          "How numbers are written; the default follows the process's locale.", writeLocale),
     other("threshold", SettingType::Real, kAll, "0",
           "Leaves out items whose share of the total, in per cent, is smaller.", writeThreshold),
     text("others", kAll, "",

@@ -27,7 +27,7 @@ struct CSettingTarget
     CPieInput* pie = nullptr;  ///< of a pie
 };
 
-/// Sets the setting of that name to a value that is written as its type has it.
+/// Sets the setting of that name to a value in the form of its type.
 ///
 /// @return empty, or what is wrong: the input is then as it was
 [[nodiscard]] std::string applySetting(const CSettingTarget& target, std::string_view name,

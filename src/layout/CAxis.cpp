@@ -238,7 +238,8 @@ void CAxis::drawLabels(CAxisLayout& axis, CTextMeasurer& measurer) const
         if (!room.isValid())
             continue;
         axis.texts.push_back({label.text.getAdjustedText(box.width(), measurer), toRoom(room),
-                              alignment, m_look.labelColor, isBold, axis.isRotated(), start});
+                              alignment, m_look.labelColor, isBold, axis.isRotated(), start,
+                              measurer.slack(room.width())});
     }
 }
 
@@ -253,7 +254,8 @@ void CAxis::drawTitle(CAxisLayout& axis, CTextMeasurer& measurer) const
     axis.texts.push_back({axis.title.getAdjustedText(room.width(), measurer), toRoom(room),
                           Qt::AlignHCenter | Qt::AlignVCenter, m_look.titleColor,
                           axis.shape.has(CAxisSettings::BoldTitle),
-                          !axis.shape.frame.isHorizontal(), axis.originOnPicture()});
+                          !axis.shape.frame.isHorizontal(), axis.originOnPicture(),
+                          measurer.slack(room.width())});
 }
 
 } // namespace tovangl

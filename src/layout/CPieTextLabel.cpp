@@ -124,19 +124,35 @@ CPlacedPieLabel CPieTextLabel::withTexts(bool isSizeShown, const QColor& color,
     CPlacedPieLabel label = m_lines;
     if (label.isHidden)
         return label;
-    const auto add = [&](const CTextLabel& part, const QRectF& room) {
-        if (!room.isValid())
-            return;
+    const auto add = [&](const QString& text, const QRectF& room) {
         // Deliberate: only horizontal alignment is set; texts hang from the top.
-        label.texts.push_back({part.getAdjustedText(room.width(), measurer), room,
-                               isOnRightHalf() ? Qt::AlignLeft : Qt::AlignRight, color,
-                               part.style().isBold, false});
+        label.texts.push_back({text, room, isOnRightHalf() ? Qt::AlignLeft : Qt::AlignRight, color,
+                               m_name.style().isBold, false, QPointF(),
+                               measurer.slack(room.width())});
+    };
+    const auto adjusted = [&](const CTextLabel& part, const QRectF& room) {
+        return part.getAdjustedText(room.width(), measurer);
     };
     const CParts parts = placeParts(isSizeShown);
-    add(m_name, parts.name);
-    add(m_size, parts.size);
+    if (isPaintedAsOne(parts, measurer)) {
+        add(adjusted(m_name, parts.name) + adjusted(m_size, parts.size),
+            parts.name.united(parts.size));
+    } else {
+        if (parts.name.isValid())
+            add(adjusted(m_name, parts.name), parts.name);
+        if (parts.size.isValid())
+            add(adjusted(m_size, parts.size), parts.size);
+    }
     label.itemRect = coveredPixels(parts.both, false, origin);
     return label;
+}
+
+// Where painted texts are not exactly as wide as measured, the size follows a name of one line
+// wherever that ends, instead of at a place of its own.
+bool CPieTextLabel::isPaintedAsOne(const CParts& parts, const CTextMeasurer& measurer) const
+{
+    return measurer.slack(parts.name.width()) > 0 && parts.name.isValid() && parts.size.isValid() &&
+           m_name.getBoundingRect().height() <= m_size.getBoundingRect().height();
 }
 
 // Puts the size after the name; if both do not fit, the name is shortened.

@@ -80,6 +80,7 @@ private:
     };
 
     [[nodiscard]] CParts placeParts(bool isSizeShown) const;
+    [[nodiscard]] bool isPaintedAsOne(const CParts& parts, const CTextMeasurer& measurer) const;
 
     CTextLabel m_name;
     CTextLabel m_size;

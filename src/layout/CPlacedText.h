@@ -24,6 +24,7 @@ struct CPlacedText
     bool isBold = false;
     bool isTurned = false;
     QPointF origin = {}; ///< of the room's coordinates, in painter coordinates
+    double slack = 0;    ///< pixels by which the painted text may be wider than its room
 };
 
 /// A rectangle of whole pixels, for painting.

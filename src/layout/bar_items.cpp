@@ -95,7 +95,9 @@ void setItemLabels(CBarLayout& layout, const std::vector<CTextLabel>& labels,
                      isReversed ? Qt::AlignRight : Qt::AlignLeft,
                      look.color,
                      false,
-                     false};
+                     false,
+                     QPointF(),
+                     measurer.slack(bar.labelRect.width())};
     }
 }
 

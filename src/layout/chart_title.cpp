@@ -36,7 +36,8 @@ std::optional<CChartTitle> placeTitle(const CGraph1dSettings& settings, const CR
         return std::nullopt;
     const QRect rect(QPoint((request.width - size.width()) / 2, margin), size);
     const QColor color = settings.colors.text.isValid() ? settings.colors.text : QColor(Qt::black);
-    return CChartTitle{{title.getText(), toRoom(rect), Qt::AlignHCenter, color, kTitleStyle.isBold},
+    return CChartTitle{{title.getText(), toRoom(rect), Qt::AlignHCenter, color, kTitleStyle.isBold,
+                        false, QPointF(), measurer.slack(rect.width())},
                        rect};
 }
 

@@ -4,6 +4,7 @@
 
 #include "base/pixel_arithmetic.h"
 #include "input/CGraph1dSettings.h"
+#include "layout/CRequest.h"
 #include "paint/bar_painting.h"
 #include "paint/pie_painting.h"
 #include "text/qt_text.h"
@@ -33,6 +34,21 @@ QFont chartFont(const CGraph1dSettings& settings, int scale, const QPaintDevice&
     return font;
 }
 
+// Print is laid out in the font that it is painted in, a screen in that of scale 1.
+int magnificationOf(const CRequest& request)
+{
+    return request.device == OutputDevice::Screen ? request.scale : 1;
+}
+
+QFont magnified(QFont font, int magnification)
+{
+    if (magnification > 1) {
+        const int pixelSize = scalePixels(QFontInfo(font).pixelSize(), magnification);
+        font.setPixelSize(std::min(pixelSize, kLargestFontSize));
+    }
+    return font;
+}
+
 // What the machine would otherwise choose: how letters are fitted to pixels, and the families that
 // characters come from which this one lacks.
 QFont independentFont(QFont font, const QString& family)
@@ -46,6 +62,13 @@ QFont independentFont(QFont font, const QString& family)
 QFont chosenFont(const QFont& installed, const QString& addedFamily)
 {
     return addedFamily.isEmpty() ? installed : independentFont(installed, addedFamily);
+}
+
+QFont measuredFont(const CGraph1dSettings& settings, const CRequest& request,
+                   const QPaintDevice& device, const QString& addedFamily)
+{
+    const int scale = request.device == OutputDevice::Screen ? 1 : request.scale;
+    return chosenFont(chartFont(settings, scale, device), addedFamily);
 }
 
 // Sets up a painter before anything is measured with it.
@@ -62,11 +85,13 @@ QPainter& initPainter(QPainter& painter, const QFont& font, const QColor& pictur
 
 } // namespace
 
-CCanvas::CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale,
+CCanvas::CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, const CRequest& request,
                  const QString& addedFamily)
     : m_painter(&device)
-    , m_measurer(initPainter(m_painter, chosenFont(chartFont(settings, scale, device), addedFamily),
-                             settings.colors.picture))
+    , m_measurer(initPainter(m_painter, measuredFont(settings, request, device, addedFamily),
+                             settings.colors.picture),
+                 magnificationOf(request))
+    , m_painted(magnified(m_painter.font(), magnificationOf(request)))
 {}
 
 QString CCanvas::usedFamily() const
@@ -76,11 +101,13 @@ QString CCanvas::usedFamily() const
 
 void CCanvas::paint(const CBarLayout& layout)
 {
+    m_painter.setFont(m_painted);
     paintBars(m_painter, layout);
 }
 
 void CCanvas::paint(const CPieLayout& layout)
 {
+    m_painter.setFont(m_painted);
     paintPie(m_painter, layout);
 }
 

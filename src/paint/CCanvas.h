@@ -6,6 +6,7 @@
 
 #include "text/CTextMeasurer.h"
 
+#include <QFont>
 #include <QPainter>
 
 class QPaintDevice;
@@ -15,6 +16,7 @@ namespace tovangl {
 struct CBarLayout;
 struct CGraph1dSettings;
 struct CPieLayout;
+struct CRequest;
 
 /// A painter on a device, set up for one chart: white, with the chart's font. Its measurer measures
 /// the layout that is painted on it.
@@ -22,10 +24,9 @@ class CCanvas
 {
 public:
     /// @param device       not null; it must outlive the canvas
-    /// @param scale        device pixels for each pixel of a setting
     /// @param addedFamily  a family of the host's own to draw with, by Qt's name for it; empty: the
     ///                     installed one that the settings name
-    CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, int scale,
+    CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, const CRequest& request,
             const QString& addedFamily = QString());
     Q_DISABLE_COPY(CCanvas)
 
@@ -38,6 +39,7 @@ public:
 private:
     QPainter m_painter;
     CTextMeasurer m_measurer;
+    QFont m_painted; // as large as the texts on the picture
 };
 
 } // namespace tovangl

@@ -2,6 +2,7 @@
 // Measures texts as the painter of a picture draws them.
 #include "text/CTextMeasurer.h"
 
+#include "base/pixel_arithmetic.h"
 #include "text/qt_text.h"
 
 #include <QFontInfo>
@@ -10,6 +11,10 @@
 namespace tovangl {
 
 namespace {
+
+// Each letter of a magnified text is at most one and a half pixels wider than twice the small
+// one's, and most letters are not: a quarter of the width is far more than whole texts grow by.
+constexpr double kMostGrowth = 0.25;
 
 // Sets the painter's bold font for a scope; the plain one is already set.
 class CFontScope
@@ -49,8 +54,9 @@ bool isShort(const QString& text)
 
 } // namespace
 
-CTextMeasurer::CTextMeasurer(QPainter& painter)
+CTextMeasurer::CTextMeasurer(QPainter& painter, int magnification)
     : m_painter(painter)
+    , m_magnification(magnification)
     , m_plain{painter.font(), {}}
     , m_bold{painter.font(), {}}
 {
@@ -64,12 +70,18 @@ CTextMeasurer::CTextMeasurer(QPainter& painter)
 QRectF CTextMeasurer::boundingRect(const QString& text, bool isBold)
 {
     const CFontScope scope(m_painter, m_bold.font, isBold);
-    return qt::measureText(m_painter, QRectF(), cdraw::measuredPart(text));
+    const QRectF rect = qt::measureText(m_painter, QRectF(), cdraw::measuredPart(text));
+    return QRectF(rect.topLeft() * m_magnification, rect.size() * m_magnification);
+}
+
+double CTextMeasurer::slack(double width) const
+{
+    return m_magnification > 1 ? width * kMostGrowth : 0;
 }
 
 int CTextMeasurer::fontHeight() const
 {
-    return qt::fontHeight(m_painter);
+    return scalePixels(qt::fontHeight(m_painter), m_magnification);
 }
 
 bool CTextMeasurer::canShorten(const QString& text, double width, const CTextStyle& style)
@@ -89,7 +101,9 @@ QString CTextMeasurer::shortened(const QString& text, double width, const CTextS
 
 double CTextMeasurer::width(const QString& text, CFace& face)
 {
-    const auto measured = [&] { return m_painter.boundingRect(QRectF(), 0, text).width(); };
+    const auto measured = [&] {
+        return m_magnification * m_painter.boundingRect(QRectF(), 0, text).width();
+    };
     if (!isShort(text))
         return measured();
     const auto known = face.shortWidths.constFind(text);

@@ -24,16 +24,23 @@ struct CTextStyle
 
 /// Measures texts on the painter's device and in its font, plain or bold. It serves one rendering,
 /// and caches the widths of the ellipsis and of single characters, which every shortening needs.
+///
+/// A picture for a display of high density is laid out like the one at scale 1. Its measurer
+/// measures in the font of that one, and magnifies: the same letters in twice the size are not
+/// twice as wide, because each is as wide as whole pixels.
 class CTextMeasurer
 {
 public:
-    /// @param painter  active, with the chart's font set; it must outlive the measurer
-    explicit CTextMeasurer(QPainter& painter);
+    /// @param painter        active, with the chart's font set; it must outlive the measurer
+    /// @param magnification  by which all results are larger than texts in that font
+    explicit CTextMeasurer(QPainter& painter, int magnification = 1);
     Q_DISABLE_COPY(CTextMeasurer)
 
     /// The extent of a text at the origin, one line for each line break. Only
     /// cdraw::measuredPart() counts.
     [[nodiscard]] QRectF boundingRect(const QString& text, bool isBold);
+    /// How much wider than measured a painted text of that width can be, in pixels.
+    [[nodiscard]] double slack(double width) const;
     /// Height of one line in the plain font, in pixels.
     [[nodiscard]] int fontHeight() const;
     /// Whether a text fits into a width, in pixels, in full or shortened.
@@ -55,6 +62,7 @@ private:
     [[nodiscard]] cdraw::TextMeasure measureIn(CFace& face);
 
     QPainter& m_painter;
+    int m_magnification;
     CFace m_plain;
     CFace m_bold;
 };

@@ -78,8 +78,10 @@ template <typename Chart>
 std::string layoutText(const Chart& chart, const QSize& size, std::optional<int> printFactor)
 {
     const int scale = printFactor ? std::max(*printFactor, 1) : chart.input().settings.scale;
+    const OutputDevice device = printFactor ? OutputDevice::Printer : OutputDevice::Screen;
     CTextRecorder recorder(size);
-    CCanvas(recorder, chart.input().settings, scale).paint(chart.layout());
+    CCanvas(recorder, chart.input().settings, {size.width(), size.height(), scale, device})
+        .paint(chart.layout());
 
     CDump dump;
     dump.line("picture").number(size.width()).number(size.height());

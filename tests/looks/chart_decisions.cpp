@@ -48,8 +48,10 @@ std::string decisionsOf(const CPieLayout& layout)
     stream << (layout.fits() ? "fits" : "does not fit")
            << (layout.sizesShown ? " with sizes\n" : "\n");
     for (const CPlacedPieLabel& label : layout.labels) {
-        stream << "slice " << label.item << (label.isHidden ? " hidden" : "") << '\n';
-        writeTexts(stream, label.texts);
+        stream << "slice " << label.item << (label.isHidden ? " hidden  \"" : "  \"");
+        for (const CPlacedText& text : label.texts)
+            stream << text.text.toStdString();
+        stream << "\"\n";
     }
     return stream.str();
 }

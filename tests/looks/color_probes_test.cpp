@@ -153,7 +153,7 @@ CDrawnPie drawnPie(const char* setting)
     EXPECT_EQ(applySetting(CSettingTarget(pie), setting, kTeal), "") << setting;
     const CRequest request{3200, 2000, kScale};
     QImage image(request.width, request.height, QImage::Format_ARGB32);
-    CCanvas canvas(image, pie.settings, kScale);
+    CCanvas canvas(image, pie.settings, request);
     CPieLayout layout = computeLayout(pie, {0, 1, 2, 3}, request, canvas.measurer());
     canvas.paint(layout);
     return {std::move(layout), std::move(image)};

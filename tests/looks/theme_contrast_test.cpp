@@ -82,7 +82,7 @@ Placed placedColors(BarKind kind, const char* theme, bool hasBackground)
 CPieLayout pieLayout(const CPieInput& input)
 {
     QImage image(1, 1, QImage::Format_ARGB32);
-    CCanvas canvas(image, input.settings, 1);
+    CCanvas canvas(image, input.settings, CRequest());
     const auto drawn = selectSlices(input.items, 0).items;
     return computeLayout(input, drawn, onScreen(500, 400), canvas.measurer());
 }

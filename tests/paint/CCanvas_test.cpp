@@ -19,7 +19,7 @@ const QString kText = QString("text");
 QRectF extentIn(const CGraph1dSettings& settings, int scale)
 {
     QImage image(20, 10, QImage::Format_ARGB32);
-    CCanvas canvas(image, settings, scale);
+    CCanvas canvas(image, settings, {20, 10, scale, OutputDevice::Printer});
     return canvas.measurer().boundingRect(kText, false);
 }
 
@@ -40,7 +40,7 @@ TEST(Canvas, StartsFullyWhiteAndOpaque)
 {
     QImage image(17, 9, QImage::Format_ARGB32);
     image.fill(0x12345678);
-    const CCanvas canvas(image, CGraph1dSettings(), 1);
+    const CCanvas canvas(image, CGraph1dSettings(), CRequest());
     EXPECT_TRUE(isFilled(image, image.rect(), kWhitePixel));
 }
 
@@ -50,7 +50,7 @@ TEST(Canvas, LeavesNothingOfTheMemoryBehindATransparentPicture)
     settings.colors.picture = Qt::transparent;
     QImage image(17, 9, QImage::Format_ARGB32);
     image.fill(0x12345678);
-    const CCanvas canvas(image, settings, 1);
+    const CCanvas canvas(image, settings, CRequest());
     EXPECT_TRUE(isFilled(image, image.rect(), 0));
 }
 
@@ -92,7 +92,7 @@ TEST(Canvas, PaintsTextsInOneColourOnly)
     CBarInput input(BarKind::Lying, false);
     input.addItem(8, QString::fromUtf8("Sgjö 8"), Qt::white, Qt::white);
     QImage image(200, 100, QImage::Format_ARGB32);
-    CCanvas canvas(image, input.settings, 1);
+    CCanvas canvas(image, input.settings, CRequest());
     canvas.paint(computeLayout(input, {0}, {200, 100}, canvas.measurer()));
     EXPECT_FALSE(extentOf(image, kBlackPixel).isNull());
     EXPECT_TRUE(extentWhere(image, [](QRgb pixel) {

@@ -69,7 +69,7 @@ public:
     [[nodiscard]] CBarLayout layout(const CRequest& request) const
     {
         QImage image(1, 1, QImage::Format_ARGB32);
-        CCanvas canvas(image, input.settings, request.scale);
+        CCanvas canvas(image, input.settings, request);
         return layOut(request, canvas);
     }
     [[nodiscard]] CDrawnBars drawn(const CRequest& request) const
@@ -77,7 +77,7 @@ public:
         QImage image(request.width, request.height, QImage::Format_ARGB32);
         CBarLayout layout;
         {
-            CCanvas canvas(image, input.settings, request.scale);
+            CCanvas canvas(image, input.settings, request);
             layout = layOut(request, canvas);
             canvas.paint(layout);
         }

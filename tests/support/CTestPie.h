@@ -45,7 +45,7 @@ struct CTestPie : CPieInput
     [[nodiscard]] CPieLayout layOut(const CRequest& request) const
     {
         QImage image(1, 1, QImage::Format_ARGB32);
-        CCanvas canvas(image, settings, request.scale);
+        CCanvas canvas(image, settings, request);
         const auto drawn = selectSlices(items, settings.threshold).items;
         return computeLayout(*this, drawn, request, canvas.measurer());
     }
@@ -56,7 +56,7 @@ struct CTestPie : CPieInput
     [[nodiscard]] QImage paint(const CRequest& request) const
     {
         QImage image = makeRasterSurface(request.width, request.height);
-        CCanvas(image, settings, request.scale).paint(layOut(request));
+        CCanvas(image, settings, request).paint(layOut(request));
         return image;
     }
 };
