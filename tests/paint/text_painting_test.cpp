@@ -88,6 +88,29 @@ TEST(TextPainting, WrapsWordsThatHaveNoRoomInOneLine)
     EXPECT_GT(inkOfText(textIn(QRectF(10, 10, 40, 60), "one two")).height(), 16);
 }
 
+// Where there is slack, a text that is wider than its room stays one line, at its place.
+TEST(TextPainting, PaintsBeyondTheRoomIntoTheSlack)
+{
+    for (const Qt::Alignment alignment : {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight}) {
+        CPlacedText text = textIn(QRectF(40, 30, 24, 16), "xx xx");
+        text.alignment = alignment;
+        text.slack = 20;
+        CPlacedText roomy = text;
+        roomy.slack = 60;
+        EXPECT_EQ(drawn(text), drawn(roomy));
+        EXPECT_GT(inkOfText(text).width(), 24);
+        EXPECT_LT(inkOfText(text).height(), 16);
+    }
+}
+
+TEST(TextPainting, TurnsTextsWithSlackAroundTheSameCorner)
+{
+    CPlacedText text = turned(textIn(QRectF(40, 80, 60, 16)));
+    CPlacedText slack = text;
+    slack.slack = 20;
+    EXPECT_EQ(drawn(text), drawn(slack));
+}
+
 TEST(TextPainting, DrawsOneLineForEachLineBreak)
 {
     EXPECT_GT(inkOfText(textIn(QRectF(10, 10, 100, 60), "one\ntwo")).height(), 16);

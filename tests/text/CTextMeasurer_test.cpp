@@ -72,6 +72,29 @@ TEST_F(TextMeasurer, MeasuresNoMoreThanAPartOfAHugeText)
     EXPECT_EQ(widthOf(longest + QString("more")), widthOf(longest));
 }
 
+TEST_F(TextMeasurer, MagnifiesWhatItMeasures)
+{
+    CTextMeasurer thrice(m_painter, 3);
+    const QRectF once = m_measurer.boundingRect(QString("some text"), true);
+    EXPECT_EQ(thrice.boundingRect(QString("some text"), true).size(), 3 * once.size());
+    EXPECT_EQ(thrice.fontHeight(), 3 * m_measurer.fontHeight());
+}
+
+TEST_F(TextMeasurer, ShortensToTheSameWordsInAMagnifiedRoom)
+{
+    CTextMeasurer thrice(m_painter, 3);
+    const QString text("a caption of many words");
+    for (int room = 0; room < 200; ++room)
+        EXPECT_EQ(thrice.shortened(text, 3 * room, kPlain),
+                  m_measurer.shortened(text, room, kPlain));
+}
+
+TEST_F(TextMeasurer, AllowsForWiderLettersOnlyWhereItMagnifies)
+{
+    EXPECT_EQ(m_measurer.slack(100), 0);
+    EXPECT_GT(CTextMeasurer(m_painter, 2).slack(100), 10);
+}
+
 TEST_F(TextMeasurer, TellsTheHeightOfALine)
 {
     EXPECT_EQ(m_measurer.fontHeight(), qt::fontHeight(m_painter));
