@@ -3,11 +3,11 @@
 #include "tovangl-du/command_line.h"
 
 #include "common/CFailure.h"
+#include "common/CProgressLine.h"
 #include "common/font_files.h"
 #include "common/interruption.h"
 #include "common/program_arguments.h"
 #include "common/text_checks.h"
-#include "tovangl-du/CProgressLine.h"
 #include "tovangl-du/byte_text.h"
 #include "tovangl-du/report.h"
 #include "tovangl-du/report_pictures.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A line on a terminal that shows a program's progress.
-#include "tovangl-du/CProgressLine.h"
+#include "common/CProgressLine.h"
 
 #include "common/text_checks.h"
 

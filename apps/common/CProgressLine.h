@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 /// @file
 /// A line on a terminal that shows a program's progress.
-#ifndef TOVANGL_DU_CPROGRESSLINE_H
-#define TOVANGL_DU_CPROGRESSLINE_H
+#ifndef TOVANGL_COMMON_CPROGRESSLINE_H
+#define TOVANGL_COMMON_CPROGRESSLINE_H
 
 #include <chrono>
 #include <functional>
