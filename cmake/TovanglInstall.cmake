@@ -96,3 +96,8 @@ foreach(program tovangl-chart tovangl-du)
         tovangl_install_program(${program})
     endif()
 endforeach()
+if(TARGET tovangl-chart)
+    get_target_property(tovangl_chart_binary_dir tovangl-chart BINARY_DIR)
+    install(FILES ${tovangl_chart_binary_dir}/chart.schema.json
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/tovangl COMPONENT tools)
+endif()

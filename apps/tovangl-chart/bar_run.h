@@ -4,6 +4,7 @@
 #ifndef TOVANGL_CHART_BAR_RUN_H
 #define TOVANGL_CHART_BAR_RUN_H
 
+#include "tovangl-chart/chart_items.h"
 #include "tovangl-chart/chart_run.h"
 
 namespace tovangl::program {
@@ -18,17 +19,6 @@ Axis properties, joined by commas, replace what the axis shows by default:
   shift-last               end the scale at the greatest value
   none                     show nothing)";
 
-template <typename BarChart>
-void addBars(BarChart& chart, const ChartItems& items)
-{
-    for (const ChartItem& item : items) {
-        if (item.fill)
-            chart.addItem(item.value, item.caption, *item.fill, item.outline.value_or(kNoColor));
-        else
-            chart.addItem(item.value, item.caption);
-    }
-}
-
 /// Does what the options of a bar chart's command ask for.
 ///
 /// @param kind  the command's name
@@ -37,7 +27,7 @@ void runBarChart(const char* kind, const CommonOptions& options)
 {
     BarChart chart(false);
     const ChartItems items = prepareChart(chart, options, LineColors::FillAndOutline);
-    addBars(chart, items);
+    addItems(chart, items);
     drawChart(chart, kind, items, options,
               [&chart](ChartRegions& regions) { regions.bars = *chart.getItemBarRectangle(); });
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // tovangl-chart pie
+#include "tovangl-chart/chart_items.h"
 #include "tovangl-chart/chart_run.h"
 #include "tovangl-chart/command_line.h"
-#include <tovangl/PieGraph.h>
 
 #include <memory>
 
@@ -22,21 +22,11 @@ constexpr const char* kExamples =
 
 Slices run clockwise from nine o'clock. Only numbers above 0 are drawn.)";
 
-void addSlices(PieGraph& chart, const ChartItems& items)
-{
-    for (const ChartItem& item : items) {
-        if (item.fill)
-            chart.addItem(item.value, item.caption, *item.fill);
-        else
-            chart.addItem(item.value, item.caption);
-    }
-}
-
 void runPie(const CommonOptions& options)
 {
     PieGraph chart(false);
     const ChartItems items = prepareChart(chart, options, LineColors::Fill);
-    addSlices(chart, items);
+    addItems(chart, items);
     drawChart(chart, kName, items, options,
               [&chart](ChartRegions& regions) { regions.slices = *chart.getSlice(); });
 }

@@ -81,15 +81,6 @@ void addValueOption(CLI::App& command, const Setting& setting, GivenSettings& gi
         ->group(kGroup);
 }
 
-// The library tells what "the value" is not, and the user has to see which value that is.
-std::string withValue(const std::string& reason, const std::string& value)
-{
-    constexpr std::string_view kSubject = "the value ";
-    if (reason.compare(0, kSubject.size(), kSubject) != 0)
-        return quote(value) + ": " + reason;
-    return quote(value) + ' ' + reason.substr(kSubject.size());
-}
-
 } // namespace
 
 std::string optionName(const Setting& setting)
@@ -120,12 +111,20 @@ std::optional<std::string> givenValue(const GivenSettings& given, std::string_vi
     return std::nullopt;
 }
 
+std::string refusal(const std::string& reason, const std::string& value)
+{
+    constexpr std::string_view kSubject = "the value ";
+    if (reason.compare(0, kSubject.size(), kSubject) != 0)
+        return quote(value) + ": " + reason;
+    return quote(value) + ' ' + reason.substr(kSubject.size());
+}
+
 void applySettings(Graph& chart, const GivenSettings& given)
 {
     for (const auto& [setting, value] : given) {
         const std::string reason = chart.setByName(setting->name, value);
         if (!reason.empty())
-            throw CFailure(optionName(*setting) + ": " + withValue(reason, value));
+            throw CFailure(optionName(*setting) + ": " + refusal(reason, value));
     }
 }
 

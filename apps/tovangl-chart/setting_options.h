@@ -30,6 +30,12 @@ void addSettingOptions(CLI::App& command, Setting::Chart kind, GivenSettings& gi
 [[nodiscard]] std::optional<std::string> givenValue(const GivenSettings& given,
                                                     std::string_view name);
 
+/// Why a value was refused, with the value: the library tells what "the value" is not, and the user
+/// has to see which value that is.
+///
+/// @param reason  of Graph::setByName()
+[[nodiscard]] std::string refusal(const std::string& reason, const std::string& value);
+
 /// Sets what was given. Throws CFailure with the name of the option whose value the chart refuses.
 void applySettings(Graph& chart, const GivenSettings& given);
 

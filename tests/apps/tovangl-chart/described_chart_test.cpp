@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+// Charts that are drawn from data.
+#include "common/CFailure.h"
+#include "tovangl-chart/described_chart.h"
+#include <tovangl/PieGraph.h>
+
+#include <gmock/gmock.h>
+
+namespace tovangl::program {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+using ::testing::ThrowsMessage;
+
+DrawnChart drawn(const std::string& json)
+{
+    return drawDescription(parseDescription(json), "");
+}
+
+TEST(DescribedChart, IsThePictureOfTheLibrary)
+{
+    PieGraph chart(false);
+    chart.setThreshold(5);
+    chart.addItem(3, "three");
+    chart.addItem(2, "two", {1, 2, 3});
+    unsigned char* bytes = nullptr;
+    int size = 0;
+    chart.createPixmap(300, 200, &bytes, &size);
+    const std::string expected(reinterpret_cast<const char*>(bytes),
+                               static_cast<std::size_t>(size));
+    EXPECT_EQ(drawn(R"({"chart": "pie", "width": 300, "height": 200, "threshold": 5, "items": [
+                        {"value": 3, "caption": "three"},
+                        {"value": 2, "caption": "two", "color": "#010203"}]})")
+                  .png,
+              expected);
+}
+
+TEST(DescribedChart, TellsTheRegionsOfItsKind)
+{
+    const DrawnChart pie = drawn(R"({"chart": "pie", "items": [{"value": 1}]})");
+    ASSERT_TRUE(pie.regions.slices && !pie.regions.bars);
+    EXPECT_THAT(*pie.regions.slices, SizeIs(1));
+    const DrawnChart bars = drawn(R"({"chart": "hbars", "items": [{"value": 1}, {"value": 2}]})");
+    ASSERT_TRUE(bars.regions.bars && !bars.regions.slices);
+    EXPECT_THAT(*bars.regions.bars, SizeIs(2));
+    EXPECT_THAT(bars.regions.description, StartsWith("Horizontal bar chart, 2 of 2"));
+}
+
+TEST(DescribedChart, IsMeasuredInPixelsOfThePicture)
+{
+    const DrawnChart scaled =
+        drawn(R"({"chart": "bars", "width": 300, "height": 200, "scale": 2, "items": []})");
+    EXPECT_EQ(scaled.regions.size.width, 600);
+    const DrawnChart printed = drawn(
+        R"({"chart": "bars", "width": 300, "height": 200, "scale": 2, "print": 3, "items": []})");
+    EXPECT_EQ(printed.regions.size.height, 600);
+}
+
+TEST(DescribedChart, AppliesAThemeBeforeTheColorsBesideIt)
+{
+    constexpr const char* kItems = R"("chart": "pie", "items": [{"value": 1, "caption": "x"}])";
+    const auto chart = [&](const char* fields) {
+        return drawn(std::string("{") + kItems + ", " + fields + "}").png;
+    };
+    EXPECT_EQ(chart(R"("text_color": "#ff0000", "theme": "dark")"),
+              chart(R"("theme": "dark", "text_color": "#ff0000")"));
+    EXPECT_NE(chart(R"("theme": "dark")"), chart(R"("theme": "dark", "text_color": "#ff0000")"));
+}
+
+TEST(DescribedChart, NamesTheSettingWhoseValueIsRefused)
+{
+    EXPECT_THAT(
+        [] { drawn(R"({"chart": "pie", "items": [], "text_color": "red"})"); },
+        ThrowsMessage<CFailure>(StartsWith("/text_color: \"red\" is not a colour such as")));
+    EXPECT_THAT([] { drawn(R"({"chart": "pie", "items": [], "scale": 0})"); },
+                ThrowsMessage<CFailure>(StartsWith("/scale: \"0\" is not a whole number from 1")));
+}
+
+TEST(DescribedChart, ThatIsTooLargeIsAFailure)
+{
+    EXPECT_THAT(
+        [] { drawn(R"({"chart": "pie", "items": [], "width": 1000000, "height": 1000000})"); },
+        ThrowsMessage<CFailure>(HasSubstr("no picture: ")));
+}
+
+TEST(DescribedChart, TellsAPictureWithoutRoom)
+{
+    EXPECT_THAT(
+        drawn(R"({"chart": "pie", "items": [{"value": 1}], "width": 5, "height": 5})").problem,
+        HasSubstr("no room"));
+    EXPECT_THAT(drawn(R"({"chart": "pie", "items": [{"value": 1}]})").problem, IsEmpty());
+}
+
+} // namespace
+} // namespace tovangl::program
