@@ -62,6 +62,12 @@ void COpenFile::bringToDisk() const
         throw systemFailure(m_name);
 }
 
+void COpenFile::bringFileSystemToDisk() const
+{
+    if (::syncfs(m_file) != 0)
+        throw systemFailure(m_name);
+}
+
 void COpenFile::close()
 {
     if (::close(std::exchange(m_file, kNoFile)) != 0)

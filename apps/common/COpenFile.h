@@ -34,6 +34,8 @@ public:
     void setPermissions(mode_t permissions) const;
     /// Some file systems do not support this, which does not count as a failure.
     void bringToDisk() const;
+    /// The same for all files that lie on the file system of this one.
+    void bringFileSystemToDisk() const;
     /// Late errors, such as those of a network file system, show here.
     void close();
 

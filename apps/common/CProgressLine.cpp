@@ -40,8 +40,7 @@ CProgressLine::CProgressLine()
 
 CProgressLine::~CProgressLine()
 {
-    if (m_isShown)
-        std::cerr << kClearLine << std::flush;
+    clear();
 }
 
 void CProgressLine::show(const std::function<std::string()>& text)
@@ -54,6 +53,13 @@ void CProgressLine::show(const std::function<std::string()>& text)
     m_next = now + kInterval;
     m_isShown = true;
     std::cerr << kClearLine << fitted(text()) << std::flush;
+}
+
+void CProgressLine::clear()
+{
+    if (m_isShown)
+        std::cerr << kClearLine << std::flush;
+    m_isShown = false;
 }
 
 } // namespace tovangl::program

@@ -23,6 +23,8 @@ public:
 
     /// @param text  makes the line when an update is due; any bytes
     void show(const std::function<std::string()>& text);
+    /// Makes room for another line on the terminal.
+    void clear();
 
 private:
     using Clock = std::chrono::steady_clock;

@@ -59,20 +59,9 @@ bool leadsToStandardOutput(const std::string& path)
     return status && isStandardOutput(*status);
 }
 
-bool isStream(const std::string& path)
-{
-    if (leadsToStandardOutput(path))
-        return true;
-    const std::optional<FileStatus> status = statusOf(path);
-    return status && !S_ISREG(status->st_mode) && !S_ISDIR(status->st_mode);
-}
-
 void writeStream(const Output& output)
 {
-    const bool isStandard = leadsToStandardOutput(output.path);
-    COpenFile file(isStandard ? STDOUT_FILENO
-                              : ::open(output.path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC),
-                   nameOf(output.path));
+    COpenFile file(openStream(output.path), nameOf(output.path));
     file.write(output.bytes);
     file.close();
 }
@@ -190,6 +179,20 @@ void writeFiles(const std::vector<const Output*>& outputs)
 }
 
 } // namespace
+
+bool isStream(const std::string& path)
+{
+    if (leadsToStandardOutput(path))
+        return true;
+    const std::optional<FileStatus> status = statusOf(path);
+    return status && !S_ISREG(status->st_mode) && !S_ISDIR(status->st_mode);
+}
+
+int openStream(const std::string& path)
+{
+    return leadsToStandardOutput(path) ? STDOUT_FILENO
+                                       : ::open(path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+}
 
 void writeOutputs(const std::vector<Output>& outputs)
 {

@@ -25,6 +25,13 @@ struct Output
 /// An existing file keeps its permissions, and links are followed. Throws CFailure.
 void writeOutputs(const std::vector<Output>& outputs);
 
+/// Whether a path leads to standard output, a pipe or a device, rather than to a file or to
+/// nothing.
+[[nodiscard]] bool isStream(const std::string& path);
+
+/// Opens what isStream() has found; -1, with errno set, if the system refuses it.
+[[nodiscard]] int openStream(const std::string& path);
+
 /// Throws CFailure if the path leads to a terminal, which cannot show binary data.
 void refuseTerminal(const std::string& path);
 
