@@ -31,6 +31,7 @@ tovangl_part(Programs TOVANGL_BUILD_APPS "Build the command-line programs" ${tov
     CLI11 nlohmann_json)
 if(TOVANGL_BUILD_APPS)
     tovangl_part("CSV files" TOVANGL_CSV "Let tovangl-chart read CSV files" ON libcsv)
+    tovangl_part("Tar archives" TOVANGL_TAR "Let tovangl-chart batch write tar archives" ON LibArchive)
 endif()
 tovangl_part(Tests TOVANGL_BUILD_TESTS "Build the tests" ${tovangl_is_top_level} GTest)
 tovangl_part(Examples TOVANGL_BUILD_EXAMPLES "Build the examples" ${tovangl_is_top_level})

@@ -8,24 +8,27 @@ _tovangl_chart() {
         --axis-title-color'
     local value='--value-axis --value-title --grid-color'
     local pie='--bold --shorten-left --keep-overlaps --without-sizes --unit --line-color'
+    local batch='-o --output --tar --frames --maps --resume --errors --jobs --longest-line --font-file
+        --help'
     local axis='line labels title bold-labels bold-title prefixes hide-overlapped shift-last none'
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local words files=
     case $previous in
-        -o | --output | --map | --font-file) files=yes ;;
+        -o | --output | --map | --font-file | --tar | --errors) files=yes ;;
         --category-axis | --value-axis) words=$axis ;;
         --theme | --palette) words='light dark high-contrast colour-blind' ;;
         --picture-color) words='transparent' ;;
         --kilo) words='1024 1000' ;;
         --background | --fast | --bold | --shorten-left | --keep-overlaps | --without-sizes | --csv | \
-            --help | [!-]*)
+            --frames | --maps | --resume | --help | [!-]*)
             case ${COMP_WORDS[1]} in
                 pie) words="$common $pie" files=yes ;;
                 bars) words="$common $bars $value" files=yes ;;
                 hbars) words="$common $bars --value-color" files=yes ;;
+                batch) words=$batch files=yes ;;
                 doctor) words='--font --font-file --help' ;;
             esac
-            if ((COMP_CWORD == 1)); then words='pie bars hbars doctor --help --version' files=; fi
+            if ((COMP_CWORD == 1)); then words='pie bars hbars batch doctor --help --version' files=; fi
             ;;
     esac
     mapfile -t COMPREPLY < <(

@@ -1,6 +1,7 @@
 # fish completion for tovangl-chart
 set -l charts pie bars hbars
 set -l doctor '__fish_seen_subcommand_from doctor'
+set -l batch '__fish_seen_subcommand_from batch'
 set -l any "__fish_seen_subcommand_from $charts"
 set -l pie '__fish_seen_subcommand_from pie'
 set -l bars '__fish_seen_subcommand_from bars hbars'
@@ -12,6 +13,7 @@ set -l themes 'light dark high-contrast colour-blind'
 complete -c tovangl-chart -n "not $any" -f -a pie -d 'A pie'
 complete -c tovangl-chart -n "not $any" -f -a bars -d 'Vertical bars'
 complete -c tovangl-chart -n "not $any" -f -a hbars -d 'Horizontal bars'
+complete -c tovangl-chart -n "not $any" -f -a batch -d 'Many charts from lines of JSON'
 complete -c tovangl-chart -n "not $any" -f -a doctor -d 'Check that charts can be drawn'
 complete -c tovangl-chart -n "not $any" -l version -d 'Show the version'
 complete -c tovangl-chart -s h -l help -d 'Show the help'
@@ -42,6 +44,16 @@ complete -c tovangl-chart -n $any -l outline-color -x -d 'Colour of the outlines
 complete -c tovangl-chart -n $any -l kilo -x -a '1024 1000' -d 'What a prefix such as K stands for'
 complete -c tovangl-chart -n $any -l scale -x -a 2 -d 'More pixels for displays of high density'
 complete -c tovangl-chart -n $any -l fast -d 'Save faster, in a larger file'
+
+complete -c tovangl-chart -n $batch -s o -l output -x -a '(__fish_complete_directories)' -d 'Write the pictures into this folder'
+complete -c tovangl-chart -n $batch -l tar -r -F -d 'Write one tar archive'
+complete -c tovangl-chart -n $batch -l frames -d 'Write to standard output, each with a header'
+complete -c tovangl-chart -n $batch -l maps -d 'Write beside each picture where each item was drawn'
+complete -c tovangl-chart -n $batch -l resume -d 'Pass over charts whose files are there'
+complete -c tovangl-chart -n $batch -l errors -r -F -d 'Write records of bad lines here'
+complete -c tovangl-chart -n $batch -l jobs -x -d 'Threads that draw'
+complete -c tovangl-chart -n $batch -l longest-line -x -d 'Refuse longer lines'
+complete -c tovangl-chart -n $batch -l font-file -r -F -d 'Use the font in this file'
 
 complete -c tovangl-chart -n $doctor -l font -x -d 'Look for this font family'
 complete -c tovangl-chart -n $doctor -l font-file -r -F -d 'Use the font in this file'

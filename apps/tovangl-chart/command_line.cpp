@@ -29,6 +29,7 @@ Examples:
   tovangl-chart bars --csv --caption Month --value 'Net sales' sales.csv -o sales.png
 
 Each chart has its own help: tovangl-chart pie --help
+Many charts at once: tovangl-chart batch --help
 If charts look wrong or cannot be drawn: tovangl-chart doctor)";
 
 } // namespace
@@ -52,6 +53,7 @@ int runCommandLine(int count, const char* const* arguments, const char* version)
     addBarsCommand(program);
     addHbarsCommand(program);
     int status = EXIT_SUCCESS;
+    addBatchCommand(program, status);
     addDoctorCommand(program, status);
     parseArguments(program, count, arguments);
     return status;

@@ -15,6 +15,8 @@ void addPieCommand(CLI::App& program);
 void addBarsCommand(CLI::App& program);
 void addHbarsCommand(CLI::App& program);
 /// @param status  receives the exit status
+void addBatchCommand(CLI::App& program, int& status);
+/// @param status  receives the exit status
 void addDoctorCommand(CLI::App& program, int& status);
 
 /// Adds a command with the layout that all share.

@@ -60,9 +60,7 @@ Json othersJson(const std::optional<OthersItem>& others)
     return json;
 }
 
-} // namespace
-
-std::string regionMapJson(const ChartItems& items, const ChartRegions& regions)
+Json regionMap(const ChartItems& items, const ChartRegions& regions)
 {
     Json itemList = itemsJson(items);
     Json others = othersJson(regions.others);
@@ -81,7 +79,19 @@ std::string regionMapJson(const ChartItems& items, const ChartRegions& regions)
     map["items"] = std::move(itemList);
     if (!others.is_null())
         map["others"] = std::move(others);
-    return map.dump(kIndent) + '\n';
+    return map;
+}
+
+} // namespace
+
+std::string regionMapJson(const ChartItems& items, const ChartRegions& regions)
+{
+    return regionMap(items, regions).dump(kIndent) + '\n';
+}
+
+std::string regionMapLine(const ChartItems& items, const ChartRegions& regions)
+{
+    return regionMap(items, regions).dump();
 }
 
 } // namespace tovangl::program

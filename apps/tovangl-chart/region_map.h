@@ -43,6 +43,9 @@ struct ChartRegions
 /// the value, the caption and the regions, null where nothing was drawn.
 [[nodiscard]] std::string regionMapJson(const ChartItems& items, const ChartRegions& regions);
 
+/// The same object without any line break.
+[[nodiscard]] std::string regionMapLine(const ChartItems& items, const ChartRegions& regions);
+
 } // namespace tovangl::program
 
 #endif

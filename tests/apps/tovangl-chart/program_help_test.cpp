@@ -111,6 +111,7 @@ TEST_P(Documentation, NamesEveryOptionAndNoOther)
     Options options = {"--version"};
     for (const Command& command : kCommands)
         options.merge(optionsOf(command.name));
+    options.merge(optionsOf("batch"));
     EXPECT_EQ(optionsIn(readSource(GetParam())), options);
 }
 
@@ -145,6 +146,7 @@ TEST(Completion, OffersTheOptionsOfTheCommandAndNoOthers)
         EXPECT_EQ(optionsIn(completions(std::string(command.name) + " --")),
                   optionsOf(command.name))
             << command.name;
+    EXPECT_EQ(optionsIn(completions("batch --")), optionsOf("batch"));
 }
 
 TEST(Completion, OffersOptionsAfterFlagsAndValues)

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Jobs for several threads, whose answers come out in the order of the jobs.
+#ifndef TOVANGL_CHART_CORDEREDQUEUE_H
+#define TOVANGL_CHART_CORDEREDQUEUE_H
+
+#include <chrono>
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+namespace tovangl::program {
+
+/// One thread puts jobs in, any number of threads take and answer them, and one thread takes the
+/// answers. Each answer can be taken as soon as it and all before it are there. No more than
+/// `capacity` jobs are ever between the first thread and the last.
+template <typename Job, typename Answer>
+class COrderedQueue
+{
+public:
+    using Ticket = std::size_t;
+
+    struct Task
+    {
+        Ticket ticket;
+        Job job;
+    };
+
+    /// @param capacity  at least 1
+    explicit COrderedQueue(std::size_t capacity)
+        : m_capacity(capacity)
+    {}
+
+    /// Waits for a place.
+    ///
+    /// @return whether put() may be called: there is a place, or the queue was stopped
+    [[nodiscard]] bool waitForPlace(std::chrono::milliseconds longest)
+    {
+        std::unique_lock lock(m_mutex);
+        return m_placeIsFree.wait_for(
+            lock, longest, [this] { return m_isStopped || m_answers.size() < m_capacity; });
+    }
+
+    /// Takes a job for which waitForPlace() has found a place.
+    ///
+    /// @return false if the queue was stopped
+    bool put(Job job)
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_isStopped)
+            return false;
+        m_jobs.push_back({m_firstTicket + m_answers.size(), std::move(job)});
+        m_answers.emplace_back();
+        m_jobIsThere.notify_one();
+        return true;
+    }
+
+    /// Says that no more jobs come.
+    void close()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isClosed = true;
+        m_jobIsThere.notify_all();
+        m_answerIsThere.notify_all();
+    }
+
+    /// Gives up: all waits end, and neither jobs nor answers come out any more.
+    void stop()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isStopped = true;
+        m_placeIsFree.notify_all();
+        m_jobIsThere.notify_all();
+        m_answerIsThere.notify_all();
+    }
+
+    /// Waits for a job. Nothing comes after the last one.
+    [[nodiscard]] std::optional<Task> takeJob()
+    {
+        std::unique_lock lock(m_mutex);
+        m_jobIsThere.wait(lock, [this] { return m_isStopped || m_isClosed || !m_jobs.empty(); });
+        if (m_isStopped || m_jobs.empty())
+            return std::nullopt;
+        std::optional<Task> task(std::move(m_jobs.front()));
+        m_jobs.pop_front();
+        return task;
+    }
+
+    void answer(Ticket ticket, Answer answer)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_answers[ticket - m_firstTicket] = std::move(answer);
+        if (ticket == m_firstTicket)
+            m_answerIsThere.notify_one();
+    }
+
+    /// Waits for the next answer. Nothing comes after the last one.
+    [[nodiscard]] std::optional<Answer> takeAnswer()
+    {
+        std::unique_lock lock(m_mutex);
+        m_answerIsThere.wait(lock, [this] {
+            return m_isStopped || (m_answers.empty() ? m_isClosed : m_answers.front().has_value());
+        });
+        if (m_isStopped || m_answers.empty())
+            return std::nullopt;
+        std::optional<Answer> answer = std::move(m_answers.front());
+        m_answers.pop_front();
+        ++m_firstTicket;
+        m_placeIsFree.notify_one();
+        return answer;
+    }
+
+private:
+    const std::size_t m_capacity;
+    std::mutex m_mutex;
+    std::condition_variable m_placeIsFree;
+    std::condition_variable m_jobIsThere;
+    std::condition_variable m_answerIsThere;
+    std::deque<Task> m_jobs;                     // not taken yet
+    std::deque<std::optional<Answer>> m_answers; // of all jobs, from m_firstTicket on
+    Ticket m_firstTicket = 0;
+    bool m_isClosed = false;
+    bool m_isStopped = false;
+};
+
+} // namespace tovangl::program
+
+#endif

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+// Batches that go wrong, and inputs that mean harm.
+#include "apps/support/shell.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <set>
+#include <string>
+
+namespace tovangl::program {
+namespace {
+
+using ::testing::Eq;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+using Names = std::set<std::string>;
+
+constexpr const char* kLine =
+    R"({"chart": "pie", "id": "a", "width": 400, "height": 300, "items": [{"value": 7}]})";
+
+struct BrokenBatch
+{
+    const char* name;
+    const char* command;
+    const char* message;
+};
+
+void PrintTo(const BrokenBatch& batch, std::ostream* out)
+{
+    *out << batch.command;
+}
+
+class BrokenOff : public ::testing::TestWithParam<BrokenBatch>
+{};
+
+TEST_P(BrokenOff, SaysWhyInOneLine)
+{
+    const CTemporaryFolder folder;
+    folder.write("line", kLine);
+    folder.write("file", "");
+    const ShellResult result = runShell(folder, GetParam().command);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr(std::string("tovangl-chart: ") + GetParam().message));
+    EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << result.errors;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Batch, BrokenOff,
+    ::testing::Values(
+        BrokenBatch{"NoPlace", "tovangl-chart batch line", "say where the pictures go"},
+        BrokenBatch{"TwoPlaces", "tovangl-chart batch line -o p --tar p.tar", "--output excludes"},
+        BrokenBatch{"ResumedTar", "tovangl-chart batch line --tar p.tar --resume",
+                    "--resume requires --output"},
+        BrokenBatch{"NoInput", "tovangl-chart batch nowhere -o p", "nowhere: No such file"},
+        BrokenBatch{"InputIsAFolder", "tovangl-chart batch . -o p", ".: Is a directory"},
+        BrokenBatch{"OutputIsAFile", "tovangl-chart batch line -o file", "file: "},
+        BrokenBatch{"PictureIsAFolder", "mkdir -p p/a.png; tovangl-chart batch line -o p",
+                    "p/a.png: Is a directory"},
+        BrokenBatch{"NoFolderOfTheTar", "tovangl-chart batch line --tar p/x.tar", "p/x.tar: No su"},
+        BrokenBatch{"NoFolderOfTheErrors", "tovangl-chart batch line -o p --errors q/e",
+                    "q/e: No "},
+        BrokenBatch{"FullDisk", "tovangl-chart batch line --tar /dev/full", "/dev/full: No space"},
+        BrokenBatch{"FullOutput", "tovangl-chart batch line --frames >/dev/full",
+                    "standard output: No space left"},
+        BrokenBatch{"FullErrors", "echo x | tovangl-chart batch -o p --errors /dev/full",
+                    "/dev/full: No space left"},
+        BrokenBatch{"FileSizeLimit", "ulimit -f 1; tovangl-chart batch line -o p",
+                    "temporary file: File t"},
+        BrokenBatch{"Jobs", "tovangl-chart batch line -o p --jobs 0", "--jobs: 0 is not a number "},
+        BrokenBatch{"LongestLine", "tovangl-chart batch line -o p --longest-line x",
+                    "--longest-line: \"x\" is not a whole number"}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(BrokenBatches, AClosedPipeIsOneError)
+{
+    const CTemporaryFolder folder;
+    folder.write("line", kLine);
+    const ShellResult result = runShell(
+        folder, "for i in $(seq 2000); do cat line; echo; done | "
+                "{ tovangl-chart batch --frames; echo $? >status; } | head -c 10 >/dev/null");
+    EXPECT_EQ(folder.read("status"), "2\n");
+    EXPECT_EQ(result.errors, "tovangl-chart: standard output: Broken pipe\n");
+}
+
+TEST(BrokenBatches, TheLongestLineIsAnOption)
+{
+    const CTemporaryFolder folder;
+    folder.write("line", kLine);
+    EXPECT_THAT(runShell(folder, "tovangl-chart batch line -o p --longest-line 20").errors,
+                HasSubstr("the line has more than 20 bytes"));
+}
+
+TEST(BrokenBatches, BytesThatAreNoTextAreOneErrorALine)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", std::string("{\"\xff\": 1}\n") + '\0' + "\n\x1b[2J\n" + kLine);
+    const ShellResult result = runShell(folder, "tovangl-chart batch lines -o p");
+    EXPECT_EQ(result.errors, "{\"line\":1,\"id\":null,\"reason\":\"byte 3 is not UTF-8\"}\n"
+                             "{\"line\":2,\"id\":null,\"reason\":\"byte 1 is zero\"}\n"
+                             "{\"line\":3,\"id\":null,\"reason\":\"not JSON: wrong at byte 1\"}\n");
+    EXPECT_FALSE(folder.read("p/a.png").empty());
+}
+
+TEST(BrokenBatches, NoIdLeadsOutOfTheFolder)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", R"({"chart": "pie", "items": [], "id": "../out"})"
+                          "\n"
+                          R"({"chart": "pie", "items": [], "id": "/tmp/out"})");
+    EXPECT_EQ(runShell(folder, "tovangl-chart batch lines -o p").status, 1);
+    EXPECT_THAT(folder.names(), Eq(Names{"lines", "p"}));
+    EXPECT_TRUE(std::filesystem::is_empty(folder.pathOf("p")));
+}
+
+TEST(BrokenBatches, AFolderThatCannotBeWrittenIsToldBeforeAnythingIsDrawn)
+{
+    const CTemporaryFolder folder;
+    folder.write("line", kLine);
+    const ShellResult result = runShell(folder, "tovangl-chart batch line -o /proc/nowhere");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("/proc/nowhere: "));
+    EXPECT_THAT(result.errors, Not(HasSubstr("a.png")));
+}
+
+} // namespace
+} // namespace tovangl::program

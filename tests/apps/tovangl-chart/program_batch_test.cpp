@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: MIT
+// Many charts from lines of JSON, as a shell draws them.
+#include "apps/support/shell.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace tovangl::program {
+namespace {
+
+using ::testing::ContainsRegex;
+using ::testing::EndsWith;
+using ::testing::Eq;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+
+using Json = nlohmann::json;
+using Names = std::set<std::string>;
+
+/// A small chart with this id.
+std::string chartLine(const std::string& id, const std::string& fields = "")
+{
+    return R"({"chart": "bars", "id": ")" + id +
+           R"(", "width": 120, "height": 90, "items": [{"value": 7, "caption": "x"}])" + fields +
+           "}\n";
+}
+
+std::string manyLines(int count)
+{
+    std::string lines;
+    for (int i = 0; i < count; ++i)
+        lines += chartLine("c" + std::to_string(i), ", \"title\": \"" + std::to_string(i) + '"');
+    return lines;
+}
+
+/// What a batch makes of some lines.
+ShellResult runLines(const CTemporaryFolder& folder, const std::string& lines,
+                     const std::string& options = "-o p")
+{
+    folder.write("lines", lines);
+    return runShell(folder, "tovangl-chart batch lines " + options);
+}
+
+Names namesIn(const CTemporaryFolder& folder, const std::string& name)
+{
+    Names names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.pathOf(name)))
+        names.insert(entry.path().filename());
+    return names;
+}
+
+/// All records of a text, one for each line.
+std::vector<Json> records(const std::string& text)
+{
+    std::vector<Json> result;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        result.push_back(Json::parse(line));
+    return result;
+}
+
+TEST(Batch, WritesAPictureForEachIdIntoANewFolder)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runLines(folder, chartLine("a") + '\n' + chartLine("b"));
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.output + result.errors, IsEmpty());
+    EXPECT_THAT(namesIn(folder, "p"), Eq(Names{"a.png", "b.png"}));
+}
+
+TEST(Batch, DrawsWhatTheCommandOfTheChartDraws)
+{
+    const CTemporaryFolder folder;
+    runLines(folder, chartLine("a", R"(, "theme": "dark", "bar_width": 9)"), "-o p --maps");
+    runShell(folder, "echo 7 x | tovangl-chart bars --size 120x90 --theme dark --bar-width 9 "
+                     "-o a.png --map a.json");
+    EXPECT_EQ(folder.read("p/a.png"), folder.read("a.png"));
+    EXPECT_EQ(folder.read("p/a.json"), folder.read("a.json"));
+}
+
+TEST(Batch, GoesOnAfterABadLine)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runLines(folder, chartLine("a") + "oops\n" + chartLine("b"));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(namesIn(folder, "p"), Eq(Names{"a.png", "b.png"}));
+    const std::vector<Json> errors = records(result.errors);
+    ASSERT_THAT(errors, SizeIs(1));
+    EXPECT_EQ(errors[0],
+              Json({{"line", 2}, {"id", nullptr}, {"reason", "not JSON: wrong at byte 1"}}));
+}
+
+TEST(Batch, WritesItsRecordsWhereTheOptionSays)
+{
+    const CTemporaryFolder folder;
+    folder.write("bad", "old\n");
+    const ShellResult result =
+        runLines(folder, chartLine("a", R"(, "text_color": "red")"), "-o p --errors bad");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, IsEmpty());
+    const Json record = records(folder.read("bad")).at(0);
+    EXPECT_EQ(record["id"], "a");
+    EXPECT_THAT(record["reason"].get<std::string>(), StartsWith("/text_color: \"red\" is not"));
+}
+
+TEST(Batch, TellsAPictureWithoutItsChartAndWritesIt)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result =
+        runLines(folder, R"({"chart": "pie", "id": "a", "width": 5, "height": 5, "items": []})");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(records(result.errors).at(0)["problem"].get<std::string>(), HasSubstr("no room"));
+    EXPECT_THAT(namesIn(folder, "p"), Eq(Names{"a.png"}));
+}
+
+TEST(Batch, TheSecondOfTwoEqualIdsIsAnError)
+{
+    const CTemporaryFolder folder;
+    const std::string lines = chartLine("a") + chartLine("a", R"(, "theme": "dark")");
+    for (const char* options : {"-o p", "-o p --resume", "--tar p.tar"}) {
+        const ShellResult result = runLines(folder, lines, options);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(records(result.errors).at(0)["line"], 2);
+    }
+    runLines(folder, chartLine("a"), "-o once");
+    EXPECT_EQ(folder.read("p/a.png"), folder.read("once/a.png"));
+}
+
+TEST(Batch, NeedsAnIdWhereFilesAreNamed)
+{
+    const CTemporaryFolder folder;
+    const std::string line = R"({"chart": "pie", "items": [{"value": 1}]})";
+    EXPECT_THAT(runLines(folder, line).errors, HasSubstr("/id: is missing"));
+    EXPECT_EQ(runLines(folder, line, "--frames").status, 0);
+}
+
+TEST(Batch, IsTheSameWithAnyNumberOfThreads)
+{
+    const CTemporaryFolder folder;
+    const std::string lines = manyLines(60) + "oops\n" + chartLine("last");
+    for (const char* jobs : {"1", "2", "7"}) {
+        const std::string number = jobs;
+        const std::string errors = " --errors e" + number;
+        runLines(folder, lines, "--maps -o p" + number + " --jobs " + number + errors);
+        runLines(folder, lines, "--tar t" + number + " --jobs " + number);
+        runLines(folder, lines, "--frames --jobs " + number + " >f" + number);
+    }
+    EXPECT_EQ(runShell(folder, "for n in 2 7; do diff -r p1 p$n && cmp t1 t$n && cmp f1 f$n && "
+                               "cmp e1 e$n || exit 1; done")
+                  .status,
+              0);
+    EXPECT_THAT(namesIn(folder, "p1"), SizeIs(2 * 61));
+}
+
+TEST(Batch, ATarArchiveHasTheFilesOfTheFolder)
+{
+    const CTemporaryFolder folder;
+    const std::string lines = manyLines(5) + chartLine(std::string(200, 'x'));
+    runLines(folder, lines, "--maps -o p");
+    runLines(folder, lines, "--maps --tar p.tar");
+    EXPECT_EQ(runShell(folder, "mkdir t && tar -C t -xf p.tar && diff -r p t").status, 0);
+    runLines(folder, lines, "--maps --tar - >s.tar");
+    EXPECT_EQ(folder.read("s.tar"), folder.read("p.tar"));
+}
+
+TEST(Batch, FramesTellTheirLengthAndTheirRegions)
+{
+    const CTemporaryFolder folder;
+    const std::string lines = chartLine("a") + "oops\n";
+    runLines(folder, lines, "--maps -o p");
+    const ShellResult result = runLines(folder, lines, "--frames");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, IsEmpty());
+    const std::size_t headerEnd = result.output.find('\n');
+    const Json header = Json::parse(result.output.substr(0, headerEnd));
+    const std::size_t bytes = header["bytes"];
+    EXPECT_EQ(result.output.substr(headerEnd + 1, bytes), folder.read("p/a.png"));
+    EXPECT_EQ(header["regions"], Json::parse(folder.read("p/a.json")));
+    EXPECT_THAT(header["description"].get<std::string>(), StartsWith("Vertical bar chart"));
+    EXPECT_EQ(header["problem"], nullptr);
+    const Json refused = Json::parse(result.output.substr(headerEnd + 1 + bytes));
+    EXPECT_EQ(refused["bytes"], 0);
+    EXPECT_EQ(refused["line"], 2);
+    EXPECT_EQ(refused["problem"], "not JSON: wrong at byte 1");
+}
+
+TEST(Batch, FramesComeAtOnceWhileThePipeStaysOpen)
+{
+    const CTemporaryFolder folder;
+    folder.write("line", chartLine("a"));
+    const ShellResult result = runShell(
+        folder, "mkfifo in out\n"
+                "tovangl-chart batch --frames --jobs 4 <in >out &\n"
+                "exec 3>in 4<out\n"
+                "for i in 1 2 3; do cat line >&3; timeout 20 head -n 1 <&4 >/dev/null || exit 1; "
+                "echo answer; done");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "answer\nanswer\nanswer\n");
+}
+
+TEST(Batch, ResumesWithoutDrawingWhatIsThere)
+{
+    const CTemporaryFolder folder;
+    const std::string lines = manyLines(3);
+    runLines(folder, lines, "--maps -o whole");
+    runLines(folder, lines, "--maps -o p");
+    runShell(folder, "cp p/c1.png p/c0.png; rm p/c1.png p/c2.json");
+    EXPECT_EQ(runLines(folder, lines, "--maps -o p --resume").status, 0);
+    EXPECT_EQ(folder.read("p/c0.png"), folder.read("whole/c1.png"));
+    EXPECT_EQ(runShell(folder, "rm */c0.png; diff -r p whole").status, 0);
+}
+
+TEST(Batch, ResumesWithFilesThatLostTheirEnd)
+{
+    const CTemporaryFolder folder;
+    const std::string lines = manyLines(3);
+    runLines(folder, lines, "--maps -o whole");
+    runLines(folder, lines, "--maps -o p");
+    runShell(folder, ": >p/c0.png; truncate -s -1 p/c1.png; truncate -s -4 p/c2.json");
+    EXPECT_EQ(runLines(folder, lines, "--maps -o p --resume").status, 0);
+    EXPECT_EQ(runShell(folder, "diff -r p whole").status, 0);
+}
+
+TEST(Batch, AKilledRunIsResumedToTheSameFiles)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", manyLines(400));
+    const ShellResult result = runShell(
+        folder,
+        "tovangl-chart batch lines --maps -o whole\n"
+        "for delay in 0.02 0.05 0.09 0.14 0.2; do\n"
+        "    timeout -s KILL $delay tovangl-chart batch lines --maps -o p --resume --jobs 3\n"
+        "    for file in p/c*; do [ ! -e \"$file\" ] || cmp $file whole/${file#p/} || exit 1; "
+        "done\n"
+        "done\n"
+        "tovangl-chart batch lines --maps -o p --resume && diff -r whole p");
+    EXPECT_EQ(result.status, 0) << result.output << result.errors;
+}
+
+// The lines fill the pipe several times, so that many are drawn when the last one is written.
+TEST(Batch, KilledWhileItWritesAnArchiveItLeavesNothing)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", manyLines(2000));
+    runShell(folder, "mkfifo in; exec 3<>in\n"
+                     "for signal in KILL TERM; do\n"
+                     "    tovangl-chart batch --tar p.tar <in &\n"
+                     "    cat lines >&3; kill -$signal $!; wait $!\n"
+                     "done");
+    EXPECT_THAT(folder.names(), Eq(Names{"in", "lines"}));
+}
+
+// Its answer shows that it runs, and has nothing left to do but to wait.
+TEST(Batch, EndsOnASignalWhileItWaits)
+{
+    const CTemporaryFolder folder;
+    folder.write("line", chartLine("a"));
+    const ShellResult result = runShell(folder, "mkfifo in out\n"
+                                                "tovangl-chart batch --frames <in >out &\n"
+                                                "exec 3>in 4<out\n"
+                                                "cat line >&3; head -n 1 <&4 >header\n"
+                                                "kill -TERM $!; wait $!");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "tovangl-chart: interrupted\n");
+}
+
+TEST(Batch, ShowsItsProgressOnATerminal)
+{
+    if (!hasTerminals())
+        GTEST_SKIP() << "no terminal can be opened here";
+    const CTemporaryFolder folder;
+    folder.write("lines", manyLines(600));
+    const ShellResult result =
+        runShell(folder, "script -qec 'tovangl-chart batch lines -o p --jobs 1' /dev/null");
+    EXPECT_THAT(result.output, ContainsRegex(" a second, 0 errors, [0-9:]+ left"));
+    EXPECT_THAT(result.output, EndsWith("\r\x1b[K"));
+}
+
+} // namespace
+} // namespace tovangl::program
