@@ -12,13 +12,15 @@ namespace tovangl::program {
 
 namespace {
 
+constexpr std::size_t kLongestShownKey = 100; // bytes, which a key that means harm can exceed
+
 // A key as a part of a JSON pointer.
 std::string pointerPart(std::string_view key)
 {
     std::string part = "/";
-    for (const char letter : key)
+    for (const char letter : key.substr(0, kLongestShownKey))
         part += letter == '~' ? "~0" : letter == '/' ? "~1" : std::string(1, letter);
-    return part;
+    return key.size() > kLongestShownKey ? part + "..." : part;
 }
 
 std::string shown(const FieldValue& value)
@@ -69,7 +71,7 @@ std::string wantedType(SettingType type)
     case SettingType::Whole:
         return "a whole number of 64 bits";
     case SettingType::Real:
-        return "a number";
+        return "a number of 64 bits";
     default:
         return "a text";
     }

@@ -20,8 +20,9 @@ struct FieldValue
     {
         Null,
         Boolean,
-        Whole, ///< of 64 bits
-        Other, ///< a number that is not Whole
+        Whole,    ///< of 64 bits
+        Other,    ///< a number that is not Whole
+        Overflow, ///< a number beyond all others, which nothing takes
         Text,
         Composite ///< an object or an array
     };

@@ -15,6 +15,8 @@ namespace {
 
 using Json = nlohmann::json;
 
+constexpr int kNumberOverflow = 406; // the parser's name for a number that no double can hold
+
 constexpr FieldValue kObject = {FieldValue::Composite, "an object"};
 constexpr FieldValue kArray = {FieldValue::Composite, "an array"};
 
@@ -85,9 +87,10 @@ public:
         m_level = Level::Chart;
         return true;
     }
-    bool parse_error(std::size_t position, const std::string& /*token*/,
-                     const Json::exception& /*error*/)
+    bool parse_error(std::size_t position, const std::string& token, const Json::exception& error)
     {
+        if (error.id == kNumberOverflow)
+            take({FieldValue::Overflow, token});
         throw CFailure("not JSON: wrong at byte " + std::to_string(position));
     }
     // NOLINTEND(readability-identifier-naming)

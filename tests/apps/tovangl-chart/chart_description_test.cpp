@@ -103,7 +103,7 @@ struct BadDescription
 {
     const char* name;
     std::string json;
-    const char* message; ///< how it starts
+    std::string message; ///< how it starts
 };
 
 void PrintTo(const BadDescription& bad, std::ostream* out)
@@ -143,6 +143,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadDescription{"UnknownKey", pieWith(R"("colour": 1)"), "/colour: no chart has such a "},
         BadDescription{"KeyOfPointers", pieWith(R"("a/b~": 1)"), "/a~1b~0: no chart has "},
         BadDescription{"KeyThatControls", pieWith(R"("\u001b[2J": 1)"), "/?[2J: no chart has "},
+        BadDescription{"LongKey", pieWith("\"" + std::string(1000000, 'k') + "\": 1"),
+                       "/" + std::string(100, 'k') + "...: no chart has such a setting"},
         BadDescription{"TwoKeys", pieWith(R"("width": 1, "width": 1)"),
                        "/width: stands there twic"},
         BadDescription{"TwoLists", pieWith(R"("items": [])"), "/items: stands there twice"},
@@ -175,6 +177,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadDescription{"Text", pieWith(R"("title": ["a"])"), "/title: an array is not a text"},
         BadDescription{"NullText", pieWith(R"("title": null)"), "/title: null is not a text"},
         BadDescription{"Whole", pieWith(R"("font_size": 11.5)"), "/font_size: 11.5 is not a whole"},
+        BadDescription{"RealBeyondAll", pieWith(R"("threshold": 1e999)"),
+                       "/threshold: 1e999 is not a number of 64 bits"},
         BadDescription{"Real", pieWith(R"("threshold": "5")"),
                        "/threshold: \"5\" is not a number"}),
     badName);
@@ -190,6 +194,8 @@ INSTANTIATE_TEST_SUITE_P(
                        "/items/0/value: 1.5 is not a whole number of 64 bits"},
         BadDescription{"Exponent", pieOf(R"({"value": 1e3})"),
                        "/items/0/value: 1e3 is not a whole"},
+        BadDescription{"BeyondAll", pieOf(R"({"value": -1e999})"),
+                       "/items/0/value: -1e999 is not a whole number of 64 bits"},
         BadDescription{"TooGreat", pieOf(R"({"value": 9223372036854775808})"),
                        "/items/0/value: 9223372036854775808 is not a whole number of 64 bits"},
         BadDescription{"TooSmall", pieOf(R"({"value": -9223372036854775809})"),
