@@ -5,6 +5,9 @@
 #include "common/CFailure.h"
 
 #include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
 #include <functional>
 #include <random>
 #include <unistd.h>
@@ -18,6 +21,16 @@ constexpr std::uint64_t kFirstSlotCount = 4096;
 constexpr std::uint64_t kGrowth = 2;
 constexpr std::uint64_t kSlotsPerText = 2; // fewer make searches long
 constexpr const char* kName = "temporary file";
+
+// TMPDIR, where the environment has it.
+std::string temporaryFolder()
+{
+    std::error_code error;
+    const std::string folder = std::filesystem::temp_directory_path(error);
+    if (error)
+        throw systemFailure("folder for temporary files", error.value());
+    return folder;
+}
 
 // Beyond its end, a file has zeros.
 void readAt(std::FILE* file, void* bytes, std::size_t count, std::uint64_t offset)
@@ -79,9 +92,16 @@ bool CIdRegister::add(const std::string& id)
 
 CIdRegister::File CIdRegister::makeFile()
 {
-    File file(std::tmpfile(), &std::fclose);
-    if (!file)
+    std::string name = temporaryFolder() + "/tovangl-XXXXXX";
+    const int descriptor = ::mkostemp(name.data(), O_CLOEXEC);
+    if (descriptor < 0)
         throw systemFailure(kName);
+    ::unlink(name.c_str());
+    File file(::fdopen(descriptor, "r+"), &std::fclose);
+    if (!file) {
+        ::close(descriptor);
+        throw systemFailure(kName);
+    }
     return file;
 }
 
