@@ -20,10 +20,20 @@ constexpr std::size_t kChunkBytes = std::size_t{64} << 10;
 constexpr int kInterruptionDelay = 100; // milliseconds until a signal is seen
 constexpr const char* kStandardInput = "-";
 
+// Where standard input was closed, the windowing system's library has put an event counter in its
+// place before the program began. Nothing would ever come from it. Such files have no type.
+int openStandardInput()
+{
+    struct stat status = {};
+    if (::fstat(STDIN_FILENO, &status) != 0 || (status.st_mode & S_IFMT) == 0)
+        throw systemFailure("standard input", EBADF);
+    return STDIN_FILENO;
+}
+
 int openInput(const std::string& path)
 {
     if (path == kStandardInput)
-        return STDIN_FILENO;
+        return openStandardInput();
     const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (file < 0)
         throw systemFailure(path);

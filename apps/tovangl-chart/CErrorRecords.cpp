@@ -2,6 +2,8 @@
 // What went wrong in a batch.
 #include "tovangl-chart/CErrorRecords.h"
 
+#include "common/output_files.h"
+
 #include <fcntl.h>
 #include <nlohmann/json.hpp>
 #include <unistd.h>
@@ -14,14 +16,24 @@ constexpr int kNewFile = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOCTTY;
 
 int openRecords(const std::optional<std::string>& path)
 {
-    return path ? ::open(path->c_str(), kNewFile, kNewFilePermissions)
-                : ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
+    if (!path)
+        return ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
+    if (*path == kStandardOutput)
+        return ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
+    return ::open(path->c_str(), kNewFile, kNewFilePermissions);
+}
+
+std::string nameOf(const std::optional<std::string>& path)
+{
+    if (!path)
+        return "standard error";
+    return *path == kStandardOutput ? "standard output" : *path;
 }
 
 } // namespace
 
 CErrorRecords::CErrorRecords(const std::optional<std::string>& path)
-    : m_file(openRecords(path), path.value_or("standard error"))
+    : m_file(openRecords(path), nameOf(path))
 {}
 
 void CErrorRecords::put(const BatchAnswer& answer) const

@@ -16,7 +16,7 @@ namespace tovangl::program {
 class CErrorRecords
 {
 public:
-    /// @param path  of a file, which begins anew; nothing for standard error
+    /// @param path  of a file, which begins anew; "-" is standard output, nothing standard error
     explicit CErrorRecords(const std::optional<std::string>& path);
 
     /// Why a line has no picture, or what is wrong with the picture.

@@ -2,6 +2,7 @@
 // tovangl-chart batch
 #include "common/font_files.h"
 #include "common/interruption.h"
+#include "common/output_files.h"
 #include "tovangl-chart/CBatchRun.h"
 #include "tovangl-chart/batch_sinks.h"
 #include "tovangl-chart/command_line.h"
@@ -18,6 +19,7 @@ namespace tovangl::program {
 namespace {
 
 constexpr const char* kName = "batch";
+constexpr const char* kStandardInput = "-";
 constexpr const char* kDescription = "Many charts, each described by one line of JSON";
 
 constexpr const char* kExamples =
@@ -41,7 +43,7 @@ constexpr std::size_t kLongestLine = std::size_t{16} << 20; // bytes
 
 struct BatchOptions
 {
-    std::string input = "-";
+    std::string input = kStandardInput;
     std::optional<std::string> folder;
     std::optional<std::string> tar;
     bool isFramed = false;
@@ -108,7 +110,7 @@ void addOutputOptions(CLI::App& command, BatchOptions& options)
 void addRunOptions(CLI::App& command, BatchOptions& options)
 {
     addOption(command, "--errors", options.errors, parsePath,
-              "Write the records of lines without a picture here")
+              "Write the records of lines without a picture here; - is standard output")
         ->type_name("FILE");
     addOption(command, "--jobs", options.jobs, parseJobs,
               "Threads that draw; by default as many as there are processors")
@@ -148,18 +150,30 @@ AnswerRules rulesOf(const BatchOptions& options)
     return rules;
 }
 
-int runBatch(const BatchOptions& options)
+void checkPlaces(const BatchOptions& options)
 {
     if (!options.folder && !options.tar && !options.isFramed)
         throw CFailure("say where the pictures go: -o DIR, --tar FILE or --frames");
+    if (!options.errors)
+        return;
+    const std::string pictures = options.isFramed ? kStandardOutput : options.tar.value_or("");
+    if (!pictures.empty() && isSamePlace(*options.errors, pictures))
+        throw CFailure("the pictures and the records of --errors cannot go to one place");
+    if (options.input != kStandardInput && isSamePlace(*options.errors, options.input))
+        throw CFailure("the records of --errors would replace the charts that they are about");
+}
+
+int runBatch(const BatchOptions& options)
+{
+    checkPlaces(options);
     AnswerRules rules = rulesOf(options);
+    CBoundedLines lines(options.input, options.longestLine);
     const std::unique_ptr<CBatchSink> sink = makeSink(options, rules);
     // A host that reads frames has the reason in the header, and may never read standard error.
     std::optional<CErrorRecords> records;
     if (options.errors || !options.isFramed)
         records.emplace(options.errors);
     noteInterruptions();
-    CBoundedLines lines(options.input, options.longestLine);
     CBatchRun run(lines, rules, *sink, records ? &*records : nullptr,
                   options.jobs > 0 ? options.jobs : processorCount());
     return run.run().errors > 0 ? kExitErrors : EXIT_SUCCESS;

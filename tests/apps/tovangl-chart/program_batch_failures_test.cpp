@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: MIT
 // Batches that go wrong, and inputs that mean harm.
-#include "apps/support/shell.h"
+#include "apps/support/batch_lines.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
-#include <set>
 #include <string>
 
 namespace tovangl::program {
 namespace {
 
+using ::testing::EndsWith;
 using ::testing::Eq;
 using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using ::testing::Not;
-
-using Names = std::set<std::string>;
 
 constexpr const char* kLine =
     R"({"chart": "pie", "id": "a", "width": 400, "height": 300, "items": [{"value": 7}]})";
@@ -57,10 +56,16 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenBatch{"OutputIsAFile", "tovangl-chart batch line -o file", "file: "},
         BrokenBatch{"PictureIsAFolder", "mkdir -p p/a.png; tovangl-chart batch line -o p",
                     "p/a.png: Is a directory"},
-        BrokenBatch{"NoFolderOfTheTar", "tovangl-chart batch line --tar p/x.tar", "p/x.tar: No su"},
         BrokenBatch{"NoFolderOfTheErrors", "tovangl-chart batch line -o p --errors q/e",
                     "q/e: No "},
-        BrokenBatch{"FullDisk", "tovangl-chart batch line --tar /dev/full", "/dev/full: No space"},
+        BrokenBatch{"RecordsOverCharts", "tovangl-chart batch line -o p --errors ./line",
+                    "the records of --errors would replace the charts"},
+        BrokenBatch{"RecordsAmongFrames", "tovangl-chart batch line --frames --errors -",
+                    "the pictures and the records of --errors cannot go to one place"},
+        BrokenBatch{"ClosedInput", "timeout 20 tovangl-chart batch -o p <&-",
+                    "standard input: Bad file descriptor"},
+        BrokenBatch{"NoTemporaryFolder", "TMPDIR=/no tovangl-chart batch line -o p",
+                    "folder for temporary files: "},
         BrokenBatch{"FullOutput", "tovangl-chart batch line --frames >/dev/full",
                     "standard output: No space left"},
         BrokenBatch{"FullErrors", "echo x | tovangl-chart batch -o p --errors /dev/full",
@@ -81,6 +86,34 @@ TEST(BrokenBatches, AClosedPipeIsOneError)
                 "{ tovangl-chart batch --frames; echo $? >status; } | head -c 10 >/dev/null");
     EXPECT_EQ(folder.read("status"), "2\n");
     EXPECT_EQ(result.errors, "tovangl-chart: standard output: Broken pipe\n");
+}
+
+// A file system of its own, which only this command sees.
+TEST(BrokenBatches, AFullDiskIsOneErrorAndLeavesWholeFiles)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", manyLines(300));
+    folder.write("run", "mount -t tmpfs -o size=200k none p || exit 77\n"
+                        "tovangl-chart batch lines -o p; echo $? >status\n"
+                        "for file in p/*; do tail -c 8 $file | grep -q IEND || exit 1; done\n"
+                        "ls -A p | wc -l >count\n");
+    const ShellResult result =
+        runShell(folder, "mkdir p; unshare --map-root-user --mount sh run 2>errors || "
+                         "unshare --mount sh run 2>errors");
+    if (folder.names().count("status") == 0)
+        GTEST_SKIP() << "no file system can be mounted here";
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(folder.read("status"), "2\n");
+    EXPECT_THAT(folder.read("errors"), EndsWith(".png: No space left on device\n"));
+    EXPECT_GT(std::stoi(folder.read("count")), 10);
+}
+
+TEST(BrokenBatches, RecordsGoToStandardOutputIfWanted)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runLines(folder, "oops\n", "-o p --errors -");
+    EXPECT_EQ(result.output, "{\"line\":1,\"id\":null,\"reason\":\"not JSON: wrong at byte 1\"}\n");
+    EXPECT_THAT(result.errors, IsEmpty());
 }
 
 TEST(BrokenBatches, TheLongestLineIsAnOption)

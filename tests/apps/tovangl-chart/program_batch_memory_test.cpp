@@ -24,16 +24,23 @@ TEST(LongBatches, HoldNoLineThatIsTooLong)
     EXPECT_FALSE(folder.read("p/a.png").empty());
 }
 
-/// The resident memory of a batch after its first and after its last lines, in KiB.
+/// The resident memory of a batch of mixed charts after its first and after its last lines, in KiB.
 constexpr const char* kMeasureMemory = R"(
 mkfifo in
-tovangl-chart batch --tar /dev/null --jobs 2 <in &
+tovangl-chart batch --tar /dev/null --jobs 2 <in 2>/dev/null &
 exec 3>in
-lines() { seq "$1" "$2" | sed 's/.*/{"chart":"bars","id":"c&","width":60,"height":40,"items":[{"value":&}]}/'; }
+lines() {
+    seq "$1" "$2" | sed '
+        s/.*/"id":"c&","width":60,"height":40,"items":[{"value":&,"caption":"of &"},{"value":7}]}/
+        1~3s/^/{"chart":"pie","title":"1",/
+        2~3s/^/{"chart":"bars","value_axis":"line,labels",/
+        3~3s/^/{"chart":"hbars","theme":"dark",/
+        5~99s/}$/oops/'
+}
 resident() { sleep 1; sed -n 's/^VmRSS:[^0-9]*\([0-9]*\).*/\1/p' /proc/$!/status; }
-lines 1 1000 >&3
+lines 1 10000 >&3
 resident
-lines 1001 20000 >&3
+lines 10001 60000 >&3
 resident
 )";
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Many charts from lines of JSON, as a shell draws them.
-#include "apps/support/shell.h"
+#include "apps/support/batch_lines.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -22,40 +22,6 @@ using ::testing::SizeIs;
 using ::testing::StartsWith;
 
 using Json = nlohmann::json;
-using Names = std::set<std::string>;
-
-/// A small chart with this id.
-std::string chartLine(const std::string& id, const std::string& fields = "")
-{
-    return R"({"chart": "bars", "id": ")" + id +
-           R"(", "width": 120, "height": 90, "items": [{"value": 7, "caption": "x"}])" + fields +
-           "}\n";
-}
-
-std::string manyLines(int count)
-{
-    std::string lines;
-    for (int i = 0; i < count; ++i)
-        lines += chartLine("c" + std::to_string(i), ", \"title\": \"" + std::to_string(i) + '"');
-    return lines;
-}
-
-/// What a batch makes of some lines.
-ShellResult runLines(const CTemporaryFolder& folder, const std::string& lines,
-                     const std::string& options = "-o p")
-{
-    folder.write("lines", lines);
-    return runShell(folder, "tovangl-chart batch lines " + options);
-}
-
-Names namesIn(const CTemporaryFolder& folder, const std::string& name)
-{
-    Names names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.pathOf(name)))
-        names.insert(entry.path().filename());
-    return names;
-}
-
 /// All records of a text, one for each line.
 std::vector<Json> records(const std::string& text)
 {
@@ -124,7 +90,7 @@ TEST(Batch, TheSecondOfTwoEqualIdsIsAnError)
 {
     const CTemporaryFolder folder;
     const std::string lines = chartLine("a") + chartLine("a", R"(, "theme": "dark")");
-    for (const char* options : {"-o p", "-o p --resume", "--tar p.tar"}) {
+    for (const char* options : {"-o p", "-o p --resume"}) {
         const ShellResult result = runLines(folder, lines, options);
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(records(result.errors).at(0)["line"], 2);
@@ -149,25 +115,13 @@ TEST(Batch, IsTheSameWithAnyNumberOfThreads)
         const std::string number = jobs;
         const std::string errors = " --errors e" + number;
         runLines(folder, lines, "--maps -o p" + number + " --jobs " + number + errors);
-        runLines(folder, lines, "--tar t" + number + " --jobs " + number);
         runLines(folder, lines, "--frames --jobs " + number + " >f" + number);
     }
-    EXPECT_EQ(runShell(folder, "for n in 2 7; do diff -r p1 p$n && cmp t1 t$n && cmp f1 f$n && "
-                               "cmp e1 e$n || exit 1; done")
+    EXPECT_EQ(runShell(folder, "for n in 2 7; do diff -r p1 p$n && cmp f1 f$n && cmp e1 e$n || "
+                               "exit 1; done")
                   .status,
               0);
     EXPECT_THAT(namesIn(folder, "p1"), SizeIs(2 * 61));
-}
-
-TEST(Batch, ATarArchiveHasTheFilesOfTheFolder)
-{
-    const CTemporaryFolder folder;
-    const std::string lines = manyLines(5) + chartLine(std::string(200, 'x'));
-    runLines(folder, lines, "--maps -o p");
-    runLines(folder, lines, "--maps --tar p.tar");
-    EXPECT_EQ(runShell(folder, "mkdir t && tar -C t -xf p.tar && diff -r p t").status, 0);
-    runLines(folder, lines, "--maps --tar - >s.tar");
-    EXPECT_EQ(folder.read("s.tar"), folder.read("p.tar"));
 }
 
 TEST(Batch, FramesTellTheirLengthAndTheirRegions)
@@ -235,26 +189,15 @@ TEST(Batch, AKilledRunIsResumedToTheSameFiles)
     const ShellResult result = runShell(
         folder,
         "tovangl-chart batch lines --maps -o whole\n"
-        "for delay in 0.02 0.05 0.09 0.14 0.2; do\n"
+        "for milliseconds in $(shuf -i 20-250 -n 6); do\n"
+        "    echo killed after $milliseconds ms\n"
+        "    delay=$(printf 0.%03d $milliseconds)\n"
         "    timeout -s KILL $delay tovangl-chart batch lines --maps -o p --resume --jobs 3\n"
         "    for file in p/c*; do [ ! -e \"$file\" ] || cmp $file whole/${file#p/} || exit 1; "
         "done\n"
         "done\n"
         "tovangl-chart batch lines --maps -o p --resume && diff -r whole p");
     EXPECT_EQ(result.status, 0) << result.output << result.errors;
-}
-
-// The lines fill the pipe several times, so that many are drawn when the last one is written.
-TEST(Batch, KilledWhileItWritesAnArchiveItLeavesNothing)
-{
-    const CTemporaryFolder folder;
-    folder.write("lines", manyLines(2000));
-    runShell(folder, "mkfifo in; exec 3<>in\n"
-                     "for signal in KILL TERM; do\n"
-                     "    tovangl-chart batch --tar p.tar <in &\n"
-                     "    cat lines >&3; kill -$signal $!; wait $!\n"
-                     "done");
-    EXPECT_THAT(folder.names(), Eq(Names{"in", "lines"}));
 }
 
 // Its answer shows that it runs, and has nothing left to do but to wait.

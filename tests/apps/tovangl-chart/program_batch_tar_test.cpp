@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+// Many charts in one archive.
+#include "apps/support/batch_lines.h"
+
+#include <gmock/gmock.h>
+
+namespace tovangl::program {
+namespace {
+
+using ::testing::Eq;
+using ::testing::HasSubstr;
+
+TEST(TarBatch, HasTheFilesOfTheFolder)
+{
+    const CTemporaryFolder folder;
+    const std::string lines = manyLines(5) + chartLine(std::string(200, 'x'));
+    runLines(folder, lines, "--maps -o p");
+    runLines(folder, lines, "--maps --tar p.tar");
+    EXPECT_EQ(runShell(folder, "mkdir t && tar -C t -xf p.tar && diff -r p t").status, 0);
+    runLines(folder, lines, "--maps --tar - >s.tar");
+    EXPECT_EQ(folder.read("s.tar"), folder.read("p.tar"));
+}
+
+TEST(TarBatch, IsTheSameWithAnyNumberOfThreads)
+{
+    const CTemporaryFolder folder;
+    const std::string lines = manyLines(60) + "oops\n" + chartLine("last");
+    for (const char* jobs : {"1", "2", "7"})
+        runLines(folder, lines, "--maps --tar t" + std::string(jobs) + " --jobs " + jobs);
+    EXPECT_EQ(runShell(folder, "cmp t1 t2 && cmp t1 t7").status, 0);
+}
+
+TEST(TarBatch, HasTheFirstOfTwoEqualIds)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result =
+        runLines(folder, chartLine("a") + chartLine("a", R"(, "theme": "dark")"), "--tar p.tar");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("{\"line\":2,\"id\":\"a\",\"reason\":\"/id: an earlier"));
+    runLines(folder, chartLine("a"), "--tar once.tar");
+    EXPECT_EQ(folder.read("p.tar"), folder.read("once.tar"));
+}
+
+// The lines fill the pipe several times, so that many are drawn when the last one is written.
+TEST(TarBatch, KilledWhileItWritesLeavesNothing)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", manyLines(2000));
+    runShell(folder, "mkfifo in; exec 3<>in\n"
+                     "for signal in KILL TERM; do\n"
+                     "    tovangl-chart batch --tar p.tar <in &\n"
+                     "    cat lines >&3; kill -$signal $!; wait $!\n"
+                     "done");
+    EXPECT_THAT(folder.names(), Eq(Names{"in", "lines"}));
+}
+
+TEST(TarBatch, LeavesNothingWhereTheFileMayNotGrow)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", manyLines(600));
+    const ShellResult result =
+        runShell(folder, "ulimit -f 300; tovangl-chart batch lines --tar p.tar");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "tovangl-chart: p.tar: File too large\n");
+    EXPECT_THAT(folder.names(), Eq(Names{"lines"}));
+}
+
+TEST(TarBatch, SaysThatADeviceIsFull)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runLines(folder, chartLine("a"), "--tar /dev/full");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "tovangl-chart: /dev/full: No space left on device\n");
+}
+
+TEST(TarBatch, SaysThatAPipeIsClosed)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", manyLines(2000));
+    const ShellResult result =
+        runShell(folder, "{ tovangl-chart batch lines --tar -; echo $? >status; } | head -c 10 >x");
+    EXPECT_EQ(folder.read("status"), "2\n");
+    EXPECT_EQ(result.errors, "tovangl-chart: standard output: Broken pipe\n");
+}
+
+TEST(TarBatch, SaysThatItsFolderIsNotThere)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runLines(folder, chartLine("a"), "--tar p/x.tar");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "tovangl-chart: p/x.tar: No such file or directory\n");
+}
+
+TEST(TarBatch, NeedsAPlaceOfItsOwn)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runLines(folder, chartLine("a"), "--tar - --errors -");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("cannot go to one place"));
+}
+
+} // namespace
+} // namespace tovangl::program
