@@ -308,6 +308,16 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_describe(tovangl_chart* chart, const
 TOVANGL_EXPORT tovangl_status tovangl_chart_title_rectangle(tovangl_chart* chart,
                                                             tovangl_rectangle* rectangle);
 
+/// How many items the last rendering gathered in the one that the setting "others" names.
+///
+/// @return 0 where it drew no such item, and for a null chart
+TOVANGL_EXPORT size_t tovangl_chart_others_count(const tovangl_chart* chart);
+
+/// The value of the item that gathers them.
+///
+/// @return 0 where the last rendering drew no such item, and for a null chart
+TOVANGL_EXPORT int64_t tovangl_chart_others_value(const tovangl_chart* chart);
+
 /// Where the captions were drawn: one rectangle for each item, in the order of adding, and with the
 /// setting "others" one more for the item that it draws. All zero for a hidden caption.
 ///

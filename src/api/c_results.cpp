@@ -165,6 +165,16 @@ tovangl_status tovangl_chart_title_rectangle(tovangl_chart* chart, tovangl_recta
     });
 }
 
+size_t tovangl_chart_others_count(const tovangl_chart* chart)
+{
+    return chart ? chart->graph.gathered().count() : 0;
+}
+
+int64_t tovangl_chart_others_value(const tovangl_chart* chart)
+{
+    return chart ? chart->graph.gathered().value() : 0;
+}
+
 tovangl_status tovangl_chart_caption_rectangles(tovangl_chart* chart,
                                                 const tovangl_rectangle** rectangles, size_t* count)
 {

@@ -47,6 +47,8 @@ static void a_null_chart_is_harmless_to_every_call(void)
     CHECK(tovangl_chart_slice_polygon(NULL, &slice, &points, &size) == TOVANGL_NULL_ARGUMENT);
     CHECK(tovangl_chart_problem(NULL) == TOVANGL_PROBLEM_NONE);
     CHECK_TEXT(tovangl_chart_problem_text(NULL), "");
+    CHECK(tovangl_chart_others_count(NULL) == 0);
+    CHECK(tovangl_chart_others_value(NULL) == 0);
     CHECK_TEXT(tovangl_chart_error(NULL), "");
 }
 

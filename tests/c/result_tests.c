@@ -191,6 +191,25 @@ static void the_others_have_the_last_record(void)
     tovangl_chart_destroy(chart);
 }
 
+static void the_others_tell_their_number_and_their_value(void)
+{
+    int i;
+    for (i = 0; i < KIND_COUNT; ++i) {
+        tovangl_chart* chart = make_filled_chart(kinds[i]);
+        CHECK(tovangl_chart_set(chart, "threshold", "25") == TOVANGL_OK);
+        CHECK(tovangl_chart_set(chart, "others", "the rest") == TOVANGL_OK);
+        CHECK(tovangl_chart_others_count(chart) == 0);
+        render(chart);
+        CHECK(tovangl_chart_others_count(chart) == 2);
+        CHECK(tovangl_chart_others_value(chart) == 30);
+        CHECK(tovangl_chart_set(chart, "threshold", "0") == TOVANGL_OK);
+        render(chart);
+        CHECK(tovangl_chart_others_count(chart) == 0);
+        CHECK(tovangl_chart_others_value(chart) == 0);
+        tovangl_chart_destroy(chart);
+    }
+}
+
 static void arrays_of_one_kind_survive_a_call_for_another(void)
 {
     tovangl_chart* chart = make_filled_chart(TOVANGL_PIE);
@@ -228,6 +247,7 @@ const struct c_test result_tests[] = {
      a_chart_without_a_title_has_no_rectangle_for_it},
     {"a title has a rectangle at the top", a_title_has_a_rectangle_at_the_top},
     {"the others have the last record", the_others_have_the_last_record},
+    {"the others tell their number and their value", the_others_tell_their_number_and_their_value},
     {"arrays of one kind survive a call for another",
      arrays_of_one_kind_survive_a_call_for_another},
     END_OF_TESTS};
