@@ -31,7 +31,7 @@ tovangl-chart batch --tar /dev/null --jobs 2 <in 2>/dev/null &
 exec 3>in
 lines() {
     seq "$1" "$2" | sed '
-        s/.*/"id":"c&","width":60,"height":40,"items":[{"value":&,"caption":"of &"},{"value":7}]}/
+        s/.*/"id":"c&","width":120,"height":90,"items":[{"value":&,"caption":"of &"},{"value":7}]}/
         1~3s/^/{"chart":"pie","title":"1",/
         2~3s/^/{"chart":"bars","value_axis":"line,labels",/
         3~3s/^/{"chart":"hbars","theme":"dark",/
