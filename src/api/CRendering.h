@@ -27,8 +27,8 @@ public:
     [[nodiscard]] Problem obstacle() const { return m_obstacle; }
 
 private:
+    const CFontUse m_fontUse; // around all else: what is inside is in no thread's hands in a fork
     const CMessageSilencer m_silencer;
-    const CFontUse m_fontUse;
     Problem m_obstacle;
 };
 

@@ -38,8 +38,8 @@ std::vector<std::string> addFont(const unsigned char* bytes, std::size_t size)
     if (families.empty())
         return {};
     std::vector<std::string> names = toStrings(families);
-    const CMessageSilencer silencer;
     const CFontChange change;
+    const CMessageSilencer silencer;
     const bool canPaint = findObstacle() == Problem::None;
     if (!canPaint || !CAddedFonts::ofProcess().add(file, families))
         names.clear();

@@ -3,6 +3,7 @@
 #include "api/font_gate.h"
 
 #include <mutex>
+#include <optional>
 #include <shared_mutex>
 
 namespace tovangl {
@@ -11,30 +12,49 @@ namespace {
 
 // Whoever wants to change the fonts holds the entrance until the room is empty.
 std::mutex entrance;
-std::shared_mutex room;
+std::optional<std::shared_mutex> room(std::in_place);
 
 } // namespace
 
 CFontUse::CFontUse()
 {
     const std::lock_guard<std::mutex> lock(entrance);
-    room.lock_shared();
+    room->lock_shared();
 }
 
 CFontUse::~CFontUse()
 {
-    room.unlock_shared();
+    room->unlock_shared();
 }
 
 CFontChange::CFontChange()
 {
     const std::lock_guard<std::mutex> lock(entrance);
-    room.lock();
+    room->lock();
 }
 
 CFontChange::~CFontChange()
 {
-    room.unlock();
+    room->unlock();
+}
+
+void closeFontGate()
+{
+    entrance.lock();
+    room->lock();
+}
+
+void openFontGate()
+{
+    room->unlock();
+    entrance.unlock();
+}
+
+// The room knows who locked it, and takes the child's thread for another one.
+void renewFontGate()
+{
+    room.emplace();
+    entrance.unlock();
 }
 
 } // namespace tovangl

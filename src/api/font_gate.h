@@ -28,6 +28,16 @@ public:
     Q_DISABLE_COPY(CFontChange)
 };
 
+/// Waits until no other thread draws or changes the fonts, and keeps them from beginning. One of
+/// the next two functions ends that. The calling thread must not draw itself.
+void closeFontGate();
+
+/// Lets threads draw again, in the thread that called closeFontGate().
+void openFontGate();
+
+/// The same in the child that this thread has forked since.
+void renewFontGate();
+
 } // namespace tovangl
 
 #endif

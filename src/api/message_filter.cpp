@@ -115,4 +115,9 @@ void endSilence()
         handlerExchange.takeFilterAway();
 }
 
+bool isSilenced()
+{
+    return silencedScopes > 0;
+}
+
 } // namespace tovangl

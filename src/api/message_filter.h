@@ -35,6 +35,9 @@ void beginSilence();
 /// Ends the last beginSilence() of the calling thread.
 void endSilence();
 
+/// Whether the calling thread is between the two.
+[[nodiscard]] bool isSilenced();
+
 } // namespace tovangl
 
 #endif

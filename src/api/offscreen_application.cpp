@@ -3,6 +3,8 @@
 #include "api/offscreen_application.h"
 
 #include "api/CMessageSilencer.h"
+#include "api/font_gate.h"
+#include "api/message_filter.h"
 #include "api/qt_threads.h"
 
 #include <QCoreApplication>
@@ -128,19 +130,35 @@ bool ensureApplication()
 
 namespace {
 
-// A forked child inherits the pool of painting threads, but not the threads, and would wait for
-// them for ever. If the pool is empty, the child starts its own.
-bool endPaintThreadsBeforeForks()
+// A forked child has only the thread that forked: locks that others held stay locked in it, and a
+// pool of painting threads waits for them for ever. So pictures that other threads draw are
+// finished before a fork, and the pool is emptied. A thread that forks while it draws itself, as a
+// handler of signals may, cannot wait for its own picture.
+void prepareFork()
 {
-    if constexpr (qt::kPaintsInThreads)
-        return pthread_atfork(&qt::endPaintThreads, nullptr, nullptr) == 0;
-    return true;
+    if (isSilenced())
+        return;
+    closeFontGate();
+    qt::endPaintThreads();
+}
+
+void goOnAfterFork()
+{
+    if (!isSilenced())
+        openFontGate();
+}
+
+void beginChild()
+{
+    if (!isSilenced())
+        renewFontGate();
 }
 
 // Makes the object when the library is loaded, so that it does not belong to whichever thread
 // happens to draw first.
 [[maybe_unused]] const bool madeAtLoad = ensureApplication();
-[[maybe_unused]] const bool preparedForForks = endPaintThreadsBeforeForks();
+[[maybe_unused]] const bool preparedForForks =
+    pthread_atfork(&prepareFork, &goOnAfterFork, &beginChild) == 0;
 
 } // namespace
 

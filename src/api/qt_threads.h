@@ -21,17 +21,14 @@ inline const char* runningVersion()
 }
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-inline constexpr bool kPaintsInThreads = false;
 inline void endPaintThreads() {}
 #else
-inline constexpr bool kPaintsInThreads = true;
-
 /// Ends the idle threads of the pool that does antialiased fills; the next fill starts new ones. It
-/// waits long enough for a thread that is just finishing a fill, but not for one that works for the
-/// host.
+/// waits long enough for a thread that is just finishing a fill, even where every processor has
+/// other things to do, but no longer for one that works for the host.
 inline void endPaintThreads()
 {
-    constexpr int kTimeToBecomeIdle = 100; // milliseconds
+    constexpr int kTimeToBecomeIdle = 1000; // milliseconds
     if (QThreadPool* pool = QThreadPool::globalInstance())
         pool->waitForDone(kTimeToBecomeIdle);
 }
