@@ -1,5 +1,5 @@
 # What `cmake --install` installs. All paths are relative, so that the installed tree can be moved.
-# Components: runtime, development, tools.
+# Components: runtime, development, tools; bindings/python adds python.
 include(CMakePackageConfigHelpers)
 
 set(tovangl_config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tovangl)

@@ -1,0 +1,221 @@
+# SPDX-License-Identifier: MIT
+"""A chart as plain data, and its rendering."""
+
+from __future__ import annotations
+
+import re
+from types import MappingProxyType
+from typing import TYPE_CHECKING, Any, Dict, Mapping, NamedTuple, Optional, Tuple, Union
+
+from tovangl._items import Items
+from tovangl._library import KINDS
+from tovangl._picture import Picture, check, new_chart
+from tovangl._settings import Value, checked_settings, setting_text
+from tovangl._tovangl import ffi, lib
+
+if TYPE_CHECKING:
+    from tovangl._items import ItemsLike
+
+DEFAULT_WIDTH = 800  # pixels
+DEFAULT_HEIGHT = 600
+GREATEST_SIDE = 1_000_000  # pixels; of the factor for print as well
+
+# An id becomes a file's name: no separators, nothing hidden, nothing that looks like an option.
+_ID = re.compile(r"[A-Za-z0-9_][A-Za-z0-9_.-]{0,199}")
+
+_DATA = ffi.typeof("unsigned char **")
+_SIZE = ffi.typeof("size_t *")
+
+
+class _Fields(NamedTuple):
+    kind: str
+    items: Items
+    id: Optional[str]
+    width: int
+    height: int
+    print: Optional[int]
+    settings: Dict[str, Value]
+
+
+class Chart:
+    """A chart as data: its kind, items, size and settings.
+
+    Charts cannot be changed. They can be compared, pickled, and written as JSON. tovangl.pie(),
+    tovangl.bars() and tovangl.hbars() make them.
+    """
+
+    __slots__ = ("_fields",)
+
+    def __init__(
+        self,
+        kind: str,
+        items: ItemsLike,
+        *,
+        id: Optional[str] = None,
+        width: int = DEFAULT_WIDTH,
+        height: int = DEFAULT_HEIGHT,
+        print: Optional[int] = None,
+        **settings: Any,
+    ) -> None:
+        """The same as the function of that kind.
+
+        :param settings: by their names; None leaves one at its default
+        """
+        if kind not in KINDS:
+            raise ValueError(f"{kind!r} is not pie, bars or hbars")
+        _check_sizes(width, height, print)
+        if id is not None:
+            _check_id(id)
+        columns = Items.of(items)
+        if kind == "pie" and columns.has_outlines:
+            raise ValueError("slices have no outlines of their own; set outline_color")
+        given = checked_settings(kind, settings) if settings else settings
+        self._fields = _Fields(kind, columns, id, width, height, print, given)
+
+    @property
+    def kind(self) -> str:
+        """``pie``, ``bars`` or ``hbars``."""
+        return self._fields.kind
+
+    @property
+    def items(self) -> Items:
+        """The bars or slices."""
+        return self._fields.items
+
+    @property
+    def id(self) -> Optional[str]:
+        """A name for the picture's file."""
+        return self._fields.id
+
+    @property
+    def width(self) -> int:
+        """The picture's width in pixels, before ``scale`` or ``print`` are applied."""
+        return self._fields.width
+
+    @property
+    def height(self) -> int:
+        """The same for its height."""
+        return self._fields.height
+
+    @property
+    def print(self) -> Optional[int]:
+        """For print: so many times as many pixels each way, and slices in paler colours."""
+        return self._fields.print
+
+    @property
+    def settings(self) -> Mapping[str, Value]:
+        """The settings that were given, in the order in which they are applied."""
+        return MappingProxyType(self._fields.settings)
+
+    def render(self) -> Picture:
+        """Draws the chart.
+
+        Other threads of Python run meanwhile. Raises SettingError where a setting does not accept
+        its value, PictureError where the picture cannot be made, and MemoryError.
+        """
+        kind, items, _, width, height, factor, settings = self._fields
+        chart = new_chart(KINDS[kind])
+        for name, value in settings.items():
+            apply_setting(chart, name, value)
+        items.add_to(chart)
+        return Picture(_draw(chart, width, height, factor), width, height, chart)
+
+    def to_json(self) -> str:
+        """The chart as one line of JSON.
+
+        >>> Chart("pie", {"Rent": 1200}, title="May").to_json()
+        '{"chart": "pie", "items": [{"value": 1200, "caption": "Rent"}], "title": "May"}'
+        """
+        from tovangl._description import write_description
+
+        return write_description(self)
+
+    @classmethod
+    def from_json(cls, line: Union[str, bytes]) -> Chart:
+        """The chart that is written in JSON.
+
+        Raises DescriptionError, whose message begins with the place: ``/items/3/value``.
+        """
+        from tovangl._description import read_description
+
+        return cls(**read_description(line))
+
+    def replace(self, **changes: Any) -> Chart:
+        """The same chart with other settings, items, or size; a setting of None is the default."""
+        return Chart(**{**self._arguments(), **changes})
+
+    def __eq__(self, other: object) -> bool:
+        if not isinstance(other, Chart):
+            return NotImplemented
+        return self._fields == other._fields
+
+    __hash__ = None  # type: ignore[assignment]
+
+    def __repr__(self) -> str:
+        arguments = self._arguments()
+        given = ", ".join(
+            f"{name}={value!r}" for name, value in arguments.items() if name != "kind"
+        )
+        return f"Chart({self.kind!r}, {given})"
+
+    def __reduce__(self) -> Tuple[Any, ...]:
+        return _make_chart, (self._arguments(),)
+
+    def _arguments(self) -> Dict[str, Any]:
+        """What the constructor makes the same chart of."""
+        fields = self._fields._asdict()
+        settings = fields.pop("settings")
+        return {**fields, **settings}
+
+    def _repr_mimebundle_(
+        self, include: Any = None, exclude: Any = None
+    ) -> Tuple[Dict[str, Any], Dict[str, Any]]:
+        """What a notebook shows: the picture."""
+        return self.render()._repr_mimebundle_(include, exclude)
+
+
+def _make_chart(arguments: Dict[str, Any]) -> Chart:
+    return Chart(**arguments)
+
+
+def apply_setting(chart: Any, name: str, value: Value) -> None:
+    """Sets a checked value in a chart of the library."""
+    text = setting_text(value)
+    status = lib.tovangl_chart_set_sized(chart, name.encode(), text, len(text))
+    try:
+        check(chart, status)
+    except ValueError as error:
+        raise type(error)(f"{name}: {error}") from None
+
+
+def _draw(chart: Any, width: int, height: int, factor: Optional[int]) -> bytes:
+    data = ffi.new(_DATA)
+    size = ffi.new(_SIZE)
+    if factor is None:
+        status = lib.tovangl_chart_render(chart, width, height, data, size)
+    else:
+        status = lib.tovangl_chart_render_for_print(chart, width, height, factor, data, size)
+    check(chart, status)
+    png = bytes(ffi.buffer(data[0], size[0]))
+    lib.tovangl_chart_free_picture(chart)
+    return png
+
+
+def _check_id(name: str) -> None:
+    if not isinstance(name, str):
+        raise TypeError(f"id: {name!r} is not a text")
+    if not _ID.fullmatch(name):
+        raise ValueError(
+            f"id: {name!r} is not 1 to 200 ASCII letters, digits, _, "
+            "and after the first one . and -"
+        )
+
+
+def _check_sizes(width: int, height: int, factor: Optional[int]) -> None:
+    for name, number in (("width", width), ("height", height), ("print", factor)):
+        if number is None and name == "print":
+            continue
+        if not isinstance(number, int) or isinstance(number, bool):
+            raise TypeError(f"{name}: {number!r} is not a whole number")
+        if not 1 <= number <= GREATEST_SIDE:
+            raise ValueError(f"{name}: {number} is not from 1 to {GREATEST_SIDE}")

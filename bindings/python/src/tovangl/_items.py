@@ -1,0 +1,273 @@
+# SPDX-License-Identifier: MIT
+"""The items of a chart, kept in columns, and what a caller may write them as."""
+
+from __future__ import annotations
+
+import re
+from array import array
+from collections.abc import Iterable, Iterator, Mapping, Sequence
+from itertools import accumulate
+from typing import TYPE_CHECKING, Any, List, NamedTuple, NoReturn, Optional, Tuple, Union, overload
+
+from tovangl._library import fail, text_of
+from tovangl._tovangl import ffi, lib
+
+if TYPE_CHECKING:
+    from typing import Protocol, SupportsIndex
+
+    class SeriesLike(Protocol):
+        """A column with a caption for each value, such as a Series of pandas."""
+
+        @property
+        def index(self) -> Any:
+            ...
+
+        def to_numpy(self) -> Any:
+            ...
+
+    Pair = Union[
+        Tuple[str, SupportsIndex],
+        Tuple[str, SupportsIndex, Optional[str]],
+        Tuple[str, SupportsIndex, Optional[str], Optional[str]],
+    ]
+    ItemsLike = Union["Items", Mapping[str, SupportsIndex], Iterable[Pair], SeriesLike]
+
+_VALUES = ffi.typeof("int64_t[]")
+_VALUE_TYPE = "q"  # 64 bits with a sign
+_VALUE_FORMATS = ("q", "l")
+_VALUE_SIZE = 8  # bytes
+_WHOLE_FORMATS = "bBhHiIlLqQ"
+_BYTE_ORDERS = "@=<>!"
+_COLOR = re.compile(r"#[0-9a-fA-F]{6}")
+
+
+class Item(NamedTuple):
+    """One bar or slice."""
+
+    caption: str
+    value: int
+    color: Optional[str] = None
+    """Such as ``#4070c0``; None for the palette's next colour."""
+    outline: Optional[str] = None
+    """The same for a bar's outline, beside a color; None for one that is darker than the bar."""
+
+
+class Items(Sequence[Item]):
+    """Items in columns.
+
+    A column of values with the buffer protocol and whole numbers of 64 bits, such as an array of
+    numpy, is used where it is, without a copy: a later change of it changes the chart. Everything
+    else is copied.
+
+    >>> from array import array
+    >>> Items(array("q", [3, 1]), ["three", "one"])[1]
+    Item(caption='one', value=1, color=None, outline=None)
+
+    :param values: whole numbers from -2**63 to 2**63 - 1
+    :param captions: one for each value
+    :param colors: one for each value, such as ``#4070c0`` or None; or None: no colours
+    :param outlines: the same for the outlines of bars
+    """
+
+    __slots__ = ("_values", "_captions", "_colors", "_outlines")
+
+    def __init__(
+        self,
+        values: Any,
+        captions: Iterable[str],
+        colors: Optional[Iterable[Optional[str]]] = None,
+        outlines: Optional[Iterable[Optional[str]]] = None,
+    ) -> None:
+        self._values = _value_column(values)
+        self._captions = _caption_column(captions)
+        self._colors = None if colors is None else _color_column(colors, "color")
+        self._outlines = None if outlines is None else _color_column(outlines, "outline")
+        for column in (self._captions, self._colors, self._outlines):
+            if column is not None and len(column) != len(self._values):
+                raise ValueError(f"{len(self._values)} values, but a column of {len(column)}")
+        if self._outlines is not None:
+            _require_colors(self._colors, self._outlines)
+
+    @classmethod
+    def of(cls, items: ItemsLike) -> Items:
+        """Items from anything that a chart takes them as."""
+        # The most common forms come first: to ask for an abstract type takes longer.
+        if isinstance(items, Items):
+            return items
+        if isinstance(items, list):
+            return cls._of_rows(items)
+        if isinstance(items, Mapping):
+            return cls(list(items.values()), items)
+        if hasattr(items, "to_numpy") and hasattr(items, "index"):
+            return cls(items, map(str, items.index))
+        if isinstance(items, (str, bytes)) or not isinstance(items, Iterable):
+            raise TypeError(
+                f"items are pairs, a dict, a Series or Items, not {type(items).__name__}"
+            )
+        return cls._of_rows(list(items))
+
+    @classmethod
+    def _of_rows(cls, rows: List[Any]) -> Items:
+        try:
+            columns = tuple(zip(*rows, strict=True))
+        except ValueError:
+            columns = tuple(zip(*map(_full_row, rows)))
+        if rows and not 2 <= len(columns) <= 4:
+            raise TypeError(f"{rows[0]!r} is not (caption, value[, color[, outline]])")
+        captions, values, *colors = columns or ((), ())
+        return cls(values, captions, *colors)
+
+    @property
+    def has_outlines(self) -> bool:
+        """Whether an item has an outline of its own."""
+        return self._outlines is not None
+
+    def __len__(self) -> int:
+        return len(self._captions)
+
+    @overload
+    def __getitem__(self, place: int) -> Item:
+        ...
+
+    @overload
+    def __getitem__(self, place: slice) -> Items:
+        ...
+
+    def __getitem__(self, place: Union[int, slice]) -> Union[Item, Items]:
+        columns = (self._values, self._captions, self._colors, self._outlines)
+        parts: List[Any] = [None if column is None else column[place] for column in columns]
+        if isinstance(place, slice):
+            return Items(*parts)
+        value, caption, color, outline = parts
+        return Item(caption, int(value), color, outline)
+
+    def __iter__(self) -> Iterator[Item]:
+        return map(self.__getitem__, range(len(self)))
+
+    def __eq__(self, other: object) -> bool:
+        if not isinstance(other, Items):
+            return NotImplemented
+        return self._plain() == other._plain()
+
+    __hash__ = None  # type: ignore[assignment]
+
+    def __repr__(self) -> str:
+        return f"Items.of({[tuple(item) for item in self]!r})"
+
+    def __reduce__(self) -> Tuple[Any, ...]:
+        return Items, self._plain()
+
+    def _plain(self) -> Tuple[Any, ...]:
+        values = array(_VALUE_TYPE, bytes(self._values))
+        return values, self._captions, self._colors, self._outlines
+
+    def add_to(self, chart: Any) -> None:
+        """Adds the items to a chart of the library."""
+        text, lengths = _joined(self._captions)
+        status = lib.tovangl_chart_add_columns(
+            chart,
+            len(lengths),
+            ffi.from_buffer(_VALUES, self._values),
+            text,
+            len(text),
+            [0, *accumulate(lengths)],
+            _color_numbers(self._colors),
+            _color_numbers(self._outlines),
+        )
+        if status != lib.TOVANGL_OK:
+            fail(status, text_of(lib.tovangl_chart_error(chart)))
+
+
+def _value_column(values: Any) -> Any:
+    if isinstance(values, (tuple, list)):
+        return _packed_values(values)
+    if hasattr(values, "to_numpy"):
+        values = values.to_numpy()
+    try:
+        view = memoryview(values)
+    except (TypeError, ValueError):
+        return _packed_values(list(values))
+    if view.ndim != 1 or view.format.lstrip(_BYTE_ORDERS) not in (*_WHOLE_FORMATS, "O"):
+        raise TypeError(f"values are one column of whole numbers, not {values!r}")
+    if view.format in _VALUE_FORMATS and view.itemsize == _VALUE_SIZE and view.c_contiguous:
+        return view
+    return _packed_values(list(values))
+
+
+def _packed_values(values: Sequence[Any]) -> array[int]:
+    try:
+        return array(_VALUE_TYPE, values)
+    except (TypeError, OverflowError):
+        pass
+    for place, value in enumerate(values):
+        try:
+            array(_VALUE_TYPE, [value])
+        except OverflowError:
+            raise OverflowError(f"item {place}: {value} does not fit into 64 bits") from None
+        except TypeError:
+            raise TypeError(f"item {place}: the value {value!r} is not a whole number") from None
+    return array(_VALUE_TYPE)
+
+
+def _caption_column(captions: Iterable[str]) -> Tuple[str, ...]:
+    column = tuple(captions)
+    try:
+        "".join(column)
+    except TypeError:
+        _refuse_caption(column)
+    return column
+
+
+def _refuse_caption(captions: Sequence[Any]) -> NoReturn:
+    for place, caption in enumerate(captions):
+        if not isinstance(caption, str):
+            raise TypeError(f"item {place}: the caption {caption!r} is not a text")
+    raise TypeError("a caption is not a text")
+
+
+def _full_row(row: Any) -> Tuple[Any, ...]:
+    if not 2 <= len(row) <= 4:
+        raise TypeError(f"{row!r} is not (caption, value[, color[, outline]])")
+    return (*row, None, None)[:4]
+
+
+def _color_column(
+    colors: Iterable[Optional[str]], name: str
+) -> Optional[Tuple[Optional[str], ...]]:
+    column = tuple(colors)
+    if not any(column):
+        return None
+    return tuple(checked_color(color, name, place) for place, color in enumerate(column))
+
+
+def checked_color(color: Optional[str], name: str, place: int) -> Optional[str]:
+    """The colour in small letters; what is none is refused with the item's place."""
+    if color is None:
+        return None
+    if not isinstance(color, str):
+        raise TypeError(f"item {place}: the {name} {color!r} is not a text")
+    if not _COLOR.fullmatch(color):
+        raise ValueError(f"item {place}: the {name} {color!r} is not #rrggbb")
+    return color.lower()
+
+
+def _joined(captions: Sequence[str]) -> Tuple[bytes, List[int]]:
+    text = "".join(captions)
+    if text.isascii():
+        return text.encode(), list(map(len, captions))
+    encoded = [caption.encode("utf-8", "surrogatepass") for caption in captions]
+    return b"".join(encoded), list(map(len, encoded))
+
+
+def _require_colors(
+    colors: Optional[Sequence[Optional[str]]], outlines: Sequence[Optional[str]]
+) -> None:
+    for place, outline in enumerate(outlines):
+        if outline is not None and (colors is None or colors[place] is None):
+            raise ValueError(f"item {place}: it has an outline, but no color")
+
+
+def _color_numbers(colors: Optional[Sequence[Optional[str]]]) -> Any:
+    if colors is None:
+        return ffi.NULL
+    return [lib.TOVANGL_NO_COLOR if color is None else int(color[1:], 16) for color in colors]

@@ -1,0 +1,80 @@
+# SPDX-License-Identifier: MIT
+"""Many charts, drawn by several threads."""
+
+from __future__ import annotations
+
+import os
+from collections import deque
+from collections.abc import Generator, Iterable, Iterator
+from typing import TYPE_CHECKING, Deque, List, Optional, Union
+
+from tovangl._chart import Chart
+from tovangl._picture import Picture
+
+if TYPE_CHECKING:
+    from concurrent.futures import Future
+
+Result = Union[Picture, Exception]
+Results = Generator[Result, None, None]
+
+_CHARTS_AHEAD = 4  # of each thread: enough that none waits for the caller
+
+
+def render_many(charts: Iterable[Chart], jobs: Optional[int] = None) -> Results:
+    """Draws charts in several threads, and gives the results in the order of the charts.
+
+    The result of a chart that fails is its exception, and the others go on:
+
+    >>> from tovangl import pie
+    >>> results = render_many([pie({"a": 1}), pie({"a": 1}, theme="loud")])
+    >>> [isinstance(result, Picture) for result in results]
+    [True, False]
+
+    Charts are taken from the iterable as their turn comes, by the caller's thread, and only a few
+    ahead of the results, so that there may be any number of them. An exception of the iterable
+    itself comes after the results of all charts before it. The threads end with the last result,
+    or when the iterator is closed.
+
+    :param jobs: the number of threads; None: the number of processors that the process may use
+    """
+    if jobs is None:
+        jobs = len(os.sched_getaffinity(0))
+    if jobs < 1:
+        raise ValueError(f"{jobs} jobs draw nothing")
+    if jobs == 1:
+        return (_render(chart) for chart in charts)
+    return _render_in_threads(charts, jobs)
+
+
+def _render(chart: Chart) -> Result:
+    try:
+        return chart.render()
+    except Exception as error:
+        return error
+
+
+def _render_in_threads(charts: Iterable[Chart], jobs: int) -> Results:
+    from concurrent.futures import ThreadPoolExecutor
+
+    pending: Deque[Future[Result]] = deque()
+    failures: List[Exception] = []
+    with ThreadPoolExecutor(jobs, "tovangl") as threads:
+        try:
+            for chart in _until_failure(charts, failures):
+                pending.append(threads.submit(_render, chart))
+                if len(pending) == jobs * _CHARTS_AHEAD:
+                    yield pending.popleft().result()
+            while pending:
+                yield pending.popleft().result()
+        finally:
+            for future in pending:
+                future.cancel()
+    for failure in failures:
+        raise failure
+
+
+def _until_failure(charts: Iterable[Chart], failures: List[Exception]) -> Iterator[Chart]:
+    try:
+        yield from charts
+    except Exception as error:
+        failures.append(error)

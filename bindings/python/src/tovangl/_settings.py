@@ -1,0 +1,72 @@
+# SPDX-License-Identifier: MIT
+"""Settings as Python values: checked against the table, and written as the library reads them."""
+
+from __future__ import annotations
+
+import math
+from collections.abc import Iterable, Mapping
+from functools import lru_cache
+from operator import index
+from typing import Any, Dict, Union
+
+from tovangl._library import Setting, SettingError, settings
+
+Value = Union[bool, int, float, str]
+
+_LISTS = ("palette", "axis_properties", "position")
+
+
+@lru_cache(maxsize=None)
+def table_of(kind: str) -> Dict[str, Setting]:
+    """The settings that charts of this kind have, in the order in which they are applied."""
+    return {setting.name: setting for setting in settings() if kind in setting.charts}
+
+
+def checked_settings(kind: str, given: Mapping[str, Any]) -> Dict[str, Value]:
+    """The settings that are not None, in the order in which they are applied.
+
+    A list of colours, of axis properties or of two numbers becomes a text with commas.
+    """
+    named = {name: value for name, value in given.items() if value is not None}
+    if not named:
+        return named
+    table = table_of(kind)
+    for name in named:
+        if name not in table:
+            raise SettingError(f"{name}: {kind} has no such setting")
+    return {name: checked_value(table[name], named[name]) for name in table if name in named}
+
+
+def checked_value(setting: Setting, value: Any) -> Value:
+    """The value as the plain type that the setting has in every language."""
+    if setting.type == "boolean":
+        if isinstance(value, bool):
+            return value
+        raise TypeError(f"{setting.name}: {value!r} is not True or False")
+    if setting.type == "whole":
+        if not isinstance(value, bool) and hasattr(value, "__index__"):
+            return index(value)
+        raise TypeError(f"{setting.name}: {value!r} is not a whole number")
+    if setting.type == "real":
+        return _checked_number(setting.name, value)
+    if setting.type in _LISTS and isinstance(value, Iterable) and not isinstance(value, str):
+        return ",".join(map(str, value))
+    if isinstance(value, str):
+        return str(value)
+    raise TypeError(f"{setting.name}: {value!r} is not a text")
+
+
+def _checked_number(name: str, value: Any) -> Value:
+    if isinstance(value, bool) or not (hasattr(value, "__float__") or hasattr(value, "__index__")):
+        raise TypeError(f"{name}: {value!r} is not a number")
+    number: Union[int, float] = index(value) if hasattr(value, "__index__") else float(value)
+    if not math.isfinite(number):
+        raise SettingError(f"{name}: {value!r} is not a number")
+    return number
+
+
+def setting_text(value: Value) -> bytes:
+    """A checked value as the library reads it."""
+    if isinstance(value, bool):
+        return b"true" if value else b"false"
+    return str(value).encode("utf-8", "surrogatepass")

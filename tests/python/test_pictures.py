@@ -1,0 +1,133 @@
+# SPDX-License-Identifier: MIT
+"""What a rendering gives."""
+
+import os
+import pickle
+import struct
+import subprocess
+from concurrent.futures import ThreadPoolExecutor
+
+import pytest
+
+from tovangl import Picture, PictureError, Rectangle, bars, hbars, pie
+
+WEEK = {"Monday": 320, "Tuesday": 410, "Wednesday": 275, "Thursday": 180}
+
+
+def size_of(png):
+    return struct.unpack(">II", png[16:24])
+
+
+def test_the_picture_is_that_of_the_c_example(tmp_path):
+    path = tmp_path / "bars.png"
+    bars(WEEK, background=True, width=400, height=250).render().save(path)
+    probes = ["400x250", "90,170=#17347c", "335,200=#fe660d"]
+    subprocess.run([os.environ["CHECK_PICTURE"], path, *probes], check=True)
+
+
+def test_a_chart_for_print_has_more_pixels():
+    assert size_of(pie(WEEK, width=100, height=80).render().png) == (100, 80)
+    assert size_of(pie(WEEK, width=100, height=80, print=3).render().png) == (300, 240)
+    assert size_of(pie(WEEK, width=100, height=80, scale=2).render().png) == (200, 160)
+
+
+def test_bars_have_the_regions_of_bars():
+    regions = bars(WEEK, title="Week").render().regions
+    assert regions.title.width > 0
+    assert len(regions.bars) == len(regions.captions) == 4
+    assert regions.slices is None
+    heights = [bar.height for bar in regions.bars]
+    assert heights.index(max(heights)) == 1
+
+
+def test_a_pie_has_the_regions_of_slices():
+    regions = pie(WEEK).render().regions
+    assert regions.title is None
+    assert regions.bars is None
+    assert sum(piece.span for piece in regions.slices) == pytest.approx(360)
+    assert all(isinstance(caption, Rectangle) for caption in regions.captions)
+
+
+def test_what_is_not_drawn_has_no_region():
+    regions = pie({"a": 99, "b": 1}, threshold=5).render().regions
+    assert regions.slices[1] is None
+    assert regions.captions[1] is None
+
+
+def test_the_others_have_a_region_of_their_own():
+    assert len(pie({"a": 99, "b": 1}, threshold=5, others="rest").render().regions.slices) == 3
+
+
+def test_the_polygon_of_a_slice_begins_at_the_centre():
+    piece = pie(WEEK).render().regions.slices[0]
+    polygon = piece.polygon()
+    assert polygon[0] == pytest.approx((piece.x + piece.width / 2, piece.y + piece.height / 2))
+    assert len(polygon) > 3
+
+
+def test_the_description_is_for_those_who_cannot_see_the_picture():
+    description = hbars(WEEK, title="Week").render().description
+    assert "Horizontal bar chart, 4 of 4 items drawn" in description
+    assert "“Tuesday”" in description
+
+
+def test_a_picture_without_room_tells_its_problem():
+    assert pie(WEEK).render().problem == ""
+    assert pie(WEEK, width=3, height=3).render().problem == "The picture has no room for the chart."
+
+
+def test_a_picture_that_cannot_be_made_is_an_error():
+    with pytest.raises(PictureError):
+        pie(WEEK, width=1_000_000, height=1_000_000).render()
+
+
+def test_a_picture_without_memory_is_an_error():
+    with pytest.raises(PictureError):
+        pie(WEEK, width=1000, height=1000, print=1_000_000).render()
+
+
+def test_a_notebook_gets_the_picture_with_alternative_text():
+    picture = pie(WEEK, width=400, height=300, scale=2).render()
+    data, metadata = picture._repr_mimebundle_()
+    assert data == {"image/png": picture.png, "text/plain": picture.description}
+    alternative = {"alt": picture.description, "width": 400, "height": 300}
+    assert metadata == {"image/png": alternative}
+    assert pie(WEEK, width=400, height=300, scale=2)._repr_mimebundle_() == (data, metadata)
+
+
+def test_two_renderings_are_equal_and_survive_pickling():
+    picture = pie(WEEK).render()
+    assert picture == pie(WEEK).render()
+    assert hash(picture) == hash(pie(WEEK).render())
+    assert pickle.loads(pickle.dumps(picture)) == picture
+    assert picture != pie(WEEK, title="x").render()
+    assert picture != picture.png
+
+
+def test_a_picture_outlives_its_chart():
+    picture = pie({"a": 1}).render()
+    for _ in range(100):
+        pie(WEEK).render()
+    assert "“a”" in picture.description
+
+
+def test_many_threads_can_read_one_picture():
+    expected = bars(WEEK).render()
+    with ThreadPoolExecutor(8) as threads:
+        for _ in range(50):
+            picture = bars(WEEK).render()
+            read = threads.map(
+                lambda field: getattr(picture, field), ["regions", "description"] * 4
+            )
+            assert list(read) == [expected.regions, expected.description] * 4
+
+
+def test_saving_to_a_folder_that_does_not_exist_is_an_error(tmp_path):
+    with pytest.raises(FileNotFoundError):
+        pie(WEEK).render().save(tmp_path / "none" / "a.png")
+
+
+def test_the_text_of_a_picture_describes_it():
+    picture = pie({"a": 1}).render()
+    assert isinstance(picture, Picture)
+    assert picture.description in repr(picture)
