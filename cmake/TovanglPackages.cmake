@@ -19,6 +19,9 @@ set(CPACK_COMPONENTS_ALL runtime development)
 if(TARGET tovangl-chart OR TARGET tovangl-du)
     list(APPEND CPACK_COMPONENTS_ALL tools)
 endif()
+if(TOVANGL_BUILD_PYTHON)
+    list(APPEND CPACK_COMPONENTS_ALL python)
+endif()
 # Each package has its own first line of the description.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -74,6 +77,20 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "Bar and pie charts from the command line
 Programs that draw bar charts and pie charts as PNG images from lines of
 text. They need no display.")
+
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-tovangl)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+string(JOIN ", " CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+    "python3 (>= 3.10)" python3-cffi-backend
+    "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (>= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA
+    ${PROJECT_SOURCE_DIR}/packaging/debian/python/postinst
+    ${PROJECT_SOURCE_DIR}/packaging/debian/python/prerm)
+set(CPACK_DEBIAN_PYTHON_DESCRIPTION "Bar and pie charts as PNG images (Python 3)
+A small library that draws bar charts and pie charts into PNG images in
+memory. It needs no display.
+
+This package lets programs and notebooks in Python 3 draw with it.")
 
 # The files of every package in /usr/share/doc.
 string(TIMESTAMP tovangl_changelog_date "%a, %d %b %Y 00:00:00 +0000" UTC)
