@@ -14,7 +14,7 @@ import time
 import tovangl
 from tovangl._tovangl import ffi, lib
 
-WIDTH, HEIGHT = 800, 400  # pixels, of 12 upright bars
+WIDTH, HEIGHT = 800, 600  # pixels, of 12 upright bars: the size of a chart that sets none
 PAIRS = [(f"Item {i}", 1000 + 137 * i) for i in range(12)]
 
 ROUNDS = 2000

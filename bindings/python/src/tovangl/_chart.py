@@ -63,7 +63,15 @@ class Chart:
         """
         if kind not in KINDS:
             raise ValueError(f"{kind!r} is not pie, bars or hbars")
-        _check_sizes(width, height, print)
+        # The usual sizes need no call: after a drawing, each function that runs is far from the
+        # processor.
+        if not (
+            type(width) is type(height) is int
+            and 1 <= width <= GREATEST_SIDE
+            and 1 <= height <= GREATEST_SIDE
+            and print is None
+        ):
+            _check_sizes(width, height, print)
         if id is not None:
             _check_id(id)
         columns = Items.of(items)
@@ -182,10 +190,11 @@ def apply_setting(chart: Any, name: str, value: Value) -> None:
     """Sets a checked value in a chart of the library."""
     text = setting_text(value)
     status = lib.tovangl_chart_set_sized(chart, name.encode(), text, len(text))
-    try:
-        check(chart, status)
-    except ValueError as error:
-        raise type(error)(f"{name}: {error}") from None
+    if status:
+        try:
+            check(chart, status)
+        except ValueError as error:
+            raise type(error)(f"{name}: {error}") from None
 
 
 def _draw(chart: Any, width: int, height: int, factor: Optional[int]) -> bytes:
@@ -195,7 +204,8 @@ def _draw(chart: Any, width: int, height: int, factor: Optional[int]) -> bytes:
         status = lib.tovangl_chart_render(chart, width, height, data, size)
     else:
         status = lib.tovangl_chart_render_for_print(chart, width, height, factor, data, size)
-    check(chart, status)
+    if status:
+        check(chart, status)
     png = bytes(ffi.buffer(data[0], size[0]))
     lib.tovangl_chart_free_picture(chart)
     return png

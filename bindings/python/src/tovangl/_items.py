@@ -171,8 +171,8 @@ class Items(Sequence[Item]):
             text,
             len(text),
             [0, *accumulate(lengths)],
-            _color_numbers(self._colors),
-            _color_numbers(self._outlines),
+            ffi.NULL if self._colors is None else _color_numbers(self._colors),
+            ffi.NULL if self._outlines is None else _color_numbers(self._outlines),
         )
         if status != lib.TOVANGL_OK:
             fail(status, text_of(lib.tovangl_chart_error(chart)))
@@ -267,7 +267,5 @@ def _require_colors(
             raise ValueError(f"item {place}: it has an outline, but no color")
 
 
-def _color_numbers(colors: Optional[Sequence[Optional[str]]]) -> Any:
-    if colors is None:
-        return ffi.NULL
+def _color_numbers(colors: Sequence[Optional[str]]) -> List[int]:
     return [lib.TOVANGL_NO_COLOR if color is None else int(color[1:], 16) for color in colors]

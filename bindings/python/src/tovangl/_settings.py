@@ -27,14 +27,16 @@ def checked_settings(kind: str, given: Mapping[str, Any]) -> Dict[str, Value]:
 
     A list of colours, of axis properties or of two numbers becomes a text with commas.
     """
-    named = {name: value for name, value in given.items() if value is not None}
-    if not named:
-        return named
     table = table_of(kind)
-    for name in named:
-        if name not in table:
-            raise SettingError(f"{name}: {kind} has no such setting")
-    return {name: checked_value(table[name], named[name]) for name in table if name in named}
+    checked: Dict[str, Value] = {}
+    for name, value in given.items():
+        if value is not None:
+            if name not in table:
+                raise SettingError(f"{name}: {kind} has no such setting")
+            checked[name] = checked_value(table[name], value)
+    return (
+        checked if len(checked) < 2 else {name: checked[name] for name in table if name in checked}
+    )
 
 
 def checked_value(setting: Setting, value: Any) -> Value:
