@@ -2,6 +2,7 @@
 set -l charts pie bars hbars
 set -l doctor '__fish_seen_subcommand_from doctor'
 set -l batch '__fish_seen_subcommand_from batch'
+set -l none "not __fish_seen_subcommand_from $charts batch doctor"
 set -l any "__fish_seen_subcommand_from $charts"
 set -l pie '__fish_seen_subcommand_from pie'
 set -l bars '__fish_seen_subcommand_from bars hbars'
@@ -10,12 +11,12 @@ set -l lying '__fish_seen_subcommand_from hbars'
 set -l axis 'line labels title bold-labels bold-title prefixes hide-overlapped shift-last none'
 set -l themes 'light dark high-contrast colour-blind'
 
-complete -c tovangl-chart -n "not $any" -f -a pie -d 'A pie'
-complete -c tovangl-chart -n "not $any" -f -a bars -d 'Vertical bars'
-complete -c tovangl-chart -n "not $any" -f -a hbars -d 'Horizontal bars'
-complete -c tovangl-chart -n "not $any" -f -a batch -d 'Many charts from lines of JSON'
-complete -c tovangl-chart -n "not $any" -f -a doctor -d 'Check that charts can be drawn'
-complete -c tovangl-chart -n "not $any" -l version -d 'Show the version'
+complete -c tovangl-chart -n $none -f -a pie -d 'A pie'
+complete -c tovangl-chart -n $none -f -a bars -d 'Vertical bars'
+complete -c tovangl-chart -n $none -f -a hbars -d 'Horizontal bars'
+complete -c tovangl-chart -n $none -f -a batch -d 'Many charts from lines of JSON'
+complete -c tovangl-chart -n $none -f -a doctor -d 'Check that charts can be drawn'
+complete -c tovangl-chart -n $none -l version -d 'Show the version'
 complete -c tovangl-chart -s h -l help -d 'Show the help'
 
 complete -c tovangl-chart -n $any -s o -l output -r -F -d 'Write the picture here'
