@@ -222,6 +222,13 @@ public:
     /// @param data, size     as for createPixmap()
     void createPixmapForPrinter(int width, int height, int factor, unsigned char** data, int* size);
 
+    /// Renders the chart as an SVG picture: the one that createPixmap() makes of that size, in
+    /// shapes and texts instead of pixels.
+    ///
+    /// @param width, height  picture size in pixels
+    /// @param data, size     as for createPixmap()
+    void createSvg(int width, int height, unsigned char** data, int* size);
+
 protected:
     CGraph1dBase* m_graph; ///< owned by the derived class; null in a plain Graph
 

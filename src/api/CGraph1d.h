@@ -5,15 +5,15 @@
 #define TOVANGL_API_CGRAPH1D_H
 
 #include "api/CGraph1dBase.h"
+#include "layout/CChartOutput.h"
 #include "layout/captions.h"
-#include "paint/CCanvas.h"
 
 #include <utility>
 
 namespace tovangl {
 
 /// A chart made of an input struct and a layout struct. computeLayout(), captionRects() and
-/// CCanvas::paint() are overloaded for them.
+/// CChartOutput::paint() are overloaded for them.
 template <typename Input, typename Layout>
 class CGraph1d : public CGraph1dBase
 {
@@ -29,28 +29,28 @@ protected:
     {}
 
     [[nodiscard]] CSettingTarget settingTarget() final { return CSettingTarget(m_input); }
-    std::optional<CDrawnTexts> drawContents(CCanvas& canvas, const CRequest& request,
-                                            const std::vector<std::size_t>& drawn,
-                                            const std::optional<CGraph1dItem>& others) final
+    std::optional<CDrawnTexts> layOutContents(CTextMeasurer& measurer, const CRequest& request,
+                                              const std::vector<std::size_t>& drawn,
+                                              const std::optional<CGraph1dItem>& others) final
     {
-        m_layout = others ? layOutWith(*others, drawn, request, canvas)
-                          : computeLayout(m_input, drawn, request, canvas.measurer());
+        m_layout = others ? layOutWith(*others, drawn, request, measurer)
+                          : computeLayout(m_input, drawn, request, measurer);
         if (!m_layout.fits())
             return std::nullopt;
-        canvas.paint(m_layout);
         return CDrawnTexts{titleRect(m_layout), captionRects(m_layout)};
     }
+    void paintContents(CChartOutput& output) const final { output.paint(m_layout); }
     void forgetLayout() final { m_layout = Layout(); }
 
 private:
     // The layout of a chart with one more item. The host's own items stay as they are.
     Layout layOutWith(const CGraph1dItem& others, std::vector<std::size_t> drawn,
-                      const CRequest& request, CCanvas& canvas) const
+                      const CRequest& request, CTextMeasurer& measurer) const
     {
         Input input = m_input;
         drawn.push_back(input.items.size());
         input.items.push_back(others);
-        return computeLayout(input, drawn, request, canvas.measurer());
+        return computeLayout(input, drawn, request, measurer);
     }
 
     Input m_input;

@@ -6,9 +6,13 @@
 #include "api/description.h"
 #include "api/font_problem.h"
 #include "base/CGlobal.h"
+#include "base/host_text.h"
 #include "input/CGraph1dInput.h"
+#include "output/png_encoding.h"
 #include "output/raster_surface.h"
 #include "paint/CCanvas.h"
+#include "svg/CSvgFrame.h"
+#include "svg/CSvgOutput.h"
 
 #include <algorithm>
 
@@ -48,9 +52,7 @@ double CGraph1dBase::threshold() const
 
 QImage CGraph1dBase::getImage(int width, int height)
 {
-    const int scale = input().settings.scale;
-    return draw({scalePixels(width, scale), scalePixels(height, scale), scale, OutputDevice::Screen,
-                 kilo()});
+    return draw(screenRequest(width, height));
 }
 
 QImage CGraph1dBase::getImageForPrinter(int width, int height, int factor)
@@ -102,12 +104,37 @@ void CGraph1dBase::forgetDrawing()
     m_others.reset();
 }
 
-const CPngFile& CGraph1dBase::paintDevice2Bytes(QImage& image)
+CPictureFile CGraph1dBase::getSvg(int width, int height)
+{
+    const CRequest request = screenRequest(width, height);
+    if (!begin(request))
+        return noPictureFile();
+    QImage gauge = makeRasterSurface(1, 1);
+    if (gauge.isNull())
+        return noPictureFile();
+    CCanvas canvas(gauge, input().settings, request, addedFamily());
+    m_isDrawn = layOut(canvas, request);
+    const CSvgFrame frame = svgFrame(request, canvas.font());
+    CSvgOutput output(frame);
+    if (m_isDrawn)
+        paintContents(output);
+    CPictureFile file = output.finish();
+    m_problem = findProblem(canvas);
+    return file;
+}
+
+const CPictureFile& CGraph1dBase::paintDevice2Bytes(QImage& image)
 {
     const Problem ofDrawing = m_problem;
     m_problem = Problem::NoMemory; // in case memory runs out from here on
     m_file = encodePng(image, input().settings.compression);
     m_problem = ofDrawing;
+    return m_file;
+}
+
+const CPictureFile& CGraph1dBase::keepFile(CPictureFile file)
+{
+    m_file = std::move(file);
     return m_file;
 }
 
@@ -121,44 +148,78 @@ CKilo CGraph1dBase::kilo() const
     return input().settings.kilo.value_or(getGlobal()->kilo());
 }
 
-QImage CGraph1dBase::draw(const CRequest& request)
+CRequest CGraph1dBase::screenRequest(int width, int height) const
+{
+    const int scale = input().settings.scale;
+    return {scalePixels(width, scale), scalePixels(height, scale), scale, OutputDevice::Screen,
+            kilo()};
+}
+
+bool CGraph1dBase::begin(const CRequest& request)
 {
     forgetDrawing();
-    if (!isRasterSize(request.width, request.height)) {
+    const bool isPossible = isRasterSize(request.width, request.height);
+    if (!isPossible)
         m_problem = Problem::SizeOutOfRange;
+    return isPossible;
+}
+
+QImage CGraph1dBase::draw(const CRequest& request)
+{
+    if (!begin(request))
         return QImage();
-    }
     QImage image = makeRasterSurface(request.width, request.height);
-    if (!image.isNull())
-        drawGraph(image, request);
+    if (!image.isNull()) {
+        CCanvas canvas(image, input().settings, request, addedFamily());
+        const bool fits = layOut(canvas, request);
+        if (fits)
+            paintContents(canvas);
+        m_isDrawn = fits;
+        m_problem = findProblem(canvas);
+    }
     return image;
 }
 
-void CGraph1dBase::drawGraph(QPaintDevice& device, const CRequest& request)
+bool CGraph1dBase::layOut(CCanvas& canvas, const CRequest& request)
 {
     CItemSelection selection = selectItems();
     m_actingThreshold = selection.threshold;
     m_selectedItems = std::move(selection.items);
     recordCaptions(std::vector<QRect>(m_selectedItems.size()));
 
-    const CGraph1dSettings& settings = input().settings;
-    const QString added = CAddedFonts::ofProcess().qtFamily(settings.fontFamily);
-    CCanvas canvas(device, settings, request, added);
     const auto others = input().gatherOthers(selection.leftOut);
-    const auto texts = drawContents(canvas, request, m_selectedItems, others);
-    if (texts) {
-        recordCaptions(texts->captions);
-        m_titleRect = texts->title;
-        if (others)
-            m_others = COthers{input().items.size(), selection.leftOut, texts->captions.back()};
-    }
-    m_isDrawn = texts.has_value();
+    const auto texts = layOutContents(canvas.measurer(), request, m_selectedItems, others);
+    if (!texts)
+        return false;
+    recordCaptions(texts->captions);
+    m_titleRect = texts->title;
+    if (others)
+        m_others = COthers{input().items.size(), selection.leftOut, texts->captions.back()};
+    return true;
+}
+
+Problem CGraph1dBase::findProblem(const CCanvas& canvas) const
+{
     if (!m_isDrawn)
-        m_problem = Problem::TooSmallForChart;
-    else if (added.isEmpty())
-        m_problem = installedFontProblem(settings);
-    else
-        m_problem = addedFontProblem(canvas.usedFamily(), added);
+        return Problem::TooSmallForChart;
+    const QString added = addedFamily();
+    return added.isEmpty() ? installedFontProblem(input().settings)
+                           : addedFontProblem(canvas.usedFamily(), added);
+}
+
+CSvgFrame CGraph1dBase::svgFrame(const CRequest& request, const QFont& font) const
+{
+    CSvgFrame frame{request.width, request.height, font};
+    const CGraph1dSettings& settings = input().settings;
+    frame.picture = settings.colors.picture;
+    frame.title = settings.title.isEmpty() ? QString::fromLatin1(kindName()) : settings.title;
+    frame.description = toQString(describe());
+    return frame;
+}
+
+QString CGraph1dBase::addedFamily() const
+{
+    return CAddedFonts::ofProcess().qtFamily(input().settings.fontFamily);
 }
 
 void CGraph1dBase::recordCaptions(const std::vector<QRect>& captions)

@@ -7,7 +7,7 @@
 #include "input/item_selection.h"
 #include "input/setting_rules.h"
 #include "layout/CRequest.h"
-#include "output/png_encoding.h"
+#include "output/CPictureFile.h"
 #include <tovangl/Problem.h>
 
 #include <QImage>
@@ -21,7 +21,10 @@
 namespace tovangl {
 
 class CCanvas;
+class CChartOutput;
+class CTextMeasurer;
 struct CGraph1dInput;
+struct CSvgFrame;
 
 /// What the texts of a drawn chart cover.
 struct CDrawnTexts
@@ -53,10 +56,15 @@ public:
     [[nodiscard]] QImage getImage(int width, int height);
     /// Draws at factor times the resolution (at least 1) in the colours for print.
     [[nodiscard]] QImage getImageForPrinter(int width, int height, int factor);
+    /// Lays out the picture of getImage() and writes its shapes as SVG; no bytes if that cannot be
+    /// made.
+    [[nodiscard]] CPictureFile getSvg(int width, int height);
     /// Saves a picture as PNG with the chart's compression, and packs its pixels for that. The
     /// bytes live until the next call or freePixmap(); there are none where the picture is null.
-    const CPngFile& paintDevice2Bytes(QImage& image);
-    void freePixmap() { m_file = CPngFile(); }
+    const CPictureFile& paintDevice2Bytes(QImage& image);
+    /// Keeps the bytes of another picture in their place.
+    const CPictureFile& keepFile(CPictureFile file);
+    void freePixmap() { m_file = CPictureFile(); }
     /// Whether the last rendering drew the chart: the picture could be made and had room for it.
     [[nodiscard]] bool isDrawn() const { return m_isDrawn; }
     /// What was wrong with the last rendering.
@@ -87,14 +95,17 @@ protected:
     /// The beginning of the chart's description.
     [[nodiscard]] virtual const char* kindName() const = 0;
     [[nodiscard]] virtual CItemSelection selectItems() const = 0;
-    /// Lays out the chart and paints it if it fits.
+    /// Lays out the chart.
     ///
     /// @param drawn   positions of items
     /// @param others  one more item, which is drawn after them
     /// @return where its texts are; empty if the chart does not fit
-    virtual std::optional<CDrawnTexts> drawContents(CCanvas& canvas, const CRequest& request,
-                                                    const std::vector<std::size_t>& drawn,
-                                                    const std::optional<CGraph1dItem>& others) = 0;
+    virtual std::optional<CDrawnTexts>
+    layOutContents(CTextMeasurer& measurer, const CRequest& request,
+                   const std::vector<std::size_t>& drawn,
+                   const std::optional<CGraph1dItem>& others) = 0;
+    /// Paints the last layout.
+    virtual void paintContents(CChartOutput& output) const = 0;
     /// Drops the last layout's results for removed items.
     virtual void forgetLayout() = 0;
 
@@ -109,8 +120,16 @@ private:
 
     [[nodiscard]] bool wantsOthers() const;
     [[nodiscard]] CKilo kilo() const;
+    [[nodiscard]] CRequest screenRequest(int width, int height) const;
+    // Begins a rendering; whether a picture of that size can be made.
+    [[nodiscard]] bool begin(const CRequest& request);
     [[nodiscard]] QImage draw(const CRequest& request);
-    void drawGraph(QPaintDevice& device, const CRequest& request);
+    // Lays out with the texts measured on a canvas; whether the chart fits.
+    [[nodiscard]] bool layOut(CCanvas& canvas, const CRequest& request);
+    // What was wrong with a picture that could be made.
+    [[nodiscard]] Problem findProblem(const CCanvas& canvas) const;
+    [[nodiscard]] QString addedFamily() const;
+    [[nodiscard]] CSvgFrame svgFrame(const CRequest& request, const QFont& font) const;
     void recordCaptions(const std::vector<QRect>& captions);
 
     // Apart from the last layout, only these outlive a rendering: an item that a rendering leaves
@@ -120,7 +139,7 @@ private:
     std::optional<double> m_actingThreshold; // none since the threshold was set
     QRect m_titleRect;
     std::optional<COthers> m_others; // none where the last rendering drew none
-    CPngFile m_file;                 // of the last rendering
+    CPictureFile m_file;             // of the last rendering
     bool m_isDrawn = false;
     Problem m_problem = Problem::None;
 };

@@ -14,7 +14,7 @@ namespace tovangl {
 
 namespace {
 
-void handOver(const CPngFile& file, unsigned char** data, int* size)
+void handOver(const CPictureFile& file, unsigned char** data, int* size)
 {
     *data = file.data.get();
     *size = static_cast<int>(file.size);
@@ -203,6 +203,12 @@ void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned c
 {
     if (m_graph)
         handOver(renderForPrinter(*m_graph, width, height, factor), data, size);
+}
+
+void Graph::createSvg(int width, int height, unsigned char** data, int* size)
+{
+    if (m_graph)
+        handOver(renderSvg(*m_graph, width, height), data, size);
 }
 
 } // namespace tovangl

@@ -58,7 +58,8 @@ tovangl_status callForRecords(tovangl_chart* chart, CResult<Record> result,
     });
 }
 
-COutcome handOver(const CPngFile& file, const CGraph1dBase& graph, CResult<unsigned char> result)
+COutcome handOver(const CPictureFile& file, const CGraph1dBase& graph,
+                  CResult<unsigned char> result)
 {
     if (file.size == 0)
         return {TOVANGL_NO_PICTURE, problemSentence(graph.problem())};

@@ -21,7 +21,7 @@ bool canRender(CGraph1dBase& graph, const CRendering& rendering)
 }
 
 template <typename Draw>
-const CPngFile& render(CGraph1dBase& graph, Draw draw)
+const CPictureFile& render(CGraph1dBase& graph, Draw draw)
 {
     graph.forgetDrawing();
     const CRendering rendering;
@@ -29,14 +29,28 @@ const CPngFile& render(CGraph1dBase& graph, Draw draw)
     return graph.paintDevice2Bytes(image);
 }
 
+// The same for a file that is no raster image.
+template <typename Write>
+const CPictureFile& renderFile(CGraph1dBase& graph, Write write)
+{
+    graph.forgetDrawing();
+    const CRendering rendering;
+    return graph.keepFile(canRender(graph, rendering) ? write() : noPictureFile());
+}
+
 } // namespace
 
-const CPngFile& renderPicture(CGraph1dBase& graph, int width, int height)
+const CPictureFile& renderPicture(CGraph1dBase& graph, int width, int height)
 {
     return render(graph, [&] { return graph.getImage(width, height); });
 }
 
-const CPngFile& renderForPrinter(CGraph1dBase& graph, int width, int height, int factor)
+const CPictureFile& renderSvg(CGraph1dBase& graph, int width, int height)
+{
+    return renderFile(graph, [&] { return graph.getSvg(width, height); });
+}
+
+const CPictureFile& renderForPrinter(CGraph1dBase& graph, int width, int height, int factor)
 {
     return render(graph, [&] { return graph.getImageForPrinter(width, height, factor); });
 }

@@ -4,7 +4,7 @@
 #ifndef TOVANGL_API_CHART_RENDERING_H
 #define TOVANGL_API_CHART_RENDERING_H
 
-#include "output/CPngBuilder.h"
+#include "output/CPictureFile.h"
 
 namespace tovangl {
 
@@ -14,10 +14,13 @@ class CGraph1dBase;
 /// why. Only std::bad_alloc can leave this call.
 ///
 /// @return the file, which the chart keeps until its next rendering
-const CPngFile& renderPicture(CGraph1dBase& graph, int width, int height);
+const CPictureFile& renderPicture(CGraph1dBase& graph, int width, int height);
+
+/// Renders the same picture as SVG.
+const CPictureFile& renderSvg(CGraph1dBase& graph, int width, int height);
 
 /// The same for print, at factor times the resolution.
-const CPngFile& renderForPrinter(CGraph1dBase& graph, int width, int height, int factor);
+const CPictureFile& renderForPrinter(CGraph1dBase& graph, int width, int height, int factor);
 
 } // namespace tovangl
 

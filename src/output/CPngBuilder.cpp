@@ -86,7 +86,7 @@ CByteRoom CPngBuilder::room() const
     return {m_next, m_room};
 }
 
-CPngFile CPngBuilder::finish(std::size_t size)
+CPictureFile CPngBuilder::finish(std::size_t size)
 {
     unsigned char* const rows = m_next;
     m_next = rows - kTypeBytes - sizeof(std::uint32_t);
@@ -95,7 +95,7 @@ CPngFile CPngBuilder::finish(std::size_t size)
     endChunk();
     beginChunk("IEND", 0);
     endChunk();
-    CPngFile file;
+    CPictureFile file;
     file.size = static_cast<std::size_t>(m_next - m_data.get());
     file.data = std::move(m_data);
     return file;

@@ -5,18 +5,12 @@
 #define TOVANGL_OUTPUT_CPNGBUILDER_H
 
 #include "output/CByteRange.h"
+#include "output/CPictureFile.h"
 #include "output/packed_picture.h"
 
 #include <memory>
 
 namespace tovangl {
-
-/// The bytes of a PNG file.
-struct CPngFile
-{
-    std::unique_ptr<unsigned char[]> data;
-    std::size_t size = 0;
-};
 
 /// Writes everything before the rows, leaves room for them, and closes the file after them.
 class CPngBuilder
@@ -29,7 +23,7 @@ public:
     [[nodiscard]] CByteRoom room() const;
 
     /// The finished file, given the actual size of the compressed rows in bytes.
-    [[nodiscard]] CPngFile finish(std::size_t size);
+    [[nodiscard]] CPictureFile finish(std::size_t size);
 
 private:
     void writeHeader(const CPackedPicture& picture);

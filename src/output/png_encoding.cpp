@@ -3,6 +3,7 @@
 #include "output/png_encoding.h"
 
 #include "output/CDeflater.h"
+#include "output/CPngBuilder.h"
 #include "output/packed_picture.h"
 
 #include <QImage>
@@ -11,19 +12,10 @@
 
 namespace tovangl {
 
-namespace {
-
-CPngFile noFile()
-{
-    return {std::make_unique<unsigned char[]>(0), 0};
-}
-
-} // namespace
-
-CPngFile encodePng(QImage& picture, Compression compression)
+CPictureFile encodePng(QImage& picture, Compression compression)
 {
     if (picture.isNull())
-        return noFile();
+        return noPictureFile();
     const CPackedPicture packed = packPicture(picture);
     CDeflater deflater(packed.rows, compression);
     // For nearly every chart the compressed rows fit into the memory that packing has freed.

@@ -4,7 +4,7 @@
 #ifndef TOVANGL_OUTPUT_PNG_ENCODING_H
 #define TOVANGL_OUTPUT_PNG_ENCODING_H
 
-#include "output/CPngBuilder.h"
+#include "output/CPictureFile.h"
 #include <tovangl/Compression.h>
 
 class QImage;
@@ -16,7 +16,7 @@ namespace tovangl {
 ///
 /// @param picture  in ARGB32. Its pixels are overwritten with intermediate data.
 /// @return for a null picture no bytes, but a pointer that is not null
-[[nodiscard]] CPngFile encodePng(QImage& picture, Compression compression);
+[[nodiscard]] CPictureFile encodePng(QImage& picture, Compression compression);
 
 } // namespace tovangl
 

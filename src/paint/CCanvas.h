@@ -4,6 +4,7 @@
 #ifndef TOVANGL_PAINT_CCANVAS_H
 #define TOVANGL_PAINT_CCANVAS_H
 
+#include "layout/CChartOutput.h"
 #include "text/CTextMeasurer.h"
 
 #include <QFont>
@@ -13,14 +14,12 @@ class QPaintDevice;
 
 namespace tovangl {
 
-struct CBarLayout;
 struct CGraph1dSettings;
-struct CPieLayout;
 struct CRequest;
 
 /// A painter on a device, set up for one chart: white, with the chart's font. Its measurer measures
 /// the layout that is painted on it.
-class CCanvas
+class CCanvas : public CChartOutput
 {
 public:
     /// @param device       not null; it must outlive the canvas
@@ -28,13 +27,14 @@ public:
     ///                     installed one that the settings name
     CCanvas(QPaintDevice& device, const CGraph1dSettings& settings, const CRequest& request,
             const QString& addedFamily = QString());
-    Q_DISABLE_COPY(CCanvas)
 
     [[nodiscard]] CTextMeasurer& measurer() { return m_measurer; }
+    /// The font that texts are painted in.
+    [[nodiscard]] const QFont& font() const { return m_painted; }
     /// Qt's name for the family that texts are painted in; empty if there is no font at all.
     [[nodiscard]] QString usedFamily() const;
-    void paint(const CBarLayout& layout);
-    void paint(const CPieLayout& layout);
+    void paint(const CBarLayout& layout) override;
+    void paint(const CPieLayout& layout) override;
 
 private:
     QPainter m_painter;

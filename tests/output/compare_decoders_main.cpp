@@ -36,7 +36,7 @@ public:
     {
         for (const Compression compression : {Compression::Balanced, Compression::Fast}) {
             QImage copy = picture.copy();
-            const CPngFile file = encodePng(copy, compression);
+            const CPictureFile file = encodePng(copy, compression);
             if (!decodesTo(file, picture)) {
                 ++m_failed;
                 std::printf("FAIL  %s, %d x %d\n", name.c_str(), picture.width(), picture.height());
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    void keepSample(const CPngFile& file)
+    void keepSample(const CPictureFile& file)
     {
         constexpr long kOneOf = 10;
         if (++m_encoded % kOneOf != 0)
@@ -106,7 +106,7 @@ bool compareAll(unsigned pictures, const QString& charts, const std::string& fil
     return comparison.finish();
 }
 
-bool isWholeFile(const CPngFile& file, std::size_t least)
+bool isWholeFile(const CPictureFile& file, std::size_t least)
 {
     constexpr std::array<unsigned char, 12> kEnd = {0,   0,   0,    0,    'I',  'E',
                                                     'N', 'D', 0xae, 0x42, 0x60, 0x82};
@@ -133,7 +133,7 @@ bool testItself()
 {
     QImage picture = randomPicture(1, 300, 200, 20);
     QImage copy = picture.copy();
-    CPngFile file = encodePng(copy, Compression::Balanced);
+    CPictureFile file = encodePng(copy, Compression::Balanced);
     const bool isSame = decodesTo(file, picture);
     picture.setPixel(150, 100, picture.pixel(150, 100) ^ 1U);
     const bool isOther = decodesTo(file, picture);

@@ -4,12 +4,12 @@
 
 namespace tovangl {
 
-std::string bytesOf(const CPngFile& file)
+std::string bytesOf(const CPictureFile& file)
 {
     return std::string(reinterpret_cast<const char*>(file.data.get()), file.size);
 }
 
-CPngFile encoded(const QImage& picture, Compression compression)
+CPictureFile encoded(const QImage& picture, Compression compression)
 {
     QImage copy = picture.copy();
     return encodePng(copy, compression);

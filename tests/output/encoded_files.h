@@ -13,9 +13,9 @@
 namespace tovangl {
 
 /// The file of a picture, which keeps its pixels.
-[[nodiscard]] CPngFile encoded(const QImage& picture, Compression compression);
+[[nodiscard]] CPictureFile encoded(const QImage& picture, Compression compression);
 
-[[nodiscard]] std::string bytesOf(const CPngFile& file);
+[[nodiscard]] std::string bytesOf(const CPictureFile& file);
 
 /// The bytes of a chunk, without its length and its check; empty where there is none.
 [[nodiscard]] std::string chunkOf(const std::string& file, const std::string& type);

@@ -27,7 +27,7 @@ QImage imageOf(const std::vector<unsigned char>& rgba, int width, int height)
 
 } // namespace
 
-QImage decodeWithLibpng(const CPngFile& file)
+QImage decodeWithLibpng(const CPictureFile& file)
 {
     png_image head{};
     head.version = PNG_IMAGE_VERSION;
@@ -41,7 +41,7 @@ QImage decodeWithLibpng(const CPngFile& file)
     return imageOf(pixels, static_cast<int>(head.width), static_cast<int>(head.height));
 }
 
-QImage decodeWithSpng(const CPngFile& file)
+QImage decodeWithSpng(const CPictureFile& file)
 {
     const std::unique_ptr<spng_ctx, void (*)(spng_ctx*)> decoder(spng_ctx_new(0), spng_ctx_free);
     spng_set_crc_action(decoder.get(), SPNG_CRC_ERROR, SPNG_CRC_ERROR);
@@ -59,7 +59,7 @@ QImage decodeWithSpng(const CPngFile& file)
     return imageOf(pixels, static_cast<int>(head.width), static_cast<int>(head.height));
 }
 
-bool decodesTo(const CPngFile& file, const QImage& picture)
+bool decodesTo(const CPictureFile& file, const QImage& picture)
 {
     return decodeWithLibpng(file) == picture && decodeWithSpng(file) == picture;
 }

@@ -11,11 +11,11 @@
 namespace tovangl {
 
 /// The picture in ARGB32; null where the decoder refuses the file or warns of it.
-[[nodiscard]] QImage decodeWithLibpng(const CPngFile& file);
-[[nodiscard]] QImage decodeWithSpng(const CPngFile& file);
+[[nodiscard]] QImage decodeWithLibpng(const CPictureFile& file);
+[[nodiscard]] QImage decodeWithSpng(const CPictureFile& file);
 
 /// Whether both decoders give exactly these pixels.
-[[nodiscard]] bool decodesTo(const CPngFile& file, const QImage& picture);
+[[nodiscard]] bool decodesTo(const CPictureFile& file, const QImage& picture);
 
 } // namespace tovangl
 

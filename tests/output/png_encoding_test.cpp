@@ -86,7 +86,7 @@ TEST_P(PngOfAPicture, SaysItsResolution)
 TEST_P(PngOfAPicture, IsNoFileWhereThereIsNoPicture)
 {
     QImage nothing;
-    const CPngFile file = encodePng(nothing, GetParam());
+    const CPictureFile file = encodePng(nothing, GetParam());
     EXPECT_NE(file.data, nullptr);
     EXPECT_EQ(file.size, 0u);
 }
@@ -108,7 +108,7 @@ TEST(PngEncoding, DecodesToWhatThePlainFileDoes)
 TEST(PngDecoders, RefuseAFileWithAWrongByte)
 {
     const QImage picture = randomPicture(7, 100, 60, 40);
-    CPngFile file = encoded(picture, Compression::Balanced);
+    CPictureFile file = encoded(picture, Compression::Balanced);
     EXPECT_TRUE(decodesTo(file, picture));
     file.data[file.size / 2] ^= 1U;
     EXPECT_TRUE(decodeWithLibpng(file) != picture);

@@ -137,7 +137,7 @@ TEST(PngTransparency, TellsColoursApartThatDifferInNothingElse)
     QImage picture(256, 1, QImage::Format_ARGB32);
     for (int x = 0; x < picture.width(); ++x)
         picture.setPixel(x, 0, qRgba(9, 9, 9, 255 - x));
-    const CPngFile file = encoded(picture, Compression::Balanced);
+    const CPictureFile file = encoded(picture, Compression::Balanced);
     EXPECT_EQ(chunkOf(bytesOf(file), "tRNS").size(), 255u);
     EXPECT_TRUE(decodesTo(file, picture));
 }
@@ -148,7 +148,7 @@ TEST(PngTransparency, OfASinglePixelAmongManyColoursIsFoundWhereverItIs)
     for (const QPoint place : {QPoint(0, 0), QPoint(66, 0), QPoint(30, 20), QPoint(66, 40)}) {
         QImage changed = picture;
         changed.setPixel(place, qRgba(1, 2, 3, 254));
-        const CPngFile file = encoded(changed, Compression::Balanced);
+        const CPictureFile file = encoded(changed, Compression::Balanced);
         EXPECT_EQ(pixelTypeOf(bytesOf(file)), kTrueColorWithAlpha) << place.x();
         EXPECT_TRUE(decodesTo(file, changed)) << place.x();
     }
