@@ -211,10 +211,26 @@ CSvgFrame CGraph1dBase::svgFrame(const CRequest& request, const QFont& font) con
 {
     CSvgFrame frame{request.width, request.height, font};
     const CGraph1dSettings& settings = input().settings;
+    frame.fontFamily = settings.fontFamily;
     frame.picture = settings.colors.picture;
     frame.title = settings.title.isEmpty() ? QString::fromLatin1(kindName()) : settings.title;
     frame.description = toQString(describe());
+    frame.items = svgItems();
     return frame;
+}
+
+std::vector<CSvgItem> CGraph1dBase::svgItems() const
+{
+    std::vector<CSvgItem> items;
+    const auto add = [&](std::size_t position, const CGraph1dItem& item) {
+        items.push_back({position, itemTitle(item, input().settings.locale), item.link});
+    };
+    for (const std::size_t position : drawnItems())
+        add(position, input().items[position]);
+    const auto others = m_others ? input().gatherOthers(m_others->leftOut) : std::nullopt;
+    if (others)
+        add(m_others->item, *others);
+    return items;
 }
 
 QString CGraph1dBase::addedFamily() const

@@ -25,6 +25,7 @@ class CChartOutput;
 class CTextMeasurer;
 struct CGraph1dInput;
 struct CSvgFrame;
+struct CSvgItem;
 
 /// What the texts of a drawn chart cover.
 struct CDrawnTexts
@@ -121,6 +122,7 @@ private:
     [[nodiscard]] bool wantsOthers() const;
     [[nodiscard]] CKilo kilo() const;
     [[nodiscard]] CRequest screenRequest(int width, int height) const;
+    [[nodiscard]] std::vector<CSvgItem> svgItems() const;
     // Begins a rendering; whether a picture of that size can be made.
     [[nodiscard]] bool begin(const CRequest& request);
     [[nodiscard]] QImage draw(const CRequest& request);

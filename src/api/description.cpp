@@ -102,4 +102,11 @@ std::string describeChart(const char* kind, const CGraph1dInput& input,
     return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }
 
+QString itemTitle(const CGraph1dItem& item, const QLocale& locale)
+{
+    const QString number = numberOf(item.value, locale);
+    const QString caption = oneLine(shortened(item.text));
+    return caption.isEmpty() ? number : caption + QLatin1String(": ") + number;
+}
+
 } // namespace tovangl

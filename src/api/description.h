@@ -6,14 +6,19 @@
 
 #include "input/CLeftOut.h"
 
+#include <QString>
+
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
+class QLocale;
+
 namespace tovangl {
 
 struct CGraph1dInput;
+struct CGraph1dItem;
 
 /// Says how many items were drawn, and names the greatest and the least of them, for a picture's
 /// alternative text. UTF-8.
@@ -24,6 +29,9 @@ struct CGraph1dInput;
 [[nodiscard]] std::string describeChart(const char* kind, const CGraph1dInput& input,
                                         const std::vector<std::size_t>& drawn,
                                         const std::optional<CLeftOut>& others);
+
+/// An item in a few words, such as: Rent: 1,200. For what is shown while a pointer rests on it.
+[[nodiscard]] QString itemTitle(const CGraph1dItem& item, const QLocale& locale);
 
 } // namespace tovangl
 

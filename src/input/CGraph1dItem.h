@@ -16,6 +16,7 @@ struct CGraph1dItem
     QString text;
     QColor color;
     QColor outlineColor; ///< of a bar; the slices of a pie share one
+    QString link = {};   ///< an address that the item leads to; empty: none
 };
 
 } // namespace tovangl

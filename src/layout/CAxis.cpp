@@ -235,7 +235,8 @@ void CAxis::drawLabels(CAxisLayout& axis, CTextMeasurer& measurer) const
         const QRect room =
             movedRectangle(box, axis.shape.frame.resolveOrientedCoordSigned(label.orientedPos));
         label.pixels = coveredPixels(room, axis.isRotated(), startPixel);
-        if (!room.isValid())
+        label.isDrawn = room.isValid();
+        if (!label.isDrawn)
             continue;
         axis.texts.push_back({label.text.getAdjustedText(box.width(), measurer), toRoom(room),
                               alignment, m_look.labelColor, isBold, axis.isRotated(), start,

@@ -29,6 +29,7 @@ struct CBarTextLabel
     COrientedCoord orientedPos = {};
     /// What the text covers on the picture; null where it is not drawn.
     QRect pixels = {};
+    bool isDrawn = false; ///< among the texts of the axis, which are in the order of the labels
 };
 
 /// The result of CAxis::fitToRect(). `line` and `texts` are painted; the rest records how they were

@@ -26,6 +26,10 @@ struct CPieSlice
     QColor color; ///< adapted to the device
 };
 
+/// Dash and gap of a label's dotted beam, in widths of the beam.
+inline constexpr double kBeamDash = 0.3;
+inline constexpr double kBeamGap = 2.5;
+
 /// A slice's label: a dotted beam from the pie to an elbow, a line from there to the text, and the
 /// text. All positions but the last are relative to the pie's centre, y growing downward.
 struct CPlacedPieLabel
@@ -44,6 +48,8 @@ struct CPlacedPieLabel
 /// The frame behind a pie, as large as the picture.
 struct CPieBackground
 {
+    static constexpr int kCornerRadius = 11; ///< pixels before scaling
+
     CVerticalFade fill = {QColor(186, 209, 238), QColor(232, 242, 255)};
     CVerticalFade border = {QColor(149, 167, 190), QColor(186, 194, 204)};
 };

@@ -16,9 +16,8 @@ namespace cdraw {
 
 namespace {
 
-constexpr double kHalfPixel = 0.5;    // of an outline one pixel wide, puts it on pixel centres
-constexpr double kQuarterTurn = 90;   // degrees
-constexpr int kBackgroundRadius = 11; // pixels before scaling
+constexpr double kHalfPixel = 0.5;  // of an outline one pixel wide, puts it on pixel centres
+constexpr double kQuarterTurn = 90; // degrees
 
 // An arc needs a square; without one, only the corner point is added.
 void addCorner(QPainterPath& path, const QRectF& square, double startAngle, const QPointF& corner)
@@ -92,7 +91,8 @@ void drawGradientLine(QPainter& painter, const QPoint& from, const QPoint& to,
 void drawGradientBackground(QPainter& painter, const CPieBackground& background, int scale)
 {
     const QRect window = painter.window();
-    drawGradientRoundRect(painter, kBackgroundRadius * scale, gradientOver(window, background.fill),
+    drawGradientRoundRect(painter, CPieBackground::kCornerRadius * scale,
+                          gradientOver(window, background.fill),
                           gradientOver(window, background.border), scale);
 }
 

@@ -14,10 +14,6 @@ namespace tovangl {
 
 namespace {
 
-// Dash and gap of the dotted beam, in pen widths.
-constexpr double kBeamDash = 0.3;
-constexpr double kBeamGap = 2.5;
-
 QPen makeLinePen(const QColor& color, double width)
 {
     return QPen(QBrush(color), width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);

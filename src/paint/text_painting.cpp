@@ -4,25 +4,16 @@
 
 #include "layout/CPlacedText.h"
 #include "paint/CPainterSaver.h"
+#include "text/aligned_text.h"
 #include "text/qt_text.h"
 
 #include <QPainter>
-#include <QTextOption>
 
 namespace tovangl {
 
 namespace {
 
 constexpr double kReadingUpward = -90.0; // degrees
-
-// Sets the alignment afterwards, because the constructor that takes one would take the reading
-// direction from the host's application object. This way it comes from the text.
-QTextOption alignedTextOption(Qt::Alignment alignment)
-{
-    QTextOption option;
-    option.setAlignment(alignment);
-    return option;
-}
 
 void setBold(QPainter& painter)
 {

@@ -25,7 +25,6 @@ public:
     CSvgMarkup& begin(std::string_view element);
     /// @param value  as it is; it must need no escaping
     CSvgMarkup& attribute(std::string_view name, std::string_view value);
-    /// A number with at most two decimals.
     CSvgMarkup& attribute(std::string_view name, double value);
     CSvgMarkup& color(std::string_view name, const QColor& value);
     /// Any text.
@@ -40,40 +39,12 @@ public:
     /// A whole element of nothing but text.
     void textElement(std::string_view element, const QString& text);
 
-    [[nodiscard]] const std::string& text() const { return m_text; }
-
-private:
-    std::string m_text;
-};
-
-/// A number as the pictures have it: rounded to two decimals, and no longer than it has to be.
-[[nodiscard]] std::string svgNumber(double value);
-/// A colour as "#rrggbb", or "#rgb" where that is the same. A colour that is not set is black.
-[[nodiscard]] std::string svgColor(const QColor& color);
-/// A text as XML can hold it, inside an element or in an attribute: in UTF-8, with no character
-/// that is markup. A replacement character stands for what no XML can hold, a space for white
-/// space.
-[[nodiscard]] std::string svgText(const QString& text);
-
-/// The commands of a path.
-class CSvgPath
-{
-public:
-    CSvgPath& move(double x, double y) { return add('M', x).add(y); }
-    CSvgPath& line(double x, double y) { return add('L', x).add(y); }
-    CSvgPath& across(double x) { return add('H', x); }
-    CSvgPath& down(double y) { return add('V', y); }
-    /// An arc of a circle.
-    CSvgPath& arc(double radius, bool isLarge, bool isClockwise, double x, double y);
-    CSvgPath& close();
+    /// A style sheet; nothing where there are no rules.
+    void styleElement(std::string_view rules);
 
     [[nodiscard]] const std::string& text() const { return m_text; }
 
 private:
-    CSvgPath& add(char command, double number);
-    // A number after another one.
-    CSvgPath& add(double number);
-
     std::string m_text;
 };
 

@@ -4,8 +4,13 @@
 
 #include "layout/CBarLayout.h"
 #include "layout/CPieLayout.h"
-#include "svg/CSvgFrame.h"
+#include "svg/bar_svg.h"
+#include "svg/picture_id.h"
+#include "svg/pie_svg.h"
 #include "svg/svg_shapes.h"
+#include "svg/svg_values.h"
+
+#include <QFontInfo>
 
 #include <algorithm>
 
@@ -13,70 +18,67 @@ namespace tovangl {
 
 namespace {
 
-constexpr double kFullCircle = 16 * 360;
-
-void writeLine(CSvgMarkup& markup, const CStraightLine& line)
+// What a picture with links is to a program that reads it aloud: an image would be one thing, with
+// nothing in it to be reached.
+const char* roleOf(const CSvgFrame& frame)
 {
-    CSvgPath path;
-    addLine(path, line);
-    markup.begin("path").attribute("d", path.text()).color("stroke", line.color);
-    if (line.width != 1)
-        markup.attribute("stroke-width", line.width);
-    markup.end();
+    const bool hasLinks = std::any_of(frame.items.begin(), frame.items.end(),
+                                      [](const CSvgItem& item) { return !item.link.isEmpty(); });
+    return hasLinks ? "group" : "img";
+}
+
+// Spaces at the beginning of texts count, as they do where texts are painted.
+void beginPicture(CSvgMarkup& markup, const CSvgFrame& frame)
+{
+    markup.begin("svg")
+        .attribute("xmlns", "http://www.w3.org/2000/svg")
+        .attribute("width", frame.width)
+        .attribute("height", frame.height)
+        .attribute("viewBox", "0 0 " + svgNumber(frame.width) + ' ' + svgNumber(frame.height))
+        .attribute("role", roleOf(frame))
+        .textAttribute("font-family", svgFontFamily(frame.fontFamily))
+        .attribute("font-size", QFontInfo(frame.font).pixelSize())
+        .attribute("xml:space", "preserve")
+        .open();
+    markup.textElement("title", frame.title);
+    markup.textElement("desc", frame.description);
+}
+
+void fillPicture(CSvgScene& scene)
+{
+    const CSvgFrame& frame = scene.frame;
+    if (frame.picture.alpha() == 0)
+        return;
+    scene.markup.begin("rect").attribute("width", frame.width).attribute("height", frame.height);
+    scene.colors.paint(scene.markup, {{"fill", frame.picture}});
+    scene.markup.end();
 }
 
 } // namespace
 
 CSvgOutput::CSvgOutput(const CSvgFrame& frame)
-    : m_frame(frame)
+    : m_scene(frame)
 {
-    const std::string size = svgNumber(frame.width) + ' ' + svgNumber(frame.height);
-    m_markup.begin("svg")
-        .attribute("xmlns", "http://www.w3.org/2000/svg")
-        .attribute("width", frame.width)
-        .attribute("height", frame.height)
-        .attribute("viewBox", "0 0 " + size)
-        .attribute("role", "img")
-        .open();
-    m_markup.textElement("title", frame.title);
-    m_markup.textElement("desc", frame.description);
-    if (frame.picture.alpha() > 0)
-        m_markup.begin("path")
-            .attribute(
-                "d", CSvgPath().move(0, 0).across(frame.width).down(frame.height).across(0).text())
-            .color("fill", frame.picture)
-            .end();
+    beginPicture(m_scene.markup, frame);
+    fillPicture(m_scene);
 }
 
 void CSvgOutput::paint(const CBarLayout& layout)
 {
-    m_markup.begin("g").attribute("shape-rendering", "crispEdges").open();
-    for (const CStraightLine& line : layout.gridLines)
-        writeLine(m_markup, line);
-    for (const CBar& bar : layout.bars) {
-        if (!bar.rect.isValid())
-            continue;
-        m_markup.begin("rect");
-        outlineAttributes(m_markup, bar.rect, layout.lineWidth);
-        m_markup.color("fill", bar.color).color("stroke", bar.outlineColor).end();
-    }
-    for (const auto& axis : {layout.categoryAxis, layout.numberAxis}) {
-        if (axis->line)
-            writeLine(m_markup, *axis->line);
-    }
-    m_markup.close("g");
+    writeBars(m_scene, layout);
 }
 
 void CSvgOutput::paint(const CPieLayout& layout)
 {
-    static_cast<void>(layout);
-    static_cast<void>(kFullCircle);
+    writePie(m_scene, layout);
 }
 
 CPictureFile CSvgOutput::finish()
 {
-    m_markup.close("svg");
-    const std::string& text = m_markup.text();
+    m_scene.markup.styleElement(m_scene.colors.styleSheet());
+    m_scene.markup.close("svg");
+    std::string text = m_scene.markup.text();
+    setPictureId(text);
     CPictureFile file{std::make_unique<unsigned char[]>(text.size()), text.size()};
     std::copy(text.begin(), text.end(), file.data.get());
     return file;

@@ -6,11 +6,9 @@
 
 #include "layout/CChartOutput.h"
 #include "output/CPictureFile.h"
-#include "svg/CSvgMarkup.h"
+#include "svg/CSvgScene.h"
 
 namespace tovangl {
-
-struct CSvgFrame;
 
 /// Writes a layout as shapes that cover the pixels which the painted picture has.
 class CSvgOutput : public CChartOutput
@@ -23,10 +21,11 @@ public:
     void paint(const CPieLayout& layout) override;
     /// Ends the picture.
     [[nodiscard]] CPictureFile finish();
+    /// All colours so far, in the order of writing.
+    [[nodiscard]] const std::vector<QColor>& usedColors() const { return m_scene.colors.used(); }
 
 private:
-    const CSvgFrame& m_frame;
-    CSvgMarkup m_markup;
+    CSvgScene m_scene;
 };
 
 } // namespace tovangl

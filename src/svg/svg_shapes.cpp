@@ -2,11 +2,10 @@
 // The straight shapes of a chart as SVG, on the same pixels as when they are painted.
 #include "svg/svg_shapes.h"
 
-#include "base/pixel_arithmetic.h"
-#include "layout/CStraightLine.h"
-#include "svg/CSvgMarkup.h"
-
-#include <QRect>
+#include "layout/CBarLayout.h"
+#include "svg/CSvgPath.h"
+#include "svg/CSvgScene.h"
+#include "svg/picture_id.h"
 
 #include <algorithm>
 
@@ -14,48 +13,105 @@ namespace tovangl {
 
 namespace {
 
-constexpr double kHalfPixel = 0.5;
+constexpr double kHalf = 0.5;
 
-void rectAttributes(CSvgMarkup& markup, double x, double y, const QRect& size)
+// From a painted coordinate to the middle of the stroke along it: a pen of an odd width runs along
+// the middle of pixels.
+double strokeOffset(int width)
 {
-    const auto width = inclusiveExtent(size.left(), size.right());
-    const auto height = inclusiveExtent(size.top(), size.bottom());
-    markup.attribute("x", x).attribute("y", y);
-    markup.attribute("width", static_cast<double>(width));
-    markup.attribute("height", static_cast<double>(height));
+    return width % 2 == 0 ? 0 : kHalf;
+}
+
+// A line as long as its square caps make it.
+std::string pathOf(const CStraightLine& line)
+{
+    const double offset = strokeOffset(line.width);
+    const double cap = line.width * kHalf;
+    const int left = std::min(line.from.x(), line.to.x());
+    const int right = std::max(line.from.x(), line.to.x());
+    const int top = std::min(line.from.y(), line.to.y());
+    const int bottom = std::max(line.from.y(), line.to.y());
+    if (top == bottom)
+        return CSvgPath()
+            .move(left + offset - cap, top + offset)
+            .across(right + offset + cap)
+            .text();
+    return CSvgPath().move(left + offset, top + offset - cap).down(bottom + offset + cap).text();
 }
 
 } // namespace
 
-double strokeOffset(int width)
+void writeExtent(CSvgMarkup& markup, const QRectF& rect)
 {
-    return width % 2 == 0 ? 0 : kHalfPixel;
+    markup.attribute("x", rect.x())
+        .attribute("y", rect.y())
+        .attribute("width", rect.width())
+        .attribute("height", rect.height());
 }
 
-void outlineAttributes(CSvgMarkup& markup, const QRect& rect, int outlineWidth)
+void writeStrokeWidth(CSvgMarkup& markup, double width)
+{
+    constexpr double kUsualWidth = 1;
+    if (width < kUsualWidth || width > kUsualWidth)
+        markup.attribute("stroke-width", width);
+}
+
+void writeLine(CSvgScene& scene, const CStraightLine& line)
+{
+    scene.markup.begin("path").attribute("d", pathOf(line));
+    scene.colors.paint(scene.markup, {{"stroke", line.color}});
+    writeStrokeWidth(scene.markup, line.width);
+    scene.markup.end();
+}
+
+void writeBar(CSvgScene& scene, const CBar& bar, int outlineWidth)
 {
     const double offset = strokeOffset(outlineWidth);
-    rectAttributes(markup, rect.left() + offset, rect.top() + offset, rect);
+    scene.markup.begin("rect");
+    writeExtent(scene.markup, toRoom(bar.rect).translated(offset, offset));
+    scene.colors.paint(scene.markup, {{"fill", bar.color}, {"stroke", bar.outlineColor}});
+    writeStrokeWidth(scene.markup, outlineWidth);
+    scene.markup.end();
 }
 
-void pixelAttributes(CSvgMarkup& markup, const QRect& rect)
+// In two themes, one of the two fades can be of equal colours.
+CSvgFade::CSvgFade(CSvgScene& scene, const CVerticalFade& fade, double top, double bottom)
+    : m_color(fade.top)
 {
-    rectAttributes(markup, rect.left(), rect.top(), rect);
+    if (fade.top == fade.bottom && !scene.frame.isOneOfTwo)
+        return;
+    const std::string id = pictureId() + static_cast<char>('a' + scene.fades++);
+    m_address = "url(#" + id + ')';
+    scene.markup.begin("linearGradient")
+        .attribute("id", id)
+        .attribute("gradientUnits", "userSpaceOnUse")
+        .attribute("x2", 0)
+        .attribute("y1", top)
+        .attribute("y2", bottom)
+        .open();
+    scene.markup.begin("stop");
+    scene.colors.paint(scene.markup, {{"stop-color", fade.top}});
+    scene.markup.end();
+    scene.markup.begin("stop").attribute("offset", 1);
+    scene.colors.paint(scene.markup, {{"stop-color", fade.bottom}});
+    scene.markup.end();
+    scene.markup.close("linearGradient");
 }
 
-void addLine(CSvgPath& path, const CStraightLine& line)
+void CSvgFade::paint(CSvgScene& scene, std::string_view property) const
 {
-    const double offset = strokeOffset(line.width);
-    const double cap = line.width * kHalfPixel;
-    if (line.from.y() == line.to.y()) {
-        const int first = std::min(line.from.x(), line.to.x());
-        const int last = std::max(line.from.x(), line.to.x());
-        path.move(first + offset - cap, line.from.y() + offset).across(last + offset + cap);
-    } else {
-        const int first = std::min(line.from.y(), line.to.y());
-        const int last = std::max(line.from.y(), line.to.y());
-        path.move(line.from.x() + offset, first + offset - cap).down(last + offset + cap);
-    }
+    if (m_address.empty())
+        scene.colors.paint(scene.markup, {{property, m_color}});
+    else
+        scene.markup.attribute(property, m_address);
+}
+
+void writePixels(CSvgScene& scene, const QRect& pixels, const CSvgFade& fill)
+{
+    scene.markup.begin("rect");
+    writeExtent(scene.markup, toRoom(pixels));
+    fill.paint(scene, "fill");
+    scene.markup.end();
 }
 
 } // namespace tovangl

@@ -4,24 +4,45 @@
 #ifndef TOVANGL_SVG_SVG_SHAPES_H
 #define TOVANGL_SVG_SVG_SHAPES_H
 
-class QRect;
+#include <QColor>
+#include <QRectF>
+
+#include <string>
+#include <string_view>
 
 namespace tovangl {
 
 class CSvgMarkup;
-class CSvgPath;
+struct CBar;
+struct CSvgScene;
 struct CStraightLine;
+struct CVerticalFade;
 
-/// From a painted coordinate to the middle of a stroke along it: a pen of an odd width runs along
-/// the middle of pixels.
-[[nodiscard]] double strokeOffset(int width);
+/// Writes the place of a rectangle.
+void writeExtent(CSvgMarkup& markup, const QRectF& rect);
+/// Writes the width of a stroke, if it is not the usual one.
+void writeStrokeWidth(CSvgMarkup& markup, double width);
 
-/// Writes a rectangle's attributes for a stroke along its edges.
-void outlineAttributes(CSvgMarkup& markup, const QRect& rect, int outlineWidth);
-/// Writes a rectangle's attributes for a filling of its pixels.
-void pixelAttributes(CSvgMarkup& markup, const QRect& rect);
-/// Adds a line to a path, as long as its caps make it.
-void addLine(CSvgPath& path, const CStraightLine& line);
+void writeLine(CSvgScene& scene, const CStraightLine& line);
+void writeBar(CSvgScene& scene, const CBar& bar, int outlineWidth);
+
+/// A fade from one height of the picture to another as a shape's fill or stroke.
+class CSvgFade
+{
+public:
+    /// Defines the gradient, if there is one. It must stand before the shape begins.
+    CSvgFade(CSvgScene& scene, const CVerticalFade& fade, double top, double bottom);
+
+    /// @param property  "fill" or "stroke"
+    void paint(CSvgScene& scene, std::string_view property) const;
+
+private:
+    QColor m_color;        // of a fade between equal colours
+    std::string m_address; // of the gradient; empty: none
+};
+
+/// Writes the filling of whole pixels.
+void writePixels(CSvgScene& scene, const QRect& pixels, const CSvgFade& fill);
 
 } // namespace tovangl
 

@@ -87,18 +87,25 @@ qreal hangingSpace(QTextLine line)
     return qMax<qreal>(0, kUnlimitedWidth - left);
 }
 
-void drawLines(QPainter& painter, const QRectF& rect, const QTextLayout& layout, qreal top,
-               Qt::Alignment alignment)
+// A text laid out in a rectangle.
+struct CLaidOutText
 {
-    for (int i = 0; i < layout.lineCount(); ++i) {
-        const QTextLine line = layout.lineAt(i);
+    const QTextLayout& layout;
+    QRectF rect;
+    qreal top; // of the lines, below that of the rectangle
+    Qt::Alignment alignment;
+    bool fits; // if not, the rectangle cuts it off
+
+    // From the layout's origin to where a line is drawn.
+    [[nodiscard]] QPointF offset(const QTextLine& line) const
+    {
         qreal left = alignedOffset(rect.width() - line.horizontalAdvance(),
                                    alignment & Qt::AlignRight, alignment & Qt::AlignHCenter);
         if (alignment & Qt::AlignRight)
             left -= hangingSpace(line);
-        line.draw(&painter, QPointF(rect.x() + left, rect.y() + top));
+        return rect.topLeft() + QPointF(left, top);
     }
-}
+};
 
 // Clips to all pixels that the rectangle touches. The painter's own clip is rounded to the nearest
 // pixels since Qt 6, which would cut the first column of a text that begins in half a pixel.
@@ -114,9 +121,10 @@ void clipToTouchedPixels(QPainter& painter, const QRectF& rect)
     painter.setWorldTransform(transform);
 }
 
-// Draws one variant; where there is another one to try, only if this one fits.
-bool drawVariant(QPainter& painter, const QRectF& rect, const QString& text,
-                 const QTextOption& option, bool isLast)
+// Uses one variant as it is laid out; where there is another one to try, only if this one fits.
+template <typename Use>
+bool layOutVariant(const QFont& font, const QRectF& rect, const QString& text,
+                   const QTextOption& option, bool isLast, Use use)
 {
     // Deliberate: the painter draws nothing from an empty variant on, whatever follows it.
     if (text.isEmpty())
@@ -125,13 +133,13 @@ bool drawVariant(QPainter& painter, const QRectF& rect, const QString& text,
     const Qt::Alignment alignment = option.alignment();
     QTextOption lineOption = option;
     lineOption.setAlignment(Qt::AlignLeft); // lines are aligned when they are drawn
-    QTextLayout layout(text, painter.font());
+    QTextLayout layout(text, font);
     layout.setTextOption(lineOption);
     layout.setCacheEnabled(true);
 
     const bool wraps = option.wrapMode() != QTextOption::NoWrap;
     const QSizeF size = layoutLines(layout, wraps ? qMax<qreal>(0, rect.width()) : kUnlimitedWidth,
-                                    rect.height(), wholePixelMetrics(painter.font()).leading);
+                                    rect.height(), wholePixelMetrics(font).leading);
     const qreal left = alignedOffset(rect.width() - size.width(), alignment & Qt::AlignRight,
                                      alignment & Qt::AlignHCenter);
     const qreal top = alignedOffset(rect.height() - size.height(), alignment & Qt::AlignBottom,
@@ -139,15 +147,56 @@ bool drawVariant(QPainter& painter, const QRectF& rect, const QString& text,
     const bool fits = rect.contains(QRectF(rect.topLeft() + QPointF(left, top), size));
     if (!fits && !isLast)
         return false;
-
-    if (!fits) {
-        painter.save();
-        clipToTouchedPixels(painter, rect);
-    }
-    drawLines(painter, rect, layout, top, alignment);
-    if (!fits)
-        painter.restore();
+    use(CLaidOutText{layout, rect, top, alignment, fits});
     return true;
+}
+
+// Uses the first variant that fits, or else the last one; none if that is empty.
+template <typename Use>
+void layOutText(const QFont& font, const QRectF& rect, const QString& text,
+                const QTextOption& option, Use use)
+{
+    const QString printable = printableText(text);
+    int begin = 0;
+    while (begin <= printable.size()) {
+        const int separator = static_cast<int>(printable.indexOf(QChar(kVariantSeparator), begin));
+        const int end = separator < 0 ? static_cast<int>(printable.size()) : separator;
+        if (layOutVariant(font, rect, printable.mid(begin, end - begin), option, separator < 0,
+                          use))
+            return;
+        begin = end + 1;
+    }
+}
+
+void drawLines(QPainter& painter, const CLaidOutText& text)
+{
+    if (!text.fits) {
+        painter.save();
+        clipToTouchedPixels(painter, text.rect);
+    }
+    for (int i = 0; i < text.layout.lineCount(); ++i) {
+        const QTextLine line = text.layout.lineAt(i);
+        line.draw(&painter, text.offset(line));
+    }
+    if (!text.fits)
+        painter.restore();
+}
+
+// Without the white space at its end, which takes no room.
+QString visiblePart(QString text)
+{
+    while (!text.isEmpty() && text.back().isSpace())
+        text.chop(1);
+    return text;
+}
+
+CTextLine toTextLine(const QTextLine& line, const CLaidOutText& text)
+{
+    const QString whole = text.layout.text();
+    const QPointF position = text.offset(line) + line.position();
+    return {visiblePart(whole.mid(line.textStart(), line.textLength())),
+            QPointF(position.x(), position.y() + line.ascent()), line.naturalTextWidth(),
+            whole.isRightToLeft()};
 }
 
 } // namespace
@@ -179,15 +228,20 @@ QRectF measureWholePixelText(const QPainter& painter, const QRectF& rect, const 
 void drawWholePixelText(QPainter& painter, const QRectF& rect, const QString& text,
                         const QTextOption& option)
 {
-    const QString printable = printableText(text);
-    int begin = 0;
-    while (begin <= printable.size()) {
-        const int separator = static_cast<int>(printable.indexOf(QChar(kVariantSeparator), begin));
-        const int end = separator < 0 ? static_cast<int>(printable.size()) : separator;
-        if (drawVariant(painter, rect, printable.mid(begin, end - begin), option, separator < 0))
-            return;
-        begin = end + 1;
-    }
+    layOutText(painter.font(), rect, text, option,
+               [&painter](const CLaidOutText& laidOut) { drawLines(painter, laidOut); });
+}
+
+CTextLines wholePixelLines(const QFont& font, const QRectF& rect, const QString& text,
+                           const QTextOption& option)
+{
+    CTextLines result;
+    layOutText(font, rect, text, option, [&result](const CLaidOutText& laidOut) {
+        result.isCut = !laidOut.fits;
+        for (int i = 0; i < laidOut.layout.lineCount(); ++i)
+            result.lines.push_back(toTextLine(laidOut.layout.lineAt(i), laidOut));
+    });
+    return result;
 }
 
 } // namespace qt

@@ -7,9 +7,14 @@
 #ifndef TOVANGL_TEXT_WHOLE_PIXEL_TEXT_H
 #define TOVANGL_TEXT_WHOLE_PIXEL_TEXT_H
 
+#include <QPointF>
+#include <QString>
+
+#include <vector>
+
+class QFont;
 class QPainter;
 class QRectF;
-class QString;
 class QTextOption;
 
 namespace tovangl {
@@ -26,6 +31,25 @@ namespace qt {
 /// larger.
 void drawWholePixelText(QPainter& painter, const QRectF& rect, const QString& text,
                         const QTextOption& option);
+
+/// A line of a text, without the white space at its end.
+struct CTextLine
+{
+    QString text;
+    QPointF start; ///< the left end of its baseline
+    double width = 0;
+    bool isRightToLeft = false;
+};
+
+struct CTextLines
+{
+    std::vector<CTextLine> lines;
+    bool isCut = false; ///< whether the rectangle cuts the text off
+};
+
+/// The lines that drawWholePixelText() draws with a painter of that font.
+[[nodiscard]] CTextLines wholePixelLines(const QFont& font, const QRectF& rect, const QString& text,
+                                         const QTextOption& option);
 
 } // namespace qt
 } // namespace tovangl
