@@ -22,8 +22,14 @@ namespace tovangl {
 namespace {
 
 constexpr double kHalf = 0.5;
+constexpr double kHalfTurn = 180; // degrees
 // Pixels. A thinner line is painted as wide as this, but the paler.
 constexpr double kThinnestLine = 1;
+
+double degrees(int units)
+{
+    return units / double{cdraw::kUnitsPerDegree};
+}
 
 // Where the rim of a pie is in a direction; degrees counter-clockwise from three o'clock.
 QPointF onRim(const QRectF& pie, double angle)
@@ -33,27 +39,54 @@ QPointF onRim(const QRectF& pie, double angle)
                                   -pie.height() * kHalf * std::sin(radians));
 }
 
-// The rim is written in two arcs: one alone would be nothing where it ends at its beginning.
+// An arc that ends near its beginning would be nothing: more than half a turn takes two.
 void addRim(CSvgPath& path, const QRectF& pie, double start, double span)
 {
-    for (const double share : {kHalf, 1.0}) {
-        const QPointF point = onRim(pie, start + span * share);
+    const auto add = [&](double angle) {
+        const QPointF point = onRim(pie, angle);
         path.arc(pie.width() * kHalf, pie.height() * kHalf, span < 0, point.x(), point.y());
-    }
+    };
+    if (std::fabs(span) > kHalfTurn)
+        add(start + span * kHalf);
+    add(start + span);
 }
 
 std::string slicePath(const QRectF& pie, const CSliceAngles& angles, bool isWholeDisc)
 {
-    constexpr double kUnits = cdraw::kUnitsPerDegree;
-    const double start = angles.start / kUnits;
+    const double start = degrees(angles.start);
     const QPointF first = onRim(pie, start);
     CSvgPath path;
     if (isWholeDisc)
         path.move(first.x(), first.y());
     else
         path.move(pie.center().x(), pie.center().y()).line(first.x(), first.y());
-    addRim(path, pie, start, angles.span / kUnits);
+    addRim(path, pie, start, degrees(angles.span));
     return path.close().text();
+}
+
+// A line that is no wider than a pixel is painted one pixel thick along the rows or columns that it
+// crosses. It is the thinner the nearer it is to a diagonal. Degrees.
+double paintedWidth(double angle)
+{
+    const double radians = qDegreesToRadians(angle);
+    return std::max(std::fabs(std::sin(radians)), std::fabs(std::cos(radians)));
+}
+
+// The width of a slice's outline: where it is painted with a varying one, the mean of that.
+double strokeWidth(const CPieLayout& layout, const CSliceAngles& angles)
+{
+    constexpr int kParts = 32; // of the arc
+    if (layout.outlineWidth > kThinnestLine)
+        return layout.outlineWidth;
+    const double start = degrees(angles.start);
+    const double span = degrees(angles.span);
+    double ofArc = 0;
+    for (int i = 0; i < kParts; ++i)
+        ofArc += paintedWidth(start + span * (i + kHalf) / kParts) / kParts;
+    if (layout.isWholeDisc)
+        return ofArc;
+    const double arcLength = qDegreesToRadians(std::fabs(span)); // in radiuses
+    return (paintedWidth(start) + paintedWidth(start + span) + arcLength * ofArc) / (2 + arcLength);
 }
 
 void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
@@ -61,37 +94,55 @@ void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& sli
     scene.markup.begin("path").attribute(
         "d", slicePath(layout.drawnPieRect, slice.angles, layout.isWholeDisc));
     scene.colors.paint(scene.markup, {{"fill", slice.color}, {"stroke", layout.outlineColor}});
-    writeStrokeWidth(scene.markup, layout.outlineWidth);
+    writeStrokeWidth(scene.markup, strokeWidth(layout, slice.angles));
     scene.markup.end();
 }
 
-void writeLabelLine(CSvgScene& scene, const CPieLayout& layout, const QPointF& from,
-                    const QPointF& to, double width)
+std::string linePath(const QPointF& from, const QPointF& to)
 {
-    const QPointF center = layout.shift + layout.center();
-    const QPointF first = center + from;
-    const QPointF last = center + to;
-    scene.markup.begin("path").attribute(
-        "d", CSvgPath().move(first.x(), first.y()).line(last.x(), last.y()).text());
+    CSvgPath path;
+    path.move(from.x(), from.y());
+    const bool isLevel = svgNumber(from.y()) == svgNumber(to.y());
+    return (isLevel ? path.across(to.x()) : path.line(to.x(), to.y())).text();
+}
+
+// From a slice to the elbow.
+void writeBeam(CSvgScene& scene, const CPieLayout& layout, const QPointF& from, const QPointF& to)
+{
+    const std::string dashes =
+        svgNumber(kBeamDash * layout.beamWidth) + ' ' + svgNumber(kBeamGap * layout.beamWidth);
+    scene.markup.begin("path").attribute("d", linePath(from, to));
     scene.colors.paint(scene.markup, {{"stroke", layout.labelLineColor}});
-    if (width < kThinnestLine)
-        scene.markup.attribute("stroke-opacity", width);
-    else
-        writeStrokeWidth(scene.markup, width);
+    writeStrokeWidth(scene.markup, layout.beamWidth);
+    scene.markup.attribute("stroke-dasharray", dashes).end();
+}
+
+// From the elbow to the text.
+void writeTextLine(CSvgScene& scene, const CPieLayout& layout, const QPointF& from,
+                   const QPointF& to)
+{
+    scene.markup.begin("path").attribute("d", linePath(from, to));
+    scene.colors.paint(scene.markup, {{"stroke", layout.labelLineColor}});
+    if (layout.textLineWidth < kThinnestLine) {
+        const QPointF way = to - from;
+        writeStrokeWidth(scene.markup,
+                         paintedWidth(qRadiansToDegrees(std::atan2(way.y(), way.x()))));
+        scene.markup.attribute("stroke-opacity", layout.textLineWidth);
+    } else {
+        writeStrokeWidth(scene.markup, layout.textLineWidth);
+    }
+    scene.markup.end();
 }
 
 void writeLabel(CSvgScene& scene, const CPieLayout& layout, const CPlacedPieLabel& label)
 {
     if (label.isHidden)
         return;
-    const std::string dashes =
-        svgNumber(kBeamDash * layout.beamWidth) + ' ' + svgNumber(kBeamGap * layout.beamWidth);
-    writeLabelLine(scene, layout, label.beamStart, label.elbow, layout.beamWidth);
-    scene.markup.attribute("stroke-dasharray", dashes).end();
-    writeLabelLine(scene, layout, label.elbow, label.lineEnd, layout.textLineWidth);
-    scene.markup.end();
+    const QPointF center = layout.shift + layout.center();
+    writeBeam(scene, layout, center + label.beamStart, center + label.elbow);
+    writeTextLine(scene, layout, center + label.elbow, center + label.lineEnd);
     for (const CPlacedText& text : label.texts)
-        writeText(scene, text, layout.shift + layout.center());
+        writeText(scene, text, center);
 }
 
 // A rounded frame along the middle of the picture's outermost pixels.

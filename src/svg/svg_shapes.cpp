@@ -6,6 +6,7 @@
 #include "svg/CSvgPath.h"
 #include "svg/CSvgScene.h"
 #include "svg/picture_id.h"
+#include "svg/svg_values.h"
 
 #include <algorithm>
 
@@ -51,9 +52,9 @@ void writeExtent(CSvgMarkup& markup, const QRectF& rect)
 
 void writeStrokeWidth(CSvgMarkup& markup, double width)
 {
-    constexpr double kUsualWidth = 1;
-    if (width < kUsualWidth || width > kUsualWidth)
-        markup.attribute("stroke-width", width);
+    const std::string number = svgNumber(width);
+    if (number != "1")
+        markup.attribute("stroke-width", number);
 }
 
 void writeLine(CSvgScene& scene, const CStraightLine& line)

@@ -49,7 +49,8 @@ void writeLineOfText(CSvgScene& scene, const qt::CTextLine& line, const CPlacedT
         markup.attribute("transform", turn);
     if (text.isBold)
         markup.attribute("font-weight", "bold");
-    scene.colors.paint(markup, {{"fill", text.color}});
+    if (scene.frame.isOneOfTwo || text.color != QColor(Qt::black))
+        scene.colors.paint(markup, {{"fill", text.color}});
     if (line.width > 0)
         markup.attribute("textLength", line.width).attribute("lengthAdjust", "spacingAndGlyphs");
     markup.open().content(line.text).close("text");
