@@ -20,7 +20,7 @@ namespace tovangl {
 
 class CGraph1dBase;
 
-/// The base of the charts: settings, export as PNG, and the caption rectangles.
+/// The base of the charts: settings, export as PNG or SVG, and the caption rectangles.
 ///
 /// Use VerticalBarGraph, HorizontalBarGraph or PieGraph; a plain Graph holds no chart, and its
 /// operations do nothing. Only one thread at a time can use a chart; different threads can use
@@ -121,6 +121,16 @@ public:
 
     /// The value of the item that gathers them; 0 where there is none.
     long othersValue() const;
+
+    /// Gives an item an address: its bar or slice and its caption in an SVG picture are a link to
+    /// it.
+    ///
+    /// @param item     position in the order of adding, from 0
+    /// @param address  UTF-8; begins with http:, https: or mailto:, or is relative to the page;
+    ///                 empty for no link
+    /// @return whether it was set: not where there is no such item, nor for any other address, such
+    ///         as one with white space or control characters, or one that would run a script
+    bool setLink(std::size_t item, const std::string& address);
 
     /// Sets the colours of items that have none of their own: the first is that of the first item,
     /// and after the last comes the first again. A colour that is not set leaves that item's
@@ -224,6 +234,13 @@ public:
 
     /// Renders the chart as an SVG picture: the one that createPixmap() makes of that size, in
     /// shapes and texts instead of pixels.
+    ///
+    /// Every shape and text is where the PNG has it, and the rectangles are the same. The picture
+    /// has the title and the description of the chart. Each item is a group with an id, the class
+    /// "item", and its caption and value, which browsers show while the pointer rests on it. The
+    /// ids of a picture begin with a few characters that are computed from the picture: in one
+    /// page, only equal pictures share ids. It needs no script and runs none, whatever the captions
+    /// hold.
     ///
     /// @param width, height  picture size in pixels
     /// @param data, size     as for createPixmap()

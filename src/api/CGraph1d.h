@@ -33,21 +33,30 @@ protected:
                                               const std::vector<std::size_t>& drawn,
                                               const std::optional<CGraph1dItem>& others) final
     {
-        m_layout = others ? layOutWith(*others, drawn, request, measurer)
+        m_layout = others ? layOutWith(m_input, *others, drawn, request, measurer)
                           : computeLayout(m_input, drawn, request, measurer);
         if (!m_layout.fits())
             return std::nullopt;
         return CDrawnTexts{titleRect(m_layout), captionRects(m_layout)};
     }
     void paintContents(CChartOutput& output) const final { output.paint(m_layout); }
+    void paintInTheme(std::string_view theme, CTextMeasurer& measurer, const CRequest& request,
+                      const std::vector<std::size_t>& drawn,
+                      const std::optional<CGraph1dItem>& others, CChartOutput& output) const final
+    {
+        Input input = m_input;
+        static_cast<void>(applySetting(CSettingTarget(input), "theme", theme));
+        output.paint(others ? layOutWith(std::move(input), *others, drawn, request, measurer)
+                            : computeLayout(input, drawn, request, measurer));
+    }
     void forgetLayout() final { m_layout = Layout(); }
 
 private:
     // The layout of a chart with one more item. The host's own items stay as they are.
-    Layout layOutWith(const CGraph1dItem& others, std::vector<std::size_t> drawn,
-                      const CRequest& request, CTextMeasurer& measurer) const
+    static Layout layOutWith(Input input, const CGraph1dItem& others,
+                             std::vector<std::size_t> drawn, const CRequest& request,
+                             CTextMeasurer& measurer)
     {
-        Input input = m_input;
         drawn.push_back(input.items.size());
         input.items.push_back(others);
         return computeLayout(input, drawn, request, measurer);

@@ -8,6 +8,8 @@
 #include "base/CGlobal.h"
 #include "base/host_text.h"
 #include "input/CGraph1dInput.h"
+#include "input/setting_values.h"
+#include "input/themes.h"
 #include "output/png_encoding.h"
 #include "output/raster_surface.h"
 #include "paint/CCanvas.h"
@@ -114,13 +116,33 @@ CPictureFile CGraph1dBase::getSvg(int width, int height)
         return noPictureFile();
     CCanvas canvas(gauge, input().settings, request, addedFamily());
     m_isDrawn = layOut(canvas, request);
-    const CSvgFrame frame = svgFrame(request, canvas.font());
+    CPictureFile file = writeSvg(canvas, request);
+    m_problem = findProblem(canvas);
+    return file;
+}
+
+CPictureFile CGraph1dBase::writeSvg(CCanvas& canvas, const CRequest& request) const
+{
+    CSvgFrame frame = svgFrame(request, canvas.font());
+    if (frame.isOneOfTwo)
+        frame.darkColors = darkColors(frame, canvas, request);
     CSvgOutput output(frame);
     if (m_isDrawn)
         paintContents(output);
-    CPictureFile file = output.finish();
-    m_problem = findProblem(canvas);
-    return file;
+    return output.finish();
+}
+
+std::vector<QColor> CGraph1dBase::darkColors(CSvgFrame frame, CCanvas& canvas,
+                                             const CRequest& request) const
+{
+    constexpr const char* kTheme = "dark";
+    // What shows through a transparent picture is the page, which has its own dark colours.
+    if (frame.picture.alpha() > 0)
+        frame.picture = parsePictureColor(themeValue(kTheme, "picture_color")).value_or(Qt::black);
+    CSvgOutput output(frame);
+    if (m_isDrawn)
+        paintInTheme(kTheme, canvas.measurer(), request, m_selectedItems, gatheredItem(), output);
+    return output.usedColors();
 }
 
 const CPictureFile& CGraph1dBase::paintDevice2Bytes(QImage& image)
@@ -216,6 +238,7 @@ CSvgFrame CGraph1dBase::svgFrame(const CRequest& request, const QFont& font) con
     frame.title = settings.title.isEmpty() ? QString::fromLatin1(kindName()) : settings.title;
     frame.description = toQString(describe());
     frame.items = svgItems();
+    frame.isOneOfTwo = settings.followsDisplay;
     return frame;
 }
 
@@ -227,10 +250,14 @@ std::vector<CSvgItem> CGraph1dBase::svgItems() const
     };
     for (const std::size_t position : drawnItems())
         add(position, input().items[position]);
-    const auto others = m_others ? input().gatherOthers(m_others->leftOut) : std::nullopt;
-    if (others)
+    if (const auto others = gatheredItem())
         add(m_others->item, *others);
     return items;
+}
+
+std::optional<CGraph1dItem> CGraph1dBase::gatheredItem() const
+{
+    return m_others ? input().gatherOthers(m_others->leftOut) : std::nullopt;
 }
 
 QString CGraph1dBase::addedFamily() const

@@ -107,6 +107,11 @@ protected:
                    const std::optional<CGraph1dItem>& others) = 0;
     /// Paints the last layout.
     virtual void paintContents(CChartOutput& output) const = 0;
+    /// Paints the chart as it would be in a theme.
+    virtual void paintInTheme(std::string_view theme, CTextMeasurer& measurer,
+                              const CRequest& request, const std::vector<std::size_t>& drawn,
+                              const std::optional<CGraph1dItem>& others,
+                              CChartOutput& output) const = 0;
     /// Drops the last layout's results for removed items.
     virtual void forgetLayout() = 0;
 
@@ -123,6 +128,8 @@ private:
     [[nodiscard]] CKilo kilo() const;
     [[nodiscard]] CRequest screenRequest(int width, int height) const;
     [[nodiscard]] std::vector<CSvgItem> svgItems() const;
+    // The item that the last rendering gathered, as far as the host still wants it.
+    [[nodiscard]] std::optional<CGraph1dItem> gatheredItem() const;
     // Begins a rendering; whether a picture of that size can be made.
     [[nodiscard]] bool begin(const CRequest& request);
     [[nodiscard]] QImage draw(const CRequest& request);
@@ -131,6 +138,11 @@ private:
     // What was wrong with a picture that could be made.
     [[nodiscard]] Problem findProblem(const CCanvas& canvas) const;
     [[nodiscard]] QString addedFamily() const;
+    // The chart as laid out, as an SVG file.
+    [[nodiscard]] CPictureFile writeSvg(CCanvas& canvas, const CRequest& request) const;
+    // The colours of a picture in the dark theme, in the order in which they are written.
+    [[nodiscard]] std::vector<QColor> darkColors(CSvgFrame frame, CCanvas& canvas,
+                                                 const CRequest& request) const;
     [[nodiscard]] CSvgFrame svgFrame(const CRequest& request, const QFont& font) const;
     void recordCaptions(const std::vector<QRect>& captions);
 

@@ -111,6 +111,11 @@ long Graph::othersValue() const
     return m_graph ? static_cast<long>(m_graph->gathered().value()) : 0;
 }
 
+bool Graph::setLink(std::size_t item, const std::string& address)
+{
+    return m_graph && m_graph->input().setLink(item, address);
+}
+
 void Graph::setPalette(const std::vector<Color>& colors)
 {
     if (!m_graph)

@@ -2,7 +2,9 @@
 // What every chart is drawn from.
 #include "input/CGraph1dInput.h"
 
+#include "base/host_text.h"
 #include "input/default_palette.h"
+#include "input/link_address.h"
 
 namespace tovangl {
 
@@ -17,6 +19,14 @@ void CGraph1dInput::addItem(long long value, const QString& text, const QColor& 
                             const QColor& outlineColor)
 {
     items.push_back({value, text, color, outlineColor});
+}
+
+bool CGraph1dInput::setLink(std::size_t item, std::string_view address)
+{
+    if (item >= items.size() || (!address.empty() && !isLinkAddress(address)))
+        return false;
+    items[item].link = toQString(address);
+    return true;
 }
 
 // Deliberate: the position among all items decides. An item with its own colour also uses up a

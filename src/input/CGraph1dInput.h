@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace tovangl {
@@ -20,6 +21,11 @@ struct CGraph1dInput
     /// Adds an item at the end. An invalid colour is not set.
     void addItem(long long value, const QString& text, const QColor& color,
                  const QColor& outlineColor);
+    /// Gives an item an address, or takes it away where that is empty.
+    ///
+    /// @param address  UTF-8
+    /// @return whether there is such an item, and isLinkAddress()
+    bool setLink(std::size_t item, std::string_view address);
     /// The colour that an item is filled with: its own, or else the palette's.
     [[nodiscard]] QColor fillColor(std::size_t item) const;
     /// The colour of a bar's outline: its own, or else the chart's, or else a darker fill colour.

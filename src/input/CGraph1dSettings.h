@@ -45,6 +45,7 @@ struct CGraph1dSettings
     CChartColors colors;
     bool hasBackground = false; ///< a gradient behind the chart, and a border around bars
     int scale = 1;              ///< picture pixels for each pixel of the size asked for; at least 1
+    bool followsDisplay = false; ///< an SVG picture is dark on displays that are
     /// For unit prefixes, and for the steps of value axes; none: that of the process.
     std::optional<CKilo> kilo;
     Compression compression = Compression::Balanced;

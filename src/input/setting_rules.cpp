@@ -124,6 +124,11 @@ bool writeKilo(Target target, Text value)
     return true;
 }
 
+bool writeFollowsDisplay(Target target, Text value)
+{
+    return store(target.settings.followsDisplay, parseBoolean(value));
+}
+
 bool writeFast(Target target, Text value)
 {
     const std::optional<bool> isFast = parseBoolean(value);
@@ -290,6 +295,9 @@ constexpr std::array kRules = {
     whole("scale", kAll, 1, CGraph1dSettings::kGreatestScale, "1",
           "Picture pixels, each way, for each pixel of the size: 2 for displays of high density.",
           writeScale),
+    flag("follow_display", kAll,
+         "Gives an SVG picture the colours of the theme dark on displays that are set to dark.",
+         writeFollowsDisplay),
     flag("fast", kAll, "Saves faster, in a larger file.", writeFast),
     axis("category_axis", kBars, "line,labels,hide-overlapped",
          "What the axis with the captions shows.", writeCategoryAxis),
