@@ -6,9 +6,7 @@
 #include "common/html_text.h"
 #include "common/image_map.h"
 #include "common/page_frame.h"
-
-#include <algorithm>
-#include <cctype>
+#include "tovangl-chart/picture_format.h"
 
 namespace tovangl::program {
 
@@ -22,26 +20,13 @@ constexpr const char* kStyle =
        font: 15px/1.45 sans-serif; }
 h1 { font-size: 22px; overflow-wrap: anywhere; }
 .picture { overflow-x: auto; }
-.picture img { display: block; border: 0; }
+.picture img, .picture svg { display: block; border: 0; }
 table { border-collapse: collapse; width: 100%; margin: 16px 0; font-size: 14px; }
 th, td { padding: 2px 8px; text-align: right; border-bottom: 1px solid #e4e4e4; }
 th { font-weight: normal; color: #666; }
 th:first-child, td:first-child { width: 99%; text-align: left; overflow-wrap: anywhere; }
 tr:target { background: #fff3c4; }
 )";
-
-bool endsWith(std::string_view name, std::string_view ending)
-{
-    return name.size() >= ending.size() &&
-           std::equal(ending.rbegin(), ending.rend(), name.rbegin(), [](char expected, char found) {
-               return std::tolower(static_cast<unsigned char>(found)) == expected;
-           });
-}
-
-std::string anchorOf(std::size_t index)
-{
-    return "item-" + std::to_string(index + 1);
-}
 
 // Others that gather nothing have no row, and their regions are empty.
 ChartItems rowsOf(const ChartItems& items, const ChartRegions& regions)
@@ -56,7 +41,7 @@ RegionLink linkOf(const ChartItems& rows, std::size_t index)
 {
     const std::string text =
         displayName(rows[index].caption) + ": " + std::to_string(rows[index].value);
-    return {'#' + anchorOf(index), text, text};
+    return {'#' + itemAnchor(index), text, text};
 }
 
 // Where regions overlap, the first one wins, so captions come before bars and slices: that is what
@@ -81,7 +66,7 @@ std::string tableHtml(const ChartItems& rows)
 {
     std::string html = "<table>\n<thead><tr><th>Item</th><th>Value</th></tr></thead>\n<tbody>\n";
     for (std::size_t i = 0; i < rows.size(); ++i)
-        html += "<tr id=\"" + anchorOf(i) + "\"><td><bdi>" +
+        html += "<tr id=\"" + itemAnchor(i) + "\"><td><bdi>" +
                 escapeHtml(displayName(rows[i].caption)) + "</bdi></td><td>" +
                 std::to_string(rows[i].value) + "</td></tr>\n";
     return html + "</tbody>\n</table>\n";
@@ -101,11 +86,22 @@ MappedPicture mappedPicture(const ChartPictures& pictures, const ChartRegions& r
     return picture;
 }
 
+// A picture that is part of the page, with its own links.
+std::string pictureHtml(const std::string& svg)
+{
+    return "<div class=\"picture\">" + svg + "</div>\n";
+}
+
 } // namespace
+
+std::string itemAnchor(std::size_t index)
+{
+    return "item-" + std::to_string(index + 1);
+}
 
 bool isPageName(std::string_view name)
 {
-    return endsWith(name, ".html") || endsWith(name, ".htm");
+    return hasEnding(name, ".html") || hasEnding(name, ".htm");
 }
 
 std::string chartPageHtml(const std::string& title, const ChartPictures& pictures,
@@ -113,10 +109,11 @@ std::string chartPageHtml(const std::string& title, const ChartPictures& picture
 {
     const std::string heading = escapeHtml(displayName(title));
     const ChartItems rows = rowsOf(items, regions);
-    const std::string body =
-        "<h1>" + heading + "</h1>\n" +
-        mappedPictureHtml(mappedPicture(pictures, regions), imageMap(rows, regions)) +
-        tableHtml(rows);
+    const std::string picture =
+        pictures.shownFormat == PictureFormat::Svg
+            ? pictureHtml(pictures.shown)
+            : mappedPictureHtml(mappedPicture(pictures, regions), imageMap(rows, regions));
+    const std::string body = "<h1>" + heading + "</h1>\n" + picture + tableHtml(rows);
     return pageHtml({kGenerator, heading, "<style>\n" + std::string(kStyle) + "</style>", body});
 }
 

@@ -5,6 +5,7 @@
 #define TOVANGL_CHART_CHART_PAGE_H
 
 #include "tovangl-chart/ChartItem.h"
+#include "tovangl-chart/picture_format.h"
 #include "tovangl-chart/region_map.h"
 
 #include <optional>
@@ -25,12 +26,16 @@ struct DensePicture
 
 struct ChartPictures
 {
-    std::string shown;                 ///< PNG; the regions belong to it
+    std::string shown;                 ///< the regions belong to it
     std::optional<DensePicture> dense; ///< shown in its place on dense displays
+    PictureFormat shownFormat = PictureFormat::Png;
 };
 
+/// The place of an item in the page's table, from 0: "item-1" for the first.
+[[nodiscard]] std::string itemAnchor(std::size_t index);
+
 /// A page that needs no other file: the picture, the regions of its items, and a table of the items
-/// that the regions lead to.
+/// that the regions lead to. An SVG picture is taken to have links of its own there.
 ///
 /// @param title  of the page; plain text
 [[nodiscard]] std::string chartPageHtml(const std::string& title, const ChartPictures& pictures,

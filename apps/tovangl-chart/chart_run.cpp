@@ -16,6 +16,12 @@ namespace {
 
 constexpr int kUsualDensity = 2; // picture pixels for each pixel of a page, on most dense displays
 
+/// The pictures of a run.
+struct Pictures : ChartPictures
+{
+    std::string separate; ///< a file of its own in another format than the shown one; may be empty
+};
+
 bool makesPage(const CommonOptions& options)
 {
     return isPageName(options.map);
@@ -34,6 +40,19 @@ int shownScale(const CommonOptions& options)
     if (options.printFactor)
         return std::max(*options.printFactor, 1);
     return makesPage(options) ? 1 : givenScale(options).value_or(1);
+}
+
+PictureFormat givenFormat(const CommonOptions& options)
+{
+    return options.format.value_or(formatOfName(options.output.value_or("")));
+}
+
+/// The format of the picture that the regions belong to: that in the page, if there is one.
+PictureFormat shownFormat(const CommonOptions& options)
+{
+    if (!makesPage(options))
+        return givenFormat(options);
+    return options.isPageSvg ? PictureFormat::Svg : PictureFormat::Png;
 }
 
 std::string sizeText(const CommonOptions& options)
@@ -78,13 +97,25 @@ void checkOutputs(const CommonOptions& options)
                        (options.map == kStandardOutput ? "standard output" : options.map));
 }
 
+void checkFormats(const CommonOptions& options)
+{
+    if (options.isPageSvg && !makesPage(options))
+        throw CFailure("--svg: there is no page without --map FILE.html");
+    const bool hasSvg = givenFormat(options) == PictureFormat::Svg || options.isPageSvg;
+    if (hasSvg && options.printFactor)
+        throw CFailure("--print: an SVG picture has no pixels; leave out the factor");
+}
+
 /// Empty if there is no picture.
-std::string renderPicture(Graph& chart, const CommonOptions& options, int scale)
+std::string renderPicture(Graph& chart, const CommonOptions& options, PictureFormat format,
+                          int scale)
 {
     unsigned char* bytes = nullptr;
     int size = 0;
     chart.setScale(scale);
-    if (options.printFactor)
+    if (format == PictureFormat::Svg)
+        chart.createSvg(options.size.width, options.size.height, &bytes, &size);
+    else if (options.printFactor)
         chart.createPixmapForPrinter(options.size.width, options.size.height, *options.printFactor,
                                      &bytes, &size);
     else
@@ -97,20 +128,43 @@ std::string renderPicture(Graph& chart, const CommonOptions& options, int scale)
 std::optional<DensePicture> renderDense(Graph& chart, const CommonOptions& options)
 {
     const int scale = givenScale(options).value_or(kUsualDensity);
-    if (!makesPage(options) || options.printFactor || scale == 1)
+    if (!makesPage(options) || options.isPageSvg || options.printFactor || scale == 1)
         return std::nullopt;
-    std::string png = renderPicture(chart, options, scale);
+    std::string png = renderPicture(chart, options, PictureFormat::Png, scale);
     if (png.empty() && givenScale(options))
         throw noPicture(chart, options);
     return png.empty() ? std::nullopt : std::optional(DensePicture{std::move(png), scale});
 }
 
-/// The shown picture is drawn last, because a chart tells the regions of its last rendering.
-ChartPictures renderPictures(Graph& chart, const CommonOptions& options)
+/// The picture as a file of its own, where none of the others can be that.
+std::string renderSeparate(Graph& chart, const CommonOptions& options)
 {
-    ChartPictures pictures;
+    if (pictureOutput(options).empty() || givenFormat(options) == shownFormat(options))
+        return {};
+    std::string picture =
+        renderPicture(chart, options, givenFormat(options), givenScale(options).value_or(1));
+    if (picture.empty())
+        throw noPicture(chart, options);
+    return picture;
+}
+
+/// Items of a picture that is part of a page lead to their rows there.
+void linkItems(Graph& chart, std::size_t count)
+{
+    for (std::size_t i = 0; i <= count; ++i) // and the others, if there are any
+        chart.setLink(i, '#' + itemAnchor(i));
+}
+
+/// The shown picture is drawn last, because a chart tells the regions of its last rendering.
+Pictures renderPictures(Graph& chart, std::size_t items, const CommonOptions& options)
+{
+    Pictures pictures;
+    pictures.separate = renderSeparate(chart, options);
     pictures.dense = renderDense(chart, options);
-    pictures.shown = renderPicture(chart, options, shownScale(options));
+    pictures.shownFormat = shownFormat(options);
+    if (options.isPageSvg)
+        linkItems(chart, items);
+    pictures.shown = renderPicture(chart, options, pictures.shownFormat, shownScale(options));
     if (pictures.shown.empty())
         throw noPicture(chart, options);
     return pictures;
@@ -147,12 +201,14 @@ std::string makeMap(const ChartPictures& pictures, const ChartItems& items,
 }
 
 /// The picture in the scale that was asked for.
-const std::string& askedPicture(const ChartPictures& pictures, const CommonOptions& options)
+const std::string& askedPicture(const Pictures& pictures, const CommonOptions& options)
 {
+    if (!pictures.separate.empty())
+        return pictures.separate;
     return givenScale(options) && pictures.dense ? pictures.dense->png : pictures.shown;
 }
 
-void writeChart(const ChartPictures& pictures, const ChartItems& items, const ChartRegions& regions,
+void writeChart(const Pictures& pictures, const ChartItems& items, const ChartRegions& regions,
                 const CommonOptions& options)
 {
     std::vector<Output> outputs;
@@ -185,6 +241,7 @@ void tellProblem(const Graph& chart, const CommonOptions& options)
 ChartItems prepareChart(Graph& chart, const CommonOptions& options, LineColors colors)
 {
     checkOutputs(options);
+    checkFormats(options);
     applyFontFiles(chart, options.fontFiles);
     applySettings(chart, options.settings);
     return readItems(options.input, colors);
@@ -193,7 +250,7 @@ ChartItems prepareChart(Graph& chart, const CommonOptions& options, LineColors c
 void drawChart(Graph& chart, const char* kind, const ChartItems& items,
                const CommonOptions& options, const AddShapes& addShapes)
 {
-    const ChartPictures pictures = renderPictures(chart, options);
+    const Pictures pictures = renderPictures(chart, items.size(), options);
     ChartRegions regions = captionRegions(chart, kind, options);
     addShapes(regions);
     writeChart(pictures, items, regions, options);

@@ -22,14 +22,17 @@ void addFileOptions(CLI::App& command, CommonOptions& options)
               "Items, one per line; without it, standard input")
         ->type_name("");
     addCsvOptions(command, options.input);
-    addOption(
-        command, "-o,--output", options.output, parsePath,
-        "Write the picture (PNG) here; without it, to standard output or into the page of --map")
+    addOption(command, "-o,--output", options.output, parsePath,
+              "Write the picture here; without it, to standard output or into the page of --map")
         ->type_name("FILE");
+    addOption(command, "--format", options.format, parsePictureFormat,
+              "Format of the picture, png or svg [by the name of FILE, or png]")
+        ->type_name("NAME");
     addOption(command, "--map", options.map, parsePath,
               "Write where each item was drawn: a page with the picture and its regions "
               "if FILE ends in .html, JSON otherwise")
         ->type_name("FILE");
+    command.add_flag("--svg", options.isPageSvg, "Put the picture into the page of --map as SVG");
 }
 
 void addSizeOptions(CLI::App& command, CommonOptions& options)

@@ -7,6 +7,7 @@
 #include "common/CFailure.h"
 #include "tovangl-chart/ItemSource.h"
 #include "tovangl-chart/option_values.h"
+#include "tovangl-chart/picture_format.h"
 #include "tovangl-chart/setting_options.h"
 
 #include <CLI/App.hpp>
@@ -24,6 +25,8 @@ struct CommonOptions
     ItemSource input;
     std::optional<std::string> output;
     std::string map; // empty: none
+    std::optional<PictureFormat> format;
+    bool isPageSvg = false; // the page holds the picture as SVG
     PictureSize size;
     std::optional<int> printFactor;
     std::vector<std::string> fontFiles;

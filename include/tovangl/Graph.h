@@ -125,7 +125,8 @@ public:
     /// Gives an item an address: its bar or slice and its caption in an SVG picture are a link to
     /// it.
     ///
-    /// @param item     position in the order of adding, from 0
+    /// @param item     position in the order of adding, from 0; with setOthers(), the number of
+    ///                 items is the position of the others
     /// @param address  UTF-8; begins with http:, https: or mailto:, or is relative to the page;
     ///                 empty for no link
     /// @return whether it was set: not where there is no such item, nor for any other address, such

@@ -249,6 +249,19 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, si
                                                         const uint32_t* fills,
                                                         const uint32_t* outlines);
 
+/// Gives an item an address: its bar or slice and its caption in an SVG picture are a link to it.
+///
+/// TOVANGL_BAD_ARGUMENT where there is no such item, and for an address that is none of these: one
+/// that begins with http:, https: or mailto:, or one that is relative to the page. It must hold no
+/// white space or control characters.
+///
+/// @param chart    not null
+/// @param item     position in the order of adding, from 0; with the setting "others", the number
+///                 of items is the position of the others
+/// @param address  empty for no link; not null
+TOVANGL_EXPORT tovangl_status tovangl_chart_set_link(tovangl_chart* chart, size_t item,
+                                                     const char* address);
+
 /// Removes all items. Settings, and the bytes of the last picture, are kept.
 TOVANGL_EXPORT tovangl_status tovangl_chart_clear(tovangl_chart* chart);
 
@@ -279,6 +292,16 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_render_for_print(tovangl_chart* char
                                                              int32_t height, int32_t factor,
                                                              const unsigned char** data,
                                                              size_t* size);
+
+/// Renders the chart as an SVG picture: the one that tovangl_chart_render() makes of that size, in
+/// shapes and texts instead of pixels.
+///
+/// @param chart          not null
+/// @param width, height  picture size in pixels
+/// @param data, size     as for tovangl_chart_render()
+TOVANGL_EXPORT tovangl_status tovangl_chart_render_svg(tovangl_chart* chart, int32_t width,
+                                                       int32_t height, const unsigned char** data,
+                                                       size_t* size);
 
 /// Frees the bytes of the last picture. Calling it again is harmless.
 TOVANGL_EXPORT tovangl_status tovangl_chart_free_picture(tovangl_chart* chart);

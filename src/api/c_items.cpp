@@ -134,3 +134,15 @@ tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, size_t count, con
                                  });
     });
 }
+
+tovangl_status tovangl_chart_set_link(tovangl_chart* chart, size_t item, const char* address)
+{
+    return tovangl::callChart(chart, [=](tovangl_chart& target) -> tovangl::COutcome {
+        if (!address)
+            return {TOVANGL_NULL_ARGUMENT};
+        if (!target.graph.input().setLink(item, address))
+            return {TOVANGL_BAD_ARGUMENT,
+                    "there is no such item, or the address is none that a link can have"};
+        return {};
+    });
+}

@@ -23,9 +23,12 @@ void CGraph1dInput::addItem(long long value, const QString& text, const QColor& 
 
 bool CGraph1dInput::setLink(std::size_t item, std::string_view address)
 {
-    if (item >= items.size() || (!address.empty() && !isLinkAddress(address)))
+    const bool isOthers = item == items.size() && !settings.othersCaption.isEmpty();
+    if (!isOthers && item >= items.size())
         return false;
-    items[item].link = toQString(address);
+    if (!address.empty() && !isLinkAddress(address))
+        return false;
+    (isOthers ? othersLink : items[item].link) = toQString(address);
     return true;
 }
 
@@ -52,7 +55,8 @@ std::optional<CGraph1dItem> CGraph1dInput::gatherOthers(const CLeftOut& leftOut)
 {
     if (settings.othersCaption.isEmpty() || leftOut.count() == 0)
         return std::nullopt;
-    return CGraph1dItem{leftOut.value(), settings.othersCaption, othersColor(), QColor()};
+    return CGraph1dItem{leftOut.value(), settings.othersCaption, othersColor(), QColor(),
+                        othersLink};
 }
 
 } // namespace tovangl

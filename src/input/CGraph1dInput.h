@@ -21,7 +21,8 @@ struct CGraph1dInput
     /// Adds an item at the end. An invalid colour is not set.
     void addItem(long long value, const QString& text, const QColor& color,
                  const QColor& outlineColor);
-    /// Gives an item an address, or takes it away where that is empty.
+    /// Gives an item an address, or takes it away where that is empty. The item behind the last one
+    /// is that of the others, if the host wants one.
     ///
     /// @param address  UTF-8
     /// @return whether there is such an item, and isLinkAddress()
@@ -36,6 +37,7 @@ struct CGraph1dInput
     [[nodiscard]] std::optional<CGraph1dItem> gatherOthers(const CLeftOut& leftOut) const;
 
     CGraph1dSettings settings;
+    QString othersLink;              ///< an address that the others lead to; empty: none
     std::vector<CGraph1dItem> items; ///< in the order of adding
 };
 

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The formats of pictures.
+#ifndef TOVANGL_CHART_PICTURE_FORMAT_H
+#define TOVANGL_CHART_PICTURE_FORMAT_H
+
+#include <string_view>
+
+namespace tovangl::program {
+
+enum class PictureFormat
+{
+    Png,
+    Svg
+};
+
+/// Reads "png" or "svg".
+[[nodiscard]] PictureFormat parsePictureFormat(std::string_view text);
+
+/// The format that a file of that name has: SVG if it ends in ".svg", in upper or lower case.
+[[nodiscard]] PictureFormat formatOfName(std::string_view name);
+
+/// Whether a file name ends in an ending, which is in lower case, in upper or lower case.
+[[nodiscard]] bool hasEnding(std::string_view name, std::string_view ending);
+
+} // namespace tovangl::program
+
+#endif
