@@ -6,6 +6,8 @@
 #include "seeded_fault.h"
 #include "support/rendered_chart.h"
 
+#include <QXmlStreamReader>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -163,6 +165,8 @@ void CWatchedChart::render(int width, int height, int factor)
 {
     m_export = exportPicture(width, height, factor);
     const CRenderedChart first = copyRendering(m_chart, m_export);
+    if (factor == 0)
+        checkSvg(width, height, first);
     m_export = exportPicture(width, height, factor);
     m_bytes = m_export.bytes();
     require(isSameRendering(first, copyRendering(m_chart, m_export)), "two renderings are equal");
@@ -223,6 +227,20 @@ void CWatchedChart::checkPicture(std::int64_t width, std::int64_t height) const
         return;
     require(headerNumber(m_bytes, kWidthOffset) == width, "a picture is as wide as asked for");
     require(headerNumber(m_bytes, kHeightOffset) == height, "a picture is as high as asked for");
+}
+
+void CWatchedChart::checkSvg(int width, int height, const CRenderedChart& png)
+{
+    m_export = m_chart.createSvg(width, height);
+    const CRenderedChart svg = copyRendering(m_chart, m_export);
+    QXmlStreamReader reader(
+        QByteArray::fromRawData(reinterpret_cast<const char*>(m_export.data), m_export.size));
+    while (!reader.atEnd())
+        reader.readNext();
+    require(m_export.size == 0 || !reader.hasError(), "an SVG picture is well-formed");
+    require((m_export.size == 0) == png.png.empty(), "a picture is made as SVG if it is as PNG");
+    require(svg.items == png.items && svg.bars == png.bars && svg.problem == png.problem,
+            "everything is where the PNG has it");
 }
 
 void CWatchedChart::checkTitle(std::int64_t width, std::int64_t height) const

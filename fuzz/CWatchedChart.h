@@ -6,10 +6,13 @@
 
 #include "support/CAnyChart.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 namespace tovangl {
+
+struct CRenderedChart;
 
 /// Keeps beside the chart what a host knows of it, and ends the process where the chart says
 /// something else.
@@ -47,6 +50,7 @@ private:
     void checkThreshold() const;
     void checkBytes() const;
     void checkLists();
+    void checkSvg(int width, int height, const CRenderedChart& png);
     void checkPicture(std::int64_t width, std::int64_t height) const;
     void checkTitle(std::int64_t width, std::int64_t height) const;
     void checkRegions(std::int64_t width, std::int64_t height);

@@ -61,6 +61,7 @@ private:
         SetTheme,
         SetScale,
         SetByName,
+        SetLink,
         Render,
         kMaxValue = Render
     };
@@ -122,6 +123,8 @@ private:
             return chart.setScale(readFactor());
         case SetByName:
             return setByName(chart);
+        case SetLink:
+            return setLink(chart);
         default:
             return render(chart);
         }
@@ -153,6 +156,14 @@ private:
         const std::size_t row = m_input.ConsumeIntegralInRange<std::size_t>(0, count);
         const std::string name = row < count ? table.begin()[row].name : readText();
         chart.setByName(name, readSettingValue());
+    }
+
+    void setLink(CWatchedChart& chart)
+    {
+        constexpr std::size_t kMany = 9;
+        const std::size_t item = m_input.ConsumeIntegralInRange<std::size_t>(0, kMany);
+        const bool isRead = m_input.ConsumeBool();
+        chart.chart().graph().setLink(item, isRead ? readText() : "#" + std::to_string(item));
     }
 
     void render(CWatchedChart& chart)

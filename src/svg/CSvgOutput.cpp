@@ -13,10 +13,15 @@
 #include <QFontInfo>
 
 #include <algorithm>
+#include <limits>
+#include <new>
 
 namespace tovangl {
 
 namespace {
+
+// The host gets the size as an int.
+constexpr std::size_t kLargestFile = std::numeric_limits<int>::max();
 
 // What a picture with links is to a program that reads it aloud: an image would be one thing, with
 // nothing in it to be reached.
@@ -78,6 +83,8 @@ CPictureFile CSvgOutput::finish()
     m_scene.markup.styleElement(m_scene.colors.styleSheet());
     m_scene.markup.close("svg");
     std::string text = m_scene.markup.text();
+    if (text.size() > kLargestFile)
+        throw std::bad_alloc();
     setPictureId(text);
     CPictureFile file{std::make_unique<unsigned char[]>(text.size()), text.size()};
     std::copy(text.begin(), text.end(), file.data.get());

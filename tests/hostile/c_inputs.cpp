@@ -82,6 +82,11 @@ void drawInC(const CHandle& chart, int width = 400, int height = 300, int factor
         require((status == TOVANGL_OK) == (data && size > 0), "a picture has bytes");
         askForRegions(chart);
     }
+    const tovangl_status status =
+        tovangl_chart_render_svg(chart.get(), width, height, &data, &size);
+    checkError(chart, status);
+    require((status == TOVANGL_OK) == (data && size > 0), "an SVG picture has bytes");
+    askForRegions(chart);
 }
 
 // One input that draws every kind of chart after the steps.

@@ -2,6 +2,8 @@
 // Draws a chart in every way that the public interface offers.
 #include "hostile/hostile_input.h"
 
+#include <QXmlStreamReader>
+
 #include <cstdint>
 #include <stdexcept>
 
@@ -37,6 +39,15 @@ void checkSize(const CExport& picture, std::int64_t width, std::int64_t height)
     require(headerNumber(picture, kHeightOffset) == height, "a picture is as high as asked for");
 }
 
+void checkSvg(const CExport& picture)
+{
+    require(picture.data != nullptr, "an export gives a pointer, whatever the picture");
+    QXmlStreamReader reader(QByteArray(reinterpret_cast<const char*>(picture.data), picture.size));
+    while (!reader.atEnd())
+        reader.readNext();
+    require(picture.size == 0 || !reader.hasError(), "an SVG picture is well-formed");
+}
+
 void checkProblem(const CExport& picture, const Graph& graph)
 {
     const Problem problem = graph.problem();
@@ -67,6 +78,10 @@ void drawEverything(CAnyChart& chart, int width, int height, int factor)
     const std::int64_t scale = factor < 1 ? 1 : factor;
     CExport picture = chart.createPixmap(width, height);
     checkSize(picture, width, height);
+    checkProblem(picture, chart.graph());
+    checkRectangles(chart, kOnScreen);
+    picture = chart.createSvg(width, height);
+    checkSvg(picture);
     checkProblem(picture, chart.graph());
     checkRectangles(chart, kOnScreen);
     chart.graph().setCompression(Compression::Fast);

@@ -28,16 +28,19 @@ void CChartLife::live()
     call([this] { m_chart = std::make_unique<CAnyChart>(m_kind, true); });
     applySettings();
     addItems();
-    render(false);
-    render(true);
+    render(PictureKind::Screen);
+    render(PictureKind::Print);
     call([this] { m_chart->graph().setCompression(Compression::Fast); });
-    render(true);
+    render(PictureKind::Print);
+    render(PictureKind::Svg);
+    call([this] { m_chart->graph().setByName("follow_display", "true"); });
+    render(PictureKind::Svg);
     call([this] { m_chart->graph().setPictureTransparent(); });
-    render(false);
+    render(PictureKind::Screen);
     call([this] { m_chart->graph().clear(); });
-    render(false);
+    render(PictureKind::Screen);
     addItems();
-    render(false);
+    render(PictureKind::Screen);
     call([this] { m_chart->graph().freePixmap(); });
     call([this] { m_chart.reset(); });
 }
@@ -93,22 +96,30 @@ void CChartLife::addItems()
     addColored(9000, "opt");
     add(400, "srv");
     add(350, "tmp");
+    call([this] { m_chart->graph().setLink(0, "https://example.org/?a=1&b=2"); });
 }
 
-void CChartLife::render(bool isForPrinter)
+void CChartLife::render(PictureKind kind)
 {
     CExport picture;
-    call([&] { picture = exportPicture(isForPrinter); });
+    call([&] { picture = exportPicture(kind); });
     CRenderedChart rendering;
     call([&] { rendering = copyRendering(*m_chart, picture); });
     m_renderings.push_back(rendering);
 }
 
-CExport CChartLife::exportPicture(bool isForPrinter)
+CExport CChartLife::exportPicture(PictureKind kind)
 {
     try {
-        return isForPrinter ? m_chart->createPixmapForPrinter(kWidth, kHeight, kFactor)
-                            : m_chart->createPixmap(kWidth, kHeight);
+        switch (kind) {
+        case PictureKind::Print:
+            return m_chart->createPixmapForPrinter(kWidth, kHeight, kFactor);
+        case PictureKind::Svg:
+            return m_chart->createSvg(kWidth, kHeight);
+        case PictureKind::Screen:
+            break;
+        }
+        return m_chart->createPixmap(kWidth, kHeight);
     } catch (const std::bad_alloc&) {
         if (m_chart->graph().problem() != Problem::NoMemory)
             m_tellsLackOfMemory = false;

@@ -41,8 +41,8 @@ private:
     void handleFailure(const Call& operation);
     void applySettings();
     void addItems();
-    void render(bool isForPrinter);
-    CExport exportPicture(bool isForPrinter);
+    void render(PictureKind kind);
+    CExport exportPicture(PictureKind kind);
 
     ChartKind m_kind;
     std::unique_ptr<CAnyChart> m_chart;

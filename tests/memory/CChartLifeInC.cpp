@@ -64,11 +64,13 @@ void CChartLifeInC::live()
     call([this] { return tovangl_chart_create(toKind(m_kind), &m_chart); });
     applySettings();
     addItems();
-    render(false);
-    render(true);
+    render(PictureKind::Screen);
+    render(PictureKind::Print);
+    call([this] { return tovangl_chart_set_link(m_chart, 0, "usr.html"); });
+    render(PictureKind::Svg);
     call([this] { return tovangl_chart_clear(m_chart); });
     addItems();
-    render(false);
+    render(PictureKind::Screen);
     call([this] { return tovangl_chart_free_picture(m_chart); });
 }
 
@@ -102,10 +104,10 @@ void CChartLifeInC::addItems()
     });
 }
 
-void CChartLifeInC::render(bool isForPrinter)
+void CChartLifeInC::render(PictureKind kind)
 {
     CRenderedChart rendering;
-    call([&] { return exportPicture(isForPrinter, rendering.png); });
+    call([&] { return exportPicture(kind, rendering.png); });
     copyRegions(rendering);
     if (m_kind == ChartKind::Pie)
         copySlices(rendering);
@@ -113,14 +115,22 @@ void CChartLifeInC::render(bool isForPrinter)
     m_renderings.push_back(rendering);
 }
 
-tovangl_status CChartLifeInC::exportPicture(bool isForPrinter, std::string& png)
+tovangl_status CChartLifeInC::exportPicture(PictureKind kind, std::string& png)
 {
     const unsigned char* data = nullptr;
     std::size_t size = 0;
-    const tovangl_status status =
-        isForPrinter
-            ? tovangl_chart_render_for_print(m_chart, kWidth, kHeight, kFactor, &data, &size)
-            : tovangl_chart_render(m_chart, kWidth, kHeight, &data, &size);
+    const auto render = [&] {
+        switch (kind) {
+        case PictureKind::Print:
+            return tovangl_chart_render_for_print(m_chart, kWidth, kHeight, kFactor, &data, &size);
+        case PictureKind::Svg:
+            return tovangl_chart_render_svg(m_chart, kWidth, kHeight, &data, &size);
+        case PictureKind::Screen:
+            break;
+        }
+        return tovangl_chart_render(m_chart, kWidth, kHeight, &data, &size);
+    };
+    const tovangl_status status = render();
     if (status == TOVANGL_NO_MEMORY && tovangl_chart_problem(m_chart) != TOVANGL_PROBLEM_NO_MEMORY)
         m_tellsLackOfMemory = false;
     if (status == TOVANGL_OK)

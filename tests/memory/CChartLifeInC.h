@@ -56,8 +56,8 @@ private:
     static void requireSuccess(tovangl_status status);
     void applySettings();
     void addItems();
-    void render(bool isForPrinter);
-    tovangl_status exportPicture(bool isForPrinter, std::string& png);
+    void render(PictureKind kind);
+    tovangl_status exportPicture(PictureKind kind, std::string& png);
     void copyRegions(CRenderedChart& rendering);
     void copySlices(CRenderedChart& rendering);
 

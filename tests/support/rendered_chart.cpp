@@ -24,7 +24,10 @@ bool areSameSlices(const std::list<Slice>& a, const std::list<Slice>& b)
 
 bool areSamePixels(const std::string& a, const std::string& b)
 {
-    return a == b || decodePng(a) == decodePng(b);
+    if (a == b)
+        return true;
+    const QImage picture = decodePng(a); // null for what is no PNG
+    return !picture.isNull() && picture == decodePng(b);
 }
 
 } // namespace

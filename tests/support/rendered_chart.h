@@ -11,6 +11,14 @@
 
 namespace tovangl {
 
+/// What a chart is rendered as.
+enum class PictureKind
+{
+    Screen,
+    Print,
+    Svg
+};
+
 struct CRenderedChart
 {
     std::string png;

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+// SVG pictures as files, beside the PNG pictures of the same charts.
+#include "support/CAnyChart.h"
+#include "support/mixed_charts.h"
+#include "support/public_records.h"
+#include "svg/parsed_svg.h"
+
+#include <gmock/gmock.h>
+#include <set>
+
+namespace tovangl {
+namespace {
+
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+constexpr int kWidth = 400;
+constexpr int kHeight = 300;
+
+class SvgPicture : public ::testing::TestWithParam<ChartKind>
+{
+protected:
+    SvgPicture()
+    {
+        chart.addItem(34000, "usr");
+        chart.addItem(12000, "var & lib");
+        chart.addItem(9000, "home");
+    }
+
+    CAnyChart chart{GetParam(), true};
+};
+
+INSTANTIATE_TEST_SUITE_P(Kinds, SvgPicture, ::testing::ValuesIn(kChartKinds), [](const auto& kind) {
+    return ::testing::PrintToString(static_cast<int>(kind.param));
+});
+
+TEST_P(SvgPicture, IsTheSameEachTime)
+{
+    const std::string first = chart.createSvg(kWidth, kHeight).bytes();
+    (void)chart.createPixmap(kWidth, kHeight);
+    EXPECT_EQ(chart.createSvg(kWidth, kHeight).bytes(), first);
+}
+
+TEST_P(SvgPicture, HasTheRegionsOfThePng)
+{
+    (void)chart.createPixmap(kWidth, kHeight);
+    const auto captions = chart.itemRectangles();
+    const auto bars = chart.itemBarRectangles();
+    const std::string description = chart.graph().describe();
+    (void)chart.createSvg(kWidth, kHeight);
+    EXPECT_EQ(chart.itemRectangles(), captions);
+    EXPECT_EQ(chart.itemBarRectangles(), bars);
+    EXPECT_EQ(chart.graph().describe(), description);
+}
+
+TEST_P(SvgPicture, LeavesThePngAsItIs)
+{
+    const std::string before = chart.createPixmap(kWidth, kHeight).bytes();
+    (void)chart.createSvg(kWidth, kHeight);
+    EXPECT_EQ(chart.createPixmap(kWidth, kHeight).bytes(), before);
+}
+
+TEST_P(SvgPicture, MeasuresWhatThePngDoes)
+{
+    chart.graph().setScale(3);
+    const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+    EXPECT_EQ(svg.elements().at(0).number("width"), 3 * kWidth);
+    EXPECT_EQ(svg.elements().at(0).number("height"), 3 * kHeight);
+}
+
+TEST_P(SvgPicture, CannotBeMadeInASizeThatNoPngHas)
+{
+    for (const int width : {0, -1, 1000001}) {
+        const CExport picture = chart.createSvg(width, kHeight);
+        EXPECT_NE(picture.data, nullptr);
+        EXPECT_EQ(picture.size, 0);
+        EXPECT_EQ(chart.graph().problem(), Problem::SizeOutOfRange);
+    }
+}
+
+TEST_P(SvgPicture, IsBlankWithoutRoomForTheChart)
+{
+    const CParsedSvg svg(chart.createSvg(12, 12).bytes());
+    EXPECT_EQ(svg.error(), QString());
+    EXPECT_EQ(chart.graph().problem(), Problem::TooSmallForChart);
+    EXPECT_THAT(svg.items(), IsEmpty());
+    EXPECT_THAT(svg.all("rect"), SizeIs(1));
+}
+
+TEST_P(SvgPicture, HasAnIdForEachItemAndNoneTwice)
+{
+    const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+    std::set<QString> ids;
+    int count = 0;
+    for (const CSvgElement& element : svg.elements()) {
+        if (!element["id"].isEmpty()) {
+            ids.insert(element["id"]);
+            ++count;
+        }
+    }
+    EXPECT_THAT(svg.items(), SizeIs(3));
+    EXPECT_TRUE(svg.items().at(2)["id"].endsWith("-2"));
+    EXPECT_THAT(ids, SizeIs(static_cast<std::size_t>(count)));
+}
+
+TEST_P(SvgPicture, SharesNoIdWithAnotherPicture)
+{
+    const CParsedSvg one(chart.createSvg(kWidth, kHeight).bytes());
+    const CParsedSvg other(chart.createSvg(kWidth, kHeight + 1).bytes());
+    for (const CSvgElement& element : one.elements()) {
+        for (const CSvgElement& second : other.elements())
+            EXPECT_TRUE(element["id"].isEmpty() || element["id"] != second["id"]);
+    }
+}
+
+TEST_P(SvgPicture, DefinesNothingThatItDoesNotUse)
+{
+    for (const bool hasBackground : {false, true}) {
+        chart.graph().setByName("background", hasBackground ? "true" : "false");
+        const std::string bytes = chart.createSvg(kWidth, kHeight).bytes();
+        for (const CSvgElement& fade : CParsedSvg(bytes).all("linearGradient"))
+            EXPECT_NE(bytes.find("url(#" + fade["id"].toStdString() + ')'), std::string::npos);
+        EXPECT_TRUE(hasBackground || CParsedSvg(bytes).all("linearGradient").empty());
+    }
+}
+
+TEST(SvgSize, OfTwelveBarsIsSixKilobytesAtMost)
+{
+    VerticalBarGraph bars(true);
+    for (const char* month : {"January", "February", "March", "April", "May", "June", "July",
+                              "August", "September", "October", "November", "December"})
+        bars.addItem(100 + 37 * static_cast<long>(month[1]), month);
+    unsigned char* data = nullptr;
+    int size = 0;
+    bars.createSvg(800, 400, &data, &size);
+    EXPECT_GT(size, 1000);
+    EXPECT_LE(size, 6 * 1024);
+}
+
+TEST(SvgSize, OfEightSlicesIsFiveKilobytesAtMost)
+{
+    PieGraph pie(false);
+    for (const char* folder :
+         {"documents", "music", "videos", "pictures", "backups", "mail", "downloads", "cache"})
+        pie.addItem(104857600L * (folder[0] - 'a' + 1), folder);
+    unsigned char* data = nullptr;
+    int size = 0;
+    pie.createSvg(600, 400, &data, &size);
+    EXPECT_GT(size, 1000);
+    EXPECT_LE(size, 5 * 1024);
+}
+
+TEST(SvgNumbers, HaveAtMostTwoDecimals)
+{
+    PieGraph pie(true);
+    for (int i = 1; i < 9; ++i)
+        pie.addItem(i * i * 7, "item " + std::to_string(i));
+    unsigned char* data = nullptr;
+    int size = 0;
+    pie.createSvg(333, 271, &data, &size);
+    const std::string svg(reinterpret_cast<char*>(data), static_cast<std::size_t>(size));
+    int digits = 0;
+    bool isBehindPoint = false;
+    for (const char character : svg) {
+        const bool isDigit = character >= '0' && character <= '9';
+        digits = isDigit && isBehindPoint ? digits + 1 : 0;
+        isBehindPoint = character == '.' || (isDigit && isBehindPoint);
+        ASSERT_LE(digits, 2);
+    }
+}
+
+} // namespace
+} // namespace tovangl

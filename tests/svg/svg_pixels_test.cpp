@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// Where the shapes of SVG pictures are, as another renderer draws them.
+#include "support/CAnyChart.h"
+#include "support/CDice.h"
+#include "support/png_decoding.h"
+#include "svg/parsed_svg.h"
+#include "svg/rendered_svg.h"
+
+#include <gtest/gtest.h>
+
+namespace tovangl {
+namespace {
+
+constexpr double kMostBars = 99.98; // per cent of the pixels; a letter can reach out of its box
+constexpr double kMostPies = 99.4;  // pies have smoothed edges, and two renderers smooth them
+
+CAnyChart randomChart(ChartKind kind, CDice& dice)
+{
+    constexpr std::array<const char*, 5> kCaptions = {"usr", "/var/lib/a long folder name",
+                                                      "two\nlines", "Größe & Maß",
+                                                      "\xd8\xa7\xd9\x84\xd8\xb9"};
+    CAnyChart chart(kind, dice.oneIn(2));
+    for (int count = dice.roll(1, 12); count > 0; --count)
+        chart.addItem(dice.roll(0, 90000), dice.pick(kCaptions));
+    if (dice.oneIn(3))
+        chart.graph().setTitle("A title");
+    if (dice.oneIn(3))
+        chart.setProperties(0x1ff, "Megabytes");
+    if (dice.oneIn(4))
+        chart.graph().setScale(dice.roll(2, 4));
+    if (dice.oneIn(4))
+        chart.graph().setTheme(static_cast<Theme>(dice.roll(0, 3)));
+    return chart;
+}
+
+CPixelComparison compare(CAnyChart& chart, int width, int height)
+{
+    const QImage painted = decodePng(chart.createPixmap(width, height).bytes());
+    const std::string svg = chart.createSvg(width, height).bytes();
+    const QImage drawn = renderedSvg(svg);
+    EXPECT_EQ(drawn.size(), painted.size());
+    return drawn.size() == painted.size()
+               ? comparePixels(painted, drawn, textBoxes(CParsedSvg(svg)))
+               : CPixelComparison();
+}
+
+class SvgPixels : public ::testing::TestWithParam<unsigned>
+{};
+
+INSTANTIATE_TEST_SUITE_P(Charts, SvgPixels, ::testing::Range(0U, 20U));
+
+TEST_P(SvgPixels, OfBarsAreThoseOfThePng)
+{
+    for (const ChartKind kind : {ChartKind::VerticalBars, ChartKind::HorizontalBars}) {
+        CDice dice(GetParam());
+        CAnyChart chart = randomChart(kind, dice);
+        const CPixelComparison result = compare(chart, dice.roll(200, 640), dice.roll(150, 480));
+        EXPECT_GT(result.compared, 1000);
+        EXPECT_GE(result.share(), kMostBars) << nameOf(kind);
+    }
+}
+
+TEST_P(SvgPixels, OfPiesAreThoseOfThePngButForSmoothing)
+{
+    CDice dice(GetParam());
+    CAnyChart chart = randomChart(ChartKind::Pie, dice);
+    const CPixelComparison result = compare(chart, dice.roll(300, 640), dice.roll(250, 480));
+    EXPECT_GT(result.compared, 1000);
+    EXPECT_GE(result.share(), kMostPies);
+    EXPECT_LE(static_cast<double>(result.moved), 0.001 * static_cast<double>(result.compared));
+}
+
+TEST(SvgPixelsOfAnOrdinaryPie, AreNearlyAllThoseOfThePng)
+{
+    CAnyChart pie(ChartKind::Pie, true);
+    for (const long megabytes : {734L, 524L, 943L, 310L, 250L, 205L, 120L, 104L})
+        pie.addItem(megabytes << 20, "a folder");
+    EXPECT_GE(compare(pie, 600, 400).share(), 99.8);
+}
+
+} // namespace
+} // namespace tovangl

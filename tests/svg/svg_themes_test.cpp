@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+// SVG pictures that follow the display's colour scheme.
+#include "support/CAnyChart.h"
+#include "svg/parsed_svg.h"
+
+#include <gmock/gmock.h>
+
+namespace tovangl {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+std::string bytesOf(CAnyChart& chart)
+{
+    return chart.createSvg(400, 300).bytes();
+}
+
+CAnyChart chartOf(ChartKind kind, bool background = true)
+{
+    CAnyChart chart(kind, background);
+    chart.addItem(5, "a");
+    chart.addItem(3, "b");
+    return chart;
+}
+
+std::string styleOf(const std::string& svg)
+{
+    const std::vector<CSvgElement> styles = CParsedSvg(svg).all("style");
+    return styles.empty() ? std::string() : styles.front().text.toStdString();
+}
+
+// The fill that the style sheet gives to the picture's ground.
+std::string darkGround(const std::string& svg)
+{
+    const std::string name = CParsedSvg(svg).all("rect").at(0)["class"].toStdString();
+    const std::string style = styleOf(svg);
+    const std::string rule = '.' + name + "{fill:";
+    const std::size_t begin = style.find(rule);
+    return begin == std::string::npos ? "" : style.substr(begin + rule.size(), 7);
+}
+
+TEST(SvgThemes, HaveNoStyleSheetUnlessAskedFor)
+{
+    for (const ChartKind kind : kChartKinds) {
+        CAnyChart chart = chartOf(kind);
+        EXPECT_THAT(bytesOf(chart), Not(HasSubstr("<style"))) << nameOf(kind);
+    }
+}
+
+TEST(SvgThemes, FollowTheDisplayWhereAskedFor)
+{
+    for (const ChartKind kind : kChartKinds) {
+        CAnyChart chart = chartOf(kind);
+        ASSERT_EQ(chart.graph().setByName("follow_display", "true"), "");
+        const std::string svg = bytesOf(chart);
+        EXPECT_THAT(styleOf(svg), StartsWith("@media(prefers-color-scheme:dark){."))
+            << nameOf(kind);
+        EXPECT_EQ(darkGround(svg), "#1b1f27") << nameOf(kind);
+    }
+}
+
+TEST(SvgThemes, KeepTheirOwnColoursOnLightDisplays)
+{
+    CAnyChart chart = chartOf(ChartKind::VerticalBars);
+    const CParsedSvg plain(bytesOf(chart));
+    chart.graph().setByName("follow_display", "true");
+    const CParsedSvg following(bytesOf(chart));
+    ASSERT_EQ(plain.all("rect").size(), following.all("rect").size());
+    for (std::size_t i = 0; i < plain.all("rect").size(); ++i)
+        EXPECT_EQ(plain.all("rect")[i]["stroke"], following.all("rect")[i]["stroke"]) << i;
+}
+
+TEST(SvgThemes, KeepTheColoursOfItemsThatHaveTheirOwn)
+{
+    CAnyChart chart(ChartKind::VerticalBars);
+    chart.addItem(5, "a", {1, 2, 3}, {4, 5, 6});
+    chart.graph().setByName("follow_display", "true");
+    const CParsedSvg svg(bytesOf(chart));
+    EXPECT_EQ(svg.children(svg.items().at(0), "rect").at(0)["class"], "");
+}
+
+TEST(SvgThemes, LeaveATransparentPictureToThePage)
+{
+    CAnyChart chart = chartOf(ChartKind::Pie, false);
+    chart.graph().setPictureTransparent();
+    chart.graph().setByName("follow_display", "true");
+    EXPECT_TRUE(CParsedSvg(bytesOf(chart)).all("rect").empty());
+}
+
+TEST(SvgThemes, HaveClassesOfTheirOwnInEveryPicture)
+{
+    CAnyChart one = chartOf(ChartKind::Pie);
+    CAnyChart other = chartOf(ChartKind::VerticalBars);
+    one.graph().setByName("follow_display", "true");
+    other.graph().setByName("follow_display", "true");
+    EXPECT_NE(CParsedSvg(bytesOf(one)).all("rect").at(0)["class"],
+              CParsedSvg(bytesOf(other)).all("rect").at(0)["class"]);
+}
+
+} // namespace
+} // namespace tovangl
