@@ -70,6 +70,18 @@ void pie(PictureFolder& folder)
     folder.draw(chart, "pie", 520, 280);
 }
 
+void shapes(PictureFolder& folder)
+{
+    PieGraph chart(false);
+    addAll(chart, {{734 * kMega, "documents"},
+                   {524 * kMega, "music"},
+                   {943 * kMega, "videos"},
+                   {310 * kMega, "pictures"},
+                   {205 * kMega, "mail"}});
+    chart.setByName("follow_display", "true");
+    folder.drawSvg(chart, "shapes", 520, 280);
+}
+
 void crowdedPie(PictureFolder& folder)
 {
     PieGraph chart(false);
@@ -252,8 +264,8 @@ int main(int count, char** arguments)
         return 2;
     PictureFolder folder(arguments[1]);
     for (const auto& drawOne :
-         {bars, labelledBars, pie, crowdedPie, highlight, profit, turned, scripts, thumbnails,
-          print, themes, title, palette, highDensity, transparent})
+         {bars, labelledBars, pie, shapes, crowdedPie, highlight, profit, turned, scripts,
+          thumbnails, print, themes, title, palette, highDensity, transparent})
         drawOne(folder);
     return folder.isComplete() ? 0 : 1;
 }

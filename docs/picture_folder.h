@@ -27,6 +27,14 @@ public:
         write(name + ".png", std::string(reinterpret_cast<const char*>(data), toLength(size)));
     }
 
+    void drawSvg(tovangl::Graph& chart, const std::string& name, int width, int height)
+    {
+        unsigned char* data = nullptr;
+        int size = 0;
+        chart.createSvg(width, height, &data, &size);
+        write(name + ".svg", std::string(reinterpret_cast<const char*>(data), toLength(size)));
+    }
+
     void print(tovangl::Graph& chart, const std::string& name, int width, int height, int factor)
     {
         unsigned char* data = nullptr;

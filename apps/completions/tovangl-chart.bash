@@ -1,8 +1,8 @@
 # bash completion for tovangl-chart
 _tovangl_chart() {
-    local common='-o --output --map --size --print --theme --title --font --font-file --font-size --locale
+    local common='-o --output --format --map --svg --size --print --theme --title --font --font-file --font-size --locale
         --threshold --others --palette --background --picture-color --text-color --plot-color
-        --border-color --outline-color --kilo --scale --fast --csv --caption --value --color
+        --border-color --outline-color --kilo --scale --follow-display --fast --csv --caption --value --color
         --help'
     local bars='--category-axis --category-title --bar-width --position --axis-color
         --axis-title-color'
@@ -18,9 +18,10 @@ _tovangl_chart() {
         --category-axis | --value-axis) words=$axis ;;
         --theme | --palette) words='light dark high-contrast colour-blind' ;;
         --picture-color) words='transparent' ;;
+        --format) words='png svg' ;;
         --kilo) words='1024 1000' ;;
-        --background | --fast | --bold | --shorten-left | --keep-overlaps | --without-sizes | --csv | \
-            --frames | --maps | --resume | --help | [!-]*)
+        --background | --follow-display | --fast | --bold | --shorten-left | --keep-overlaps | \
+            --without-sizes | --csv | --svg | --frames | --maps | --resume | --help | [!-]*)
             case ${COMP_WORDS[1]} in
                 pie) words="$common $pie" files=yes ;;
                 bars) words="$common $bars $value" files=yes ;;

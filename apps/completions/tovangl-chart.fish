@@ -20,6 +20,8 @@ complete -c tovangl-chart -n $none -l version -d 'Show the version'
 complete -c tovangl-chart -s h -l help -d 'Show the help'
 
 complete -c tovangl-chart -n $any -s o -l output -r -F -d 'Write the picture here'
+complete -c tovangl-chart -n $any -l format -x -a 'png svg' -d 'Format of the picture'
+complete -c tovangl-chart -n $any -l svg -d 'Put the picture into the page as SVG'
 complete -c tovangl-chart -n $any -l map -r -F -d 'Write where each item was drawn'
 complete -c tovangl-chart -n $any -l csv -d 'Read comma-separated values with a header'
 complete -c tovangl-chart -n $any -l caption -x -d 'Column of the captions'
@@ -44,6 +46,7 @@ complete -c tovangl-chart -n $any -l border-color -x -d "Colour of the backgroun
 complete -c tovangl-chart -n $any -l outline-color -x -d 'Colour of the outlines'
 complete -c tovangl-chart -n $any -l kilo -x -a '1024 1000' -d 'What a prefix such as K stands for'
 complete -c tovangl-chart -n $any -l scale -x -a 2 -d 'More pixels for displays of high density'
+complete -c tovangl-chart -n $any -l follow-display -d 'Dark colours on dark displays, in SVG'
 complete -c tovangl-chart -n $any -l fast -d 'Save faster, in a larger file'
 
 complete -c tovangl-chart -n $batch -s o -l output -x -a '(__fish_complete_directories)' -d 'Write the pictures into this folder'

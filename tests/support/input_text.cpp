@@ -33,7 +33,8 @@ void writeSettings(std::ostream& stream, const CGraph1dSettings& settings)
            << "\nothers " << settings.othersCaption.toStdString() << "\nbackground "
            << settings.hasBackground << "\nscale " << settings.scale << "\nkilo "
            << (settings.kilo ? settings.kilo->size : 0) << "\ncompression "
-           << static_cast<int>(settings.compression) << '\n';
+           << static_cast<int>(settings.compression) << "\nfollows the display "
+           << settings.followsDisplay << '\n';
     writeColors(stream, settings.colors);
 }
 
