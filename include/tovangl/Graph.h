@@ -247,6 +247,19 @@ public:
     /// @param data, size     as for createPixmap()
     void createSvg(int width, int height, unsigned char** data, int* size);
 
+    /// Renders the chart as a PDF file of one page without margins, for paper: the picture that
+    /// createPixmapForPrinter() makes with the factor 4, in shapes and texts instead of pixels.
+    ///
+    /// Texts can be selected and searched, and the file has the part of the font that they use. A
+    /// font whose maker forbids that is drawn as outlines. The file has the chart's title, or else
+    /// describe(), as its title, describe() for those who do not see it, and the language of the
+    /// chart's locale, or else English. It has no date: the same chart gives the same file.
+    ///
+    /// @param width, height  page size in points, of which 72 are an inch: up to 14,400, because
+    ///                       readers of PDF take no larger pages. *size is 0 beyond that
+    /// @param data, size     as for createPixmap()
+    void createPdf(int width, int height, unsigned char** data, int* size);
+
 protected:
     CGraph1dBase* m_graph; ///< owned by the derived class; null in a plain Graph
 

@@ -13,8 +13,10 @@
 #include "output/png_encoding.h"
 #include "output/raster_surface.h"
 #include "paint/CCanvas.h"
+#include "pdf/CPdfSurface.h"
 #include "svg/CSvgFrame.h"
 #include "svg/CSvgOutput.h"
+#include "text/one_line.h"
 
 #include <algorithm>
 
@@ -145,6 +147,22 @@ std::vector<QColor> CGraph1dBase::darkColors(CSvgFrame frame, CCanvas& canvas,
     return output.usedColors();
 }
 
+CPictureFile CGraph1dBase::getPdf(int width, int height)
+{
+    forgetDrawing();
+    if (!isPdfSize(width, height)) {
+        m_problem = Problem::SizeOutOfRange;
+        return noPictureFile();
+    }
+    constexpr int kScale = CPdfSurface::kPixelsPerPoint;
+    CPdfSurface page(width, height);
+    const Problem found =
+        paintOn(page, {width * kScale, height * kScale, kScale, OutputDevice::Printer, kilo()});
+    CPictureFile file = page.file(pdfProperties());
+    m_problem = found;
+    return file;
+}
+
 const CPictureFile& CGraph1dBase::paintDevice2Bytes(QImage& image)
 {
     const Problem ofDrawing = m_problem;
@@ -191,15 +209,19 @@ QImage CGraph1dBase::draw(const CRequest& request)
     if (!begin(request))
         return QImage();
     QImage image = makeRasterSurface(request.width, request.height);
-    if (!image.isNull()) {
-        CCanvas canvas(image, input().settings, request, addedFamily());
-        const bool fits = layOut(canvas, request);
-        if (fits)
-            paintContents(canvas);
-        m_isDrawn = fits;
-        m_problem = findProblem(canvas);
-    }
+    if (!image.isNull())
+        m_problem = paintOn(image, request);
     return image;
+}
+
+Problem CGraph1dBase::paintOn(QPaintDevice& device, const CRequest& request)
+{
+    CCanvas canvas(device, input().settings, request, addedFamily());
+    const bool fits = layOut(canvas, request);
+    if (fits)
+        paintContents(canvas);
+    m_isDrawn = fits;
+    return findProblem(canvas);
 }
 
 bool CGraph1dBase::layOut(CCanvas& canvas, const CRequest& request)
@@ -263,6 +285,16 @@ std::optional<CGraph1dItem> CGraph1dBase::gatheredItem() const
 QString CGraph1dBase::addedFamily() const
 {
     return CAddedFonts::ofProcess().qtFamily(input().settings.fontFamily);
+}
+
+CPdfProperties CGraph1dBase::pdfProperties() const
+{
+    const CGraph1dSettings& settings = input().settings;
+    const QString description = toQString(describe());
+    const QString title = oneLine(settings.title);
+    const bool hasLanguage = settings.locale.language() != QLocale::C;
+    return {title.isEmpty() ? description : title, description,
+            hasLanguage ? settings.locale.bcp47Name() : QStringLiteral("en")};
 }
 
 void CGraph1dBase::recordCaptions(const std::vector<QRect>& captions)

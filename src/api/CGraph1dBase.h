@@ -24,6 +24,7 @@ class CCanvas;
 class CChartOutput;
 class CTextMeasurer;
 struct CGraph1dInput;
+struct CPdfProperties;
 struct CSvgFrame;
 struct CSvgItem;
 
@@ -60,6 +61,9 @@ public:
     /// Lays out the picture of getImage() and writes its shapes as SVG; no bytes if that cannot be
     /// made.
     [[nodiscard]] CPictureFile getSvg(int width, int height);
+    /// Draws the picture of getImageForPrinter() as PDF, a point for each pixel of the size; no
+    /// bytes if that cannot be made.
+    [[nodiscard]] CPictureFile getPdf(int width, int height);
     /// Saves a picture as PNG with the chart's compression, and packs its pixels for that. The
     /// bytes live until the next call or freePixmap(); there are none where the picture is null.
     const CPictureFile& paintDevice2Bytes(QImage& image);
@@ -138,6 +142,9 @@ private:
     // What was wrong with a picture that could be made.
     [[nodiscard]] Problem findProblem(const CCanvas& canvas) const;
     [[nodiscard]] QString addedFamily() const;
+    // Lays out and paints; returns what was wrong with that.
+    [[nodiscard]] Problem paintOn(QPaintDevice& device, const CRequest& request);
+    [[nodiscard]] CPdfProperties pdfProperties() const;
     // The chart as laid out, as an SVG file.
     [[nodiscard]] CPictureFile writeSvg(CCanvas& canvas, const CRequest& request) const;
     // The colours of a picture in the dark theme, in the order in which they are written.

@@ -203,6 +203,12 @@ void Graph::createPixmap(int width, int height, unsigned char** data, int* size)
         handOver(renderPicture(*m_graph, width, height), data, size);
 }
 
+void Graph::createPdf(int width, int height, unsigned char** data, int* size)
+{
+    if (m_graph)
+        handOver(renderPdf(*m_graph, width, height), data, size);
+}
+
 void Graph::createPixmapForPrinter(int width, int height, int factor, unsigned char** data,
                                    int* size)
 {

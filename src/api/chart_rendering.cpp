@@ -50,6 +50,11 @@ const CPictureFile& renderSvg(CGraph1dBase& graph, int width, int height)
     return renderFile(graph, [&] { return graph.getSvg(width, height); });
 }
 
+const CPictureFile& renderPdf(CGraph1dBase& graph, int width, int height)
+{
+    return renderFile(graph, [&] { return graph.getPdf(width, height); });
+}
+
 const CPictureFile& renderForPrinter(CGraph1dBase& graph, int width, int height, int factor)
 {
     return render(graph, [&] { return graph.getImageForPrinter(width, height, factor); });

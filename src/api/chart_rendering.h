@@ -22,6 +22,9 @@ const CPictureFile& renderSvg(CGraph1dBase& graph, int width, int height);
 /// The same for print, at factor times the resolution.
 const CPictureFile& renderForPrinter(CGraph1dBase& graph, int width, int height, int factor);
 
+/// The same for print as PDF, on a page of that many points.
+const CPictureFile& renderPdf(CGraph1dBase& graph, int width, int height);
+
 } // namespace tovangl
 
 #endif

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+// What a page of a PDF file shows.
+#include "pdf/CPdfContent.h"
+
+#include "pdf/CPdfObjects.h"
+#include "pdf/path_operators.h"
+#include "pdf/pdf_text.h"
+
+#include <QBrush>
+#include <QColor>
+#include <QGradient>
+#include <QPainterPath>
+#include <QPen>
+#include <QTransform>
+
+#include <cmath>
+
+namespace tovangl {
+
+namespace {
+
+constexpr int kMatrixDecimals = 5;
+constexpr double kThousand = 1000; // parts of a font's size that the pen's moves are given in
+
+// A page whose colours all have one kind, so that a reader that converts them converts them alike.
+std::string shading(const QLinearGradient& gradient, const QTransform& toPage)
+{
+    const QGradientStops stops = gradient.stops();
+    return "<</ShadingType 2/ColorSpace/DeviceRGB/Coords[" +
+           pdfPoint(toPage.map(gradient.start())) + pdfPoint(toPage.map(gradient.finalStop())) +
+           "]/Extend[true true]/Function<</FunctionType 2/Domain[0 1]/N 1/C0[" +
+           pdfColor(stops.first().second) + "]/C1[" + pdfColor(stops.last().second) + "]>>>>";
+}
+
+// Letters stand upright where y grows downward.
+std::string textMatrix(const QTransform& toPage, const QPointF& position)
+{
+    std::string text;
+    for (const qreal part : {toPage.m11(), toPage.m12(), -toPage.m21(), -toPage.m22()})
+        text += pdfNumber(part, kMatrixDecimals) + ' ';
+    return text + pdfPoint(toPage.map(position)) + "Tm\n";
+}
+
+bool isOnOneLine(const QPointF& a, const QPointF& b)
+{
+    return std::abs(a.y() - b.y()) < std::pow(10, -kLengthDecimals);
+}
+
+} // namespace
+
+void CPdfContent::setClip(const std::optional<QPainterPath>& path)
+{
+    if (m_unclippedState) {
+        m_bytes += "Q\n";
+        m_state = *m_unclippedState;
+        m_unclippedState.reset();
+    }
+    if (!path)
+        return;
+    m_unclippedState = m_state;
+    m_bytes += "q\n" + pathOperators(*path) + "W n\n";
+}
+
+void CPdfContent::fill(const QPainterPath& path, const QBrush& brush, const QTransform& toPage)
+{
+    if (path.isEmpty() || brush.style() == Qt::NoBrush || brush.color().alpha() == 0)
+        return;
+    if (brush.gradient()) {
+        fillWithGradient(path, *brush.gradient(), toPage);
+        return;
+    }
+    change(m_state.fill, pdfColor(brush.color()) + "rg\n");
+    m_bytes += pathOperators(path) + (path.fillRule() == Qt::WindingFill ? "f\n" : "f*\n");
+}
+
+void CPdfContent::stroke(const QPainterPath& path, const QPen& pen)
+{
+    if (path.elementCount() == 0 || pen.style() == Qt::NoPen || pen.color().alpha() == 0)
+        return;
+    change(m_state.stroke, pdfColor(pen.color()) + "RG\n");
+    change(m_state.pen, penOperators(pen));
+    m_bytes += pathOperators(path) + "S\n";
+}
+
+void CPdfContent::showText(const QString& text, const std::vector<CShapedRun>& runs,
+                           const QColor& color, const QTransform& toPage)
+{
+    if (color.alpha() == 0)
+        return;
+    change(m_state.fill, pdfColor(color) + "rg\n");
+    const bool isRead = runs.size() == 1 && tellLetters(runs.front());
+    if (!isRead)
+        m_bytes += "/Span<</ActualText" + pdfString(text) + ">>BDC\n";
+    for (const CShapedRun& run : runs)
+        showRun(run, toPage);
+    if (!isRead)
+        m_bytes += "EMC\n";
+}
+
+std::string CPdfContent::bytes() const
+{
+    return m_unclippedState ? m_bytes + "Q\n" : m_bytes;
+}
+
+std::string CPdfContent::writeResources(CPdfObjects& objects) const
+{
+    std::string fonts;
+    for (std::size_t i = 0; i < m_fonts.size(); ++i) {
+        if (m_fonts[i].isEmbeddable())
+            fonts += "/F" + std::to_string(i) + ' ' + pdfReference(m_fonts[i].write(objects));
+    }
+    std::string shadings;
+    for (std::size_t i = 0; i < m_shadings.size(); ++i)
+        shadings += "/S" + std::to_string(i) + ' ' + pdfReference(objects.add(m_shadings[i]));
+    return "<</Font<<" + fonts + ">>/Shading<<" + shadings + ">>>>";
+}
+
+void CPdfContent::change(std::string& setting, const std::string& wanted)
+{
+    if (setting == wanted)
+        return;
+    m_bytes += wanted;
+    setting = wanted;
+}
+
+void CPdfContent::fillWithGradient(const QPainterPath& path, const QGradient& gradient,
+                                   const QTransform& toPage)
+{
+    // Charts have no other gradients than linear ones from one colour to another.
+    const auto& linear = static_cast<const QLinearGradient&>(gradient);
+    m_bytes += "q\n" + pathOperators(path) + (path.fillRule() == Qt::WindingFill ? "W" : "W*") +
+               " n\n/S" + std::to_string(m_shadings.size()) + " sh\nQ\n";
+    m_shadings.push_back(shading(linear, toPage));
+}
+
+std::size_t CPdfContent::fontFor(const QRawFont& face)
+{
+    std::size_t i = 0;
+    while (i < m_fonts.size() && !m_fonts[i].isOf(face))
+        ++i;
+    if (i == m_fonts.size())
+        m_fonts.emplace_back(face);
+    return i;
+}
+
+// Whether readers find the text by its glyphs alone.
+bool CPdfContent::tellLetters(const CShapedRun& run)
+{
+    CPdfFont& font = m_fonts[fontFor(run.face)];
+    bool isTold = !run.letters.empty();
+    for (std::size_t i = 0; i < run.letters.size(); ++i)
+        isTold = font.tell(font.use(run.glyphs[i]), run.letters[i]) && isTold;
+    return isTold;
+}
+
+void CPdfContent::showRun(const CShapedRun& run, const QTransform& toPage)
+{
+    const std::size_t font = fontFor(run.face);
+    if (m_fonts[font].isEmbeddable())
+        showGlyphs(font, run, toPage);
+    else
+        fillOutlines(run, toPage);
+}
+
+// Each glyph has the place that the layout gave it. Where the font's own widths lead elsewhere,
+// which are not those of letters fitted to pixels, the pen is moved.
+void CPdfContent::showGlyphs(std::size_t font, const CShapedRun& run, const QTransform& toPage)
+{
+    const double size = run.face.pixelSize();
+    m_bytes += "BT\n/F" + std::to_string(font) + ' ' + pdfNumber(size) + " Tf\n";
+    std::size_t i = 0;
+    while (i < run.glyphs.size()) {
+        const QPointF start = run.positions[i];
+        double pen = start.x();
+        m_bytes += textMatrix(toPage, start) + "[<";
+        for (; i < run.glyphs.size() && isOnOneLine(run.positions[i], start); ++i) {
+            const long move = std::lround((pen - run.positions[i].x()) * kThousand / size);
+            if (move != 0)
+                m_bytes += '>' + std::to_string(move) + '<';
+            const std::uint16_t number = m_fonts[font].use(run.glyphs[i]);
+            m_bytes += pdfHex(number);
+            pen += static_cast<double>(m_fonts[font].advance(number) - move) * size / kThousand;
+        }
+        m_bytes += ">]TJ\n";
+    }
+    m_bytes += "ET\n";
+}
+
+// For a font that must not be part of the file.
+void CPdfContent::fillOutlines(const CShapedRun& run, const QTransform& toPage)
+{
+    QPainterPath outlines;
+    outlines.setFillRule(Qt::WindingFill);
+    for (std::size_t i = 0; i < run.glyphs.size(); ++i)
+        outlines.addPath(run.face.pathForGlyph(run.glyphs[i]).translated(run.positions[i]));
+    m_bytes += pathOperators(toPage.map(outlines)) + "f\n";
+}
+
+} // namespace tovangl

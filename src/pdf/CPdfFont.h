@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The part of a font that a PDF file needs.
+#ifndef TOVANGL_PDF_CPDFFONT_H
+#define TOVANGL_PDF_CPDFFONT_H
+
+#include "pdf/true_type_file.h"
+
+#include <QByteArray>
+#include <QRawFont>
+#include <QString>
+
+#include <cstdint>
+#include <map>
+#include <vector>
+
+namespace tovangl {
+
+class CPdfObjects;
+
+/// A face with the glyphs that texts use, in the order of their first use. The file gets their
+/// outlines as a TrueType font, whatever the face consists of: every reader has had those for
+/// decades, and their outlines are all that is needed.
+class CPdfFont
+{
+public:
+    explicit CPdfFont(const QRawFont& face);
+
+    [[nodiscard]] bool isOf(const QRawFont& face) const;
+    /// Whether its maker allows it in documents.
+    [[nodiscard]] bool isEmbeddable() const { return m_isEmbeddable; }
+    /// The number of a glyph in the file.
+    [[nodiscard]] std::uint16_t use(std::uint32_t glyph);
+    /// Says what a glyph of the file stands for, which is a letter or several joined.
+    ///
+    /// @return false if it already stands for something else
+    [[nodiscard]] bool tell(std::uint16_t number, const QString& letters);
+    /// How far a glyph of the file moves the pen, in thousandths of the font's size.
+    [[nodiscard]] int advance(std::uint16_t number) const;
+    /// Writes the font and returns the number of its object.
+    int write(CPdfObjects& objects) const;
+
+private:
+    [[nodiscard]] int inThousandths(int fontUnits) const;
+    [[nodiscard]] int writeDescriptor(CPdfObjects& objects, const std::string& file,
+                                      const std::string& name) const;
+    [[nodiscard]] int writeLetters(CPdfObjects& objects) const;
+
+    QRawFont m_face;
+    QByteArray m_head;   // its table "head", which has a checksum of the font
+    QRawFont m_outlines; // the face at the size whose pixels are font units
+    bool m_isEmbeddable;
+    CFontBox m_box;
+    std::vector<CFontGlyph> m_glyphs;
+    std::vector<QString> m_letters; // of the glyphs; empty where they are not told
+    std::map<std::uint32_t, std::uint16_t> m_numbers;
+};
+
+} // namespace tovangl
+
+#endif

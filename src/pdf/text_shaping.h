@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The glyphs of a text that a painter paints.
+#ifndef TOVANGL_PDF_TEXT_SHAPING_H
+#define TOVANGL_PDF_TEXT_SHAPING_H
+
+#include <QGlyphRun>
+#include <QPointF>
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+class QTextItem;
+
+namespace tovangl {
+
+/// Glyphs of one face.
+struct CShapedRun
+{
+    QRawFont face;
+    std::vector<std::uint32_t> glyphs; ///< from left to right
+    std::vector<QPointF> positions;    ///< of the glyphs, from the left end of the baseline
+    /// What each glyph stands for; empty where letters are joined, reordered or combined.
+    std::vector<QString> letters;
+};
+
+/// The runs of a text item, from left to right.
+[[nodiscard]] std::vector<CShapedRun> shapeItem(const QTextItem& item);
+
+} // namespace tovangl
+
+#endif
