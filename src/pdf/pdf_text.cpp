@@ -24,6 +24,12 @@ bool isLetterOrDigit(char character)
            (character >= 'a' && character <= 'z');
 }
 
+// What a text can consist of to be written as it is.
+bool isPlain(char character)
+{
+    return isLetterOrDigit(character) || character == ' ' || character == '-';
+}
+
 long long powerOfTen(int exponent)
 {
     long long power = 1;
@@ -75,6 +81,9 @@ std::string pdfHex(std::uint16_t value)
 
 std::string pdfString(const QString& text)
 {
+    const std::string plain = text.toStdString();
+    if (std::all_of(plain.begin(), plain.end(), isPlain))
+        return '(' + plain + ')';
     std::string digits = '<' + pdfHex(kByteOrderMark);
     for (const QChar unit : text)
         digits += pdfHex(unit.unicode());

@@ -30,7 +30,8 @@ inline constexpr int kLengthDecimals = 2;
 /// Four hexadecimal digits.
 [[nodiscard]] std::string pdfHex(std::uint16_t value);
 
-/// Any text, in hexadecimal digits: nothing in it can be taken for anything else.
+/// Any text: words as they are, and all others in hexadecimal digits, so that nothing in it can be
+/// taken for anything else.
 [[nodiscard]] std::string pdfString(const QString& text);
 
 /// The letters and digits of a name.

@@ -119,6 +119,14 @@ CExport CAnyChart::createSvg(int width, int height)
     return CExport{data, size};
 }
 
+CExport CAnyChart::createPdf(int width, int height)
+{
+    unsigned char* data = nullptr;
+    int size = -1;
+    m_graph->createPdf(width, height, &data, &size);
+    return CExport{data, size};
+}
+
 std::list<Rectangle> CAnyChart::itemRectangles()
 {
     return *m_graph->getRectangle();

@@ -62,6 +62,7 @@ public:
     [[nodiscard]] CExport createPixmap(int width, int height);
     [[nodiscard]] CExport createPixmapForPrinter(int width, int height, int factor);
     [[nodiscard]] CExport createSvg(int width, int height);
+    [[nodiscard]] CExport createPdf(int width, int height);
     /// Where the captions are.
     [[nodiscard]] std::list<Rectangle> itemRectangles();
     /// Where the bars are, for each bar drawn and for each item; empty where there are no bars.

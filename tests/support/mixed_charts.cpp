@@ -60,15 +60,27 @@ CExport renderOnce(CAnyChart& chart, CDice& dice)
                          : chart.createPixmap(width, height);
 }
 
-} // namespace
-
-CRenderedChart renderMixedChart(unsigned number)
+CAnyChart makeChart(unsigned number, CDice& dice)
 {
-    CDice dice(number);
     const ChartKind kind = kChartKinds[number % kChartKinds.size()];
     CAnyChart chart(kind, dice.oneIn(2));
     applySettings(chart, dice);
     addItems(chart, dice);
+    return chart;
+}
+
+} // namespace
+
+CAnyChart makeMixedChart(unsigned number)
+{
+    CDice dice(number);
+    return makeChart(number, dice);
+}
+
+CRenderedChart renderMixedChart(unsigned number)
+{
+    CDice dice(number);
+    CAnyChart chart = makeChart(number, dice);
     return copyRendering(chart, renderOnce(chart, dice));
 }
 

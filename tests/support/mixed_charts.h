@@ -8,8 +8,12 @@
 
 namespace tovangl {
 
-/// Makes the chart of that number, renders it once and destroys it. The same number always gives
-/// the same chart: up to 24 items in a picture of at most 400 x 300, sometimes for print.
+/// The chart of that number, not yet rendered. The same number always gives the same chart: up to
+/// 24 items.
+[[nodiscard]] CAnyChart makeMixedChart(unsigned number);
+
+/// Makes the chart of that number, renders it once and destroys it: in a picture of at most 400 x
+/// 300, sometimes for print.
 [[nodiscard]] CRenderedChart renderMixedChart(unsigned number);
 
 } // namespace tovangl

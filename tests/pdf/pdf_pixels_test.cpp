@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "pdf/pdf_reader.h"
+#include "pdf/shape_comparison.h"
+#include "support/mixed_charts.h"
+#include "support/png_decoding.h"
+
+#include <QPainter>
+#include <QRect>
+
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace tovangl {
+namespace {
+
+constexpr int kWidth = 240; // points
+constexpr int kHeight = 160;
+constexpr int kFactor = 4;           // pixels to a point
+constexpr int kDotsPerInch = 288;    // that many
+constexpr unsigned kChartCount = 42; // of each kind 14
+constexpr int kNextPixel = 1;
+// Where a gap is narrower than a pixel, or a slice, antialiasing decides what is seen of it. A dot
+// of a beam alone has more pixels than that.
+constexpr int kMostStrayPixels = 8;
+
+// The reader moves lines to whole pixels, so its pixels are made smaller than those to compare.
+QImage pageOf(const std::string& pdf)
+{
+    constexpr int kFiner = 2;
+    const QImage page = pixelsOfPdf(pdf, kDotsPerInch * kFiner);
+    return page.scaled(page.size() / kFiner, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_ARGB32);
+}
+
+void cover(QImage& picture, const std::vector<QRect>& boxes)
+{
+    QPainter painter(&picture);
+    for (const QRect& box : boxes)
+        painter.fillRect(box, Qt::white);
+}
+
+class PdfPixels : public testing::TestWithParam<unsigned>
+{};
+
+TEST_P(PdfPixels, ShapesStandWithinOnePixelOfThePictureForPrint)
+{
+    CAnyChart chart = makeMixedChart(GetParam());
+    const std::string pdf = chart.createPdf(kWidth, kHeight).bytes();
+    QImage page = pageOf(pdf);
+    QImage picture = decodePng(chart.createPixmapForPrinter(kWidth, kHeight, kFactor).bytes());
+    // Letters are fitted to pixels in one of them alone.
+    const std::vector<QRect> boxes = wordBoxesOfPdf(pdf, kFactor);
+    cover(page, boxes);
+    cover(picture, boxes);
+    EXPECT_LE(countStrayPixels(page, picture, kNextPixel), kMostStrayPixels);
+}
+
+INSTANTIATE_TEST_SUITE_P(MixedCharts, PdfPixels, testing::Range(0u, kChartCount));
+
+TEST(PdfPixels, ATransparentPictureLeavesThePaperAsItIs)
+{
+    CAnyChart chart(ChartKind::Pie);
+    chart.addItem(1, "all");
+    const std::size_t filled = chart.createPdf(kWidth, kHeight).bytes().size();
+    chart.graph().setPictureTransparent();
+    EXPECT_LT(chart.createPdf(kWidth, kHeight).bytes().size(), filled);
+}
+
+TEST(PdfPixels, NothingInAPageIsMadeOfPixels)
+{
+    CAnyChart chart(ChartKind::VerticalBars, true);
+    chart.addItem(70, "usr");
+    const std::string list =
+        readPdf(chart.createPdf(kWidth, kHeight).bytes(), "pdfimages -list picture.pdf | wc -l");
+    constexpr int kHeadLines = 2;
+    EXPECT_EQ(std::stoi(list), kHeadLines);
+}
+
+} // namespace
+} // namespace tovangl
