@@ -161,8 +161,18 @@ CExport CWatchedChart::exportPicture(int width, int height, int factor)
                        : m_chart.createPixmapForPrinter(width, height, factor);
 }
 
+void CWatchedChart::checkPdf(int width, int height)
+{
+    const std::string first = m_chart.createPdf(width, height).bytes();
+    require(m_chart.createPdf(width, height).bytes() == first, "two PDF files are equal");
+    const Problem problem = m_chart.graph().problem();
+    require(first.empty() == (problem == Problem::SizeOutOfRange),
+            "a page of a size that readers take can be made");
+}
+
 void CWatchedChart::render(int width, int height, int factor)
 {
+    checkPdf(width, height);
     m_export = exportPicture(width, height, factor);
     const CRenderedChart first = copyRendering(m_chart, m_export);
     if (factor == 0)

@@ -51,6 +51,7 @@ private:
     void checkBytes() const;
     void checkLists();
     void checkSvg(int width, int height, const CRenderedChart& png);
+    void checkPdf(int width, int height);
     void checkPicture(std::int64_t width, std::int64_t height) const;
     void checkTitle(std::int64_t width, std::int64_t height) const;
     void checkRegions(std::int64_t width, std::int64_t height);

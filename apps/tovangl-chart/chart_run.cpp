@@ -14,6 +14,7 @@ namespace tovangl::program {
 
 namespace {
 
+constexpr int kPixelsPerPoint = 4; // of a PDF page, in which its regions are given
 constexpr int kUsualDensity = 2; // picture pixels for each pixel of a page, on most dense displays
 
 /// The pictures of a run.
@@ -34,14 +35,6 @@ std::optional<int> givenScale(const CommonOptions& options)
     return scale && !options.printFactor ? std::optional(parseWhole(*scale)) : std::nullopt;
 }
 
-// How many pixels of a page or a size a pixel of the shown picture stands for, each way.
-int shownScale(const CommonOptions& options)
-{
-    if (options.printFactor)
-        return std::max(*options.printFactor, 1);
-    return makesPage(options) ? 1 : givenScale(options).value_or(1);
-}
-
 PictureFormat givenFormat(const CommonOptions& options)
 {
     return options.format.value_or(formatOfName(options.output.value_or("")));
@@ -53,6 +46,16 @@ PictureFormat shownFormat(const CommonOptions& options)
     if (!makesPage(options))
         return givenFormat(options);
     return options.isPageSvg ? PictureFormat::Svg : PictureFormat::Png;
+}
+
+// How many pixels of a page or a size a pixel of the shown picture stands for, each way.
+int shownScale(const CommonOptions& options)
+{
+    if (shownFormat(options) == PictureFormat::Pdf)
+        return kPixelsPerPoint;
+    if (options.printFactor)
+        return std::max(*options.printFactor, 1);
+    return makesPage(options) ? 1 : givenScale(options).value_or(1);
 }
 
 std::string sizeText(const CommonOptions& options)
@@ -101,9 +104,9 @@ void checkFormats(const CommonOptions& options)
 {
     if (options.isPageSvg && !makesPage(options))
         throw CFailure("--svg: there is no page without --map FILE.html");
-    const bool hasSvg = givenFormat(options) == PictureFormat::Svg || options.isPageSvg;
-    if (hasSvg && options.printFactor)
-        throw CFailure("--print: an SVG picture has no pixels; leave out the factor");
+    const bool hasShapes = givenFormat(options) != PictureFormat::Png || options.isPageSvg;
+    if (hasShapes && options.printFactor)
+        throw CFailure("--print: only a PNG picture has pixels; leave out the factor");
 }
 
 /// Empty if there is no picture.
@@ -115,6 +118,8 @@ std::string renderPicture(Graph& chart, const CommonOptions& options, PictureFor
     chart.setScale(scale);
     if (format == PictureFormat::Svg)
         chart.createSvg(options.size.width, options.size.height, &bytes, &size);
+    else if (format == PictureFormat::Pdf)
+        chart.createPdf(options.size.width, options.size.height, &bytes, &size);
     else if (options.printFactor)
         chart.createPixmapForPrinter(options.size.width, options.size.height, *options.printFactor,
                                      &bytes, &size);

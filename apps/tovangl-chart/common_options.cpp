@@ -26,7 +26,7 @@ void addFileOptions(CLI::App& command, CommonOptions& options)
               "Write the picture here; without it, to standard output or into the page of --map")
         ->type_name("FILE");
     addOption(command, "--format", options.format, parsePictureFormat,
-              "Format of the picture, png or svg [by the name of FILE, or png]")
+              "Format of the picture: png, svg or pdf [by the name of FILE, or png]")
         ->type_name("NAME");
     addOption(command, "--map", options.map, parsePath,
               "Write where each item was drawn: a page with the picture and its regions "

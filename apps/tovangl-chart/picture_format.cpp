@@ -15,12 +15,16 @@ PictureFormat parsePictureFormat(std::string_view text)
         return PictureFormat::Png;
     if (text == "svg")
         return PictureFormat::Svg;
-    throw CFailure("\"" + std::string(text) + "\" is not a format: png or svg");
+    if (text == "pdf")
+        return PictureFormat::Pdf;
+    throw CFailure("\"" + std::string(text) + "\" is not a format: png, svg or pdf");
 }
 
 PictureFormat formatOfName(std::string_view name)
 {
-    return hasEnding(name, ".svg") ? PictureFormat::Svg : PictureFormat::Png;
+    if (hasEnding(name, ".svg"))
+        return PictureFormat::Svg;
+    return hasEnding(name, ".pdf") ? PictureFormat::Pdf : PictureFormat::Png;
 }
 
 bool hasEnding(std::string_view name, std::string_view ending)

@@ -11,13 +11,15 @@ namespace tovangl::program {
 enum class PictureFormat
 {
     Png,
-    Svg
+    Svg,
+    Pdf
 };
 
-/// Reads "png" or "svg".
+/// Reads "png", "svg" or "pdf".
 [[nodiscard]] PictureFormat parsePictureFormat(std::string_view text);
 
-/// The format that a file of that name has: SVG if it ends in ".svg", in upper or lower case.
+/// The format that a file of that name has: SVG or PDF if it ends in ".svg" or ".pdf", in upper or
+/// lower case.
 [[nodiscard]] PictureFormat formatOfName(std::string_view name);
 
 /// Whether a file name ends in an ending, which is in lower case, in upper or lower case.

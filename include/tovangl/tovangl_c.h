@@ -303,6 +303,17 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_render_svg(tovangl_chart* chart, int
                                                        int32_t height, const unsigned char** data,
                                                        size_t* size);
 
+/// Renders the chart as a PDF file of one page for paper: the picture that
+/// tovangl_chart_render_for_print() makes with the factor 4, in shapes and texts instead of pixels.
+/// The same chart gives the same file.
+///
+/// @param chart          not null
+/// @param width, height  page size in points, of which 72 are an inch: up to 14,400
+/// @param data, size     as for tovangl_chart_render()
+TOVANGL_EXPORT tovangl_status tovangl_chart_render_pdf(tovangl_chart* chart, int32_t width,
+                                                       int32_t height, const unsigned char** data,
+                                                       size_t* size);
+
 /// Frees the bytes of the last picture. Calling it again is harmless.
 TOVANGL_EXPORT tovangl_status tovangl_chart_free_picture(tovangl_chart* chart);
 

@@ -133,6 +133,16 @@ tovangl_status tovangl_chart_render_svg(tovangl_chart* chart, int32_t width, int
     });
 }
 
+tovangl_status tovangl_chart_render_pdf(tovangl_chart* chart, int32_t width, int32_t height,
+                                        const unsigned char** data, size_t* size)
+{
+    const tovangl::CResult result(data, size);
+    return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
+        return tovangl::handOver(tovangl::renderPdf(target.graph, width, height), target.graph,
+                                 result);
+    });
+}
+
 tovangl_status tovangl_chart_free_picture(tovangl_chart* chart)
 {
     return tovangl::callChart(chart, [](tovangl_chart& target) -> COutcome {

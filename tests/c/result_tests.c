@@ -30,6 +30,22 @@ static void every_kind_draws_for_the_screen_and_for_print(void)
     }
 }
 
+static void every_kind_is_drawn_on_paper(void)
+{
+    size_t k;
+    for (k = 0; k < KIND_COUNT; ++k) {
+        tovangl_chart* chart = make_filled_chart(kinds[k]);
+        const unsigned char* data = NULL;
+        size_t size = 0;
+        CHECK(tovangl_chart_render_pdf(chart, 300, 200, &data, &size) == TOVANGL_OK);
+        CHECK(size > 5 && memcmp(data, "%PDF-", 5) == 0);
+        CHECK(tovangl_chart_problem(chart) == TOVANGL_PROBLEM_NONE);
+        CHECK(tovangl_chart_render_pdf(chart, 14401, 200, &data, &size) == TOVANGL_NO_PICTURE);
+        CHECK(data == NULL && size == 0);
+        tovangl_chart_destroy(chart);
+    }
+}
+
 static void a_size_that_no_picture_has_is_told(void)
 {
     tovangl_chart* chart = make_filled_chart(TOVANGL_PIE);

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <stdexcept>
+#include <string>
 
 namespace tovangl {
 
@@ -48,6 +49,17 @@ void checkSvg(const CExport& picture)
     require(picture.size == 0 || !reader.hasError(), "an SVG picture is well-formed");
 }
 
+// A PDF file from its first line to its last.
+void checkPdf(const CExport& file)
+{
+    require(file.data != nullptr, "an export gives a pointer, whatever the file");
+    const std::string bytes = file.bytes();
+    const std::string end = "\n%%EOF\n";
+    require(bytes.empty() || (bytes.compare(0, 5, "%PDF-") == 0 &&
+                              bytes.compare(bytes.size() - end.size(), end.size(), end) == 0),
+            "a PDF file is empty or whole");
+}
+
 void checkProblem(const CExport& picture, const Graph& graph)
 {
     const Problem problem = graph.problem();
@@ -75,6 +87,7 @@ void checkRectangles(CAnyChart& chart, std::int64_t scale)
 void drawEverything(CAnyChart& chart, int width, int height, int factor)
 {
     constexpr std::int64_t kOnScreen = 1;
+    constexpr std::int64_t kOnPaper = 4;
     const std::int64_t scale = factor < 1 ? 1 : factor;
     CExport picture = chart.createPixmap(width, height);
     checkSize(picture, width, height);
@@ -90,6 +103,10 @@ void drawEverything(CAnyChart& chart, int width, int height, int factor)
     checkProblem(picture, chart.graph());
     chart.graph().setCompression(Compression::Balanced);
     checkRectangles(chart, scale);
+    picture = chart.createPdf(width, height);
+    checkPdf(picture);
+    checkProblem(picture, chart.graph());
+    checkRectangles(chart, kOnPaper);
 }
 
 void addOrdinaryItems(CAnyChart& chart)

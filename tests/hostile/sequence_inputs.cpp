@@ -32,6 +32,7 @@ void useChartWithoutKind()
     int size = 0;
     graph.createPixmap(400, 300, &data, &size);
     graph.createPixmapForPrinter(400, 300, 2, &data, &size);
+    graph.createPdf(400, 300, &data, &size);
 }
 
 void drawEmptied(ChartKind kind)

@@ -33,6 +33,7 @@ void CChartLife::live()
     call([this] { m_chart->graph().setCompression(Compression::Fast); });
     render(PictureKind::Print);
     render(PictureKind::Svg);
+    render(PictureKind::Pdf);
     call([this] { m_chart->graph().setByName("follow_display", "true"); });
     render(PictureKind::Svg);
     call([this] { m_chart->graph().setPictureTransparent(); });
@@ -116,6 +117,8 @@ CExport CChartLife::exportPicture(PictureKind kind)
             return m_chart->createPixmapForPrinter(kWidth, kHeight, kFactor);
         case PictureKind::Svg:
             return m_chart->createSvg(kWidth, kHeight);
+        case PictureKind::Pdf:
+            return m_chart->createPdf(kWidth, kHeight);
         case PictureKind::Screen:
             break;
         }

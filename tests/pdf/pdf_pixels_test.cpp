@@ -13,8 +13,8 @@
 namespace tovangl {
 namespace {
 
-constexpr int kWidth = 240; // points
-constexpr int kHeight = 160;
+constexpr int kWidth = 200; // points
+constexpr int kHeight = 140;
 constexpr int kFactor = 4;           // pixels to a point
 constexpr int kDotsPerInch = 288;    // that many
 constexpr unsigned kChartCount = 42; // of each kind 14

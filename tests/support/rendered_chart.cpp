@@ -44,7 +44,8 @@ bool isSameRendering(const CRenderedChart& a, const CRenderedChart& b)
 {
     return a.title == b.title && a.items == b.items && a.bars == b.bars &&
            a.itemBars == b.itemBars && areSameSlices(a.slices, b.slices) &&
-           a.description == b.description && a.problem == b.problem && areSamePixels(a.png, b.png);
+           a.description == b.description && a.problem == b.problem && a.pdf == b.pdf &&
+           areSamePixels(a.png, b.png);
 }
 
 } // namespace tovangl

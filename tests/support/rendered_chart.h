@@ -16,7 +16,8 @@ enum class PictureKind
 {
     Screen,
     Print,
-    Svg
+    Svg,
+    Pdf
 };
 
 struct CRenderedChart
@@ -29,12 +30,13 @@ struct CRenderedChart
     std::list<Slice> slices;
     std::string description;
     Problem problem = Problem::None;
+    std::string pdf = {}; ///< empty where none was made
 };
 
 /// Copies the bytes of an export, and everything else that the chart tells of it.
 [[nodiscard]] CRenderedChart copyRendering(CAnyChart& chart, const CExport& picture);
 
-/// Whether two renderings have equal pixels, regions, descriptions and problems.
+/// Whether two renderings have equal pixels, PDF files, regions, descriptions and problems.
 [[nodiscard]] bool isSameRendering(const CRenderedChart& a, const CRenderedChart& b);
 
 } // namespace tovangl

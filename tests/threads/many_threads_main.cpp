@@ -28,6 +28,15 @@ struct COptions
     bool seedsRace = false;
 };
 
+CRenderedChart drawMixedChart(unsigned number)
+{
+    constexpr int kWidth = 300; // points
+    constexpr int kHeight = 200;
+    CRenderedChart drawn = renderMixedChart(number);
+    drawn.pdf = makeMixedChart(number).createPdf(kWidth, kHeight).bytes();
+    return drawn;
+}
+
 // Hands out the charts, and takes the verdicts, of all threads.
 class CCommonWork
 {
@@ -41,7 +50,7 @@ public:
     void help()
     {
         for (unsigned number = m_next++; number < m_expected.size(); number = m_next++) {
-            CRenderedChart rendering = renderMixedChart(number);
+            CRenderedChart rendering = drawMixedChart(number);
             if (m_options.seedsWrongPixel && number == m_expected.size() / 2)
                 rendering.png = renderMixedChart(number + 1).png;
             if (m_options.seedsRace)
@@ -94,17 +103,17 @@ COptions parseOptions(int count, char** arguments)
     return options;
 }
 
-std::vector<CRenderedChart> renderAlone(unsigned pictures)
+std::vector<CRenderedChart> drawAlone(unsigned pictures)
 {
     std::vector<CRenderedChart> renderings;
     for (unsigned number = 0; number < pictures; ++number)
-        renderings.push_back(renderMixedChart(number));
+        renderings.push_back(drawMixedChart(number));
     return renderings;
 }
 
 int runThreads(const COptions& options)
 {
-    const std::vector<CRenderedChart> expected = renderAlone(options.pictures);
+    const std::vector<CRenderedChart> expected = drawAlone(options.pictures);
     CCommonWork work(expected, options);
     std::vector<std::thread> threads;
     for (unsigned i = 0; i < options.threads; ++i)

@@ -13,6 +13,7 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::StartsWith;
 using Json = nlohmann::json;
 
 constexpr const char* kItems =
@@ -115,6 +116,42 @@ TEST_P(EveryChart, MeasuresWhatItIsAskedFor)
     EXPECT_EQ(draw(chart()).size(), QSize(800, 600));
     EXPECT_EQ(draw(chart() + " --size 320x200").size(), QSize(320, 200));
     EXPECT_EQ(draw(chart() + " --size 320x200 --print 3").size(), QSize(960, 600));
+}
+
+TEST_P(EveryChart, IsAPageOfPaperInAFileWithThatEnding)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    runWell(folder, std::string("tovangl-chart ") + GetParam() + " items -o x.PDF");
+    EXPECT_THAT(folder.read("x.PDF"), StartsWith("%PDF-"));
+}
+
+TEST_P(EveryChart, IsAPageOfPaperInTheFormatOfThatName)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    const ShellResult result =
+        runShell(folder, std::string("tovangl-chart ") + GetParam() + " --format pdf items");
+    EXPECT_THAT(result.output, StartsWith("%PDF-"));
+}
+
+TEST_P(EveryChart, MapsFourPixelsForEachPointOfPaper)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    const std::string chart = std::string("tovangl-chart ") + GetParam() + " --size 300x200 items ";
+    runWell(folder, chart + "-o x.pdf --map paper.json");
+    runWell(folder, chart + "-o x.png --map print.json --print 4");
+    EXPECT_EQ(folder.read("paper.json"), folder.read("print.json"));
+}
+
+TEST_P(EveryChart, StandsAsPixelsInThePageBesideItsPaper)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    runWell(folder, std::string("tovangl-chart ") + GetParam() + " items -o x.pdf --map x.html");
+    EXPECT_THAT(folder.read("x.pdf"), StartsWith("%PDF-"));
+    EXPECT_THAT(folder.read("x.html"), HasSubstr("data:image/png"));
 }
 
 TEST_P(EveryChart, IsDrawnWithoutItems)
