@@ -249,6 +249,7 @@ static void arrays_of_one_kind_survive_a_call_for_another(void)
 const struct c_test result_tests[] = {
     {"every kind draws for the screen and for print",
      every_kind_draws_for_the_screen_and_for_print},
+    {"every kind is drawn on paper", every_kind_is_drawn_on_paper},
     {"a size that no picture has is told", a_size_that_no_picture_has_is_told},
     {"a picture without room is made and told of", a_picture_without_room_is_made_and_told_of},
     {"results need somewhere to go", results_need_somewhere_to_go},
