@@ -8,6 +8,7 @@
 #include "layout/CDump.h"
 #include "layout/CTextRecorder.h"
 #include "layout/layout_dump.h"
+#include "paint/CCanvas.h"
 
 #include <algorithm>
 

@@ -68,6 +68,7 @@ void CChartLifeInC::live()
     render(PictureKind::Print);
     call([this] { return tovangl_chart_set_link(m_chart, 0, "usr.html"); });
     render(PictureKind::Svg);
+    render(PictureKind::Pdf);
     call([this] { return tovangl_chart_clear(m_chart); });
     addItems();
     render(PictureKind::Screen);
@@ -125,6 +126,8 @@ tovangl_status CChartLifeInC::exportPicture(PictureKind kind, std::string& png)
             return tovangl_chart_render_for_print(m_chart, kWidth, kHeight, kFactor, &data, &size);
         case PictureKind::Svg:
             return tovangl_chart_render_svg(m_chart, kWidth, kHeight, &data, &size);
+        case PictureKind::Pdf:
+            return tovangl_chart_render_pdf(m_chart, kWidth, kHeight, &data, &size);
         case PictureKind::Screen:
             break;
         }
