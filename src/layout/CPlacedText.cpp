@@ -66,6 +66,15 @@ QRectF toRoom(const QRect& rect)
                   static_cast<double>(extent.height));
 }
 
+QRectF roomWithSlack(const CPlacedText& text)
+{
+    if (text.alignment & Qt::AlignRight)
+        return text.room.adjusted(-text.slack, 0, 0, 0);
+    if (text.alignment & Qt::AlignHCenter)
+        return text.room.adjusted(-text.slack / 2, 0, text.slack / 2, 0);
+    return text.room.adjusted(0, 0, text.slack, 0);
+}
+
 QRect coveredPixels(const QRect& room, bool isTurned, const QPoint& origin)
 {
     return covered(room, isTurned, origin);

@@ -30,6 +30,9 @@ struct CPlacedText
 /// A rectangle of whole pixels, for painting.
 [[nodiscard]] QRectF toRoom(const QRect& rect);
 
+/// The room with the slack on those sides that leave the text in its place.
+[[nodiscard]] QRectF roomWithSlack(const CPlacedText& text);
+
 /// The whole pixels that a text in that room covers on the picture.
 ///
 /// @param origin  of the room's coordinates, in picture pixels

@@ -22,16 +22,6 @@ void setBold(QPainter& painter)
     painter.setFont(font);
 }
 
-// The room with the slack on those sides that leave the text in its place.
-QRectF roomWithSlack(const CPlacedText& text)
-{
-    if (text.alignment & Qt::AlignRight)
-        return text.room.adjusted(-text.slack, 0, 0, 0);
-    if (text.alignment & Qt::AlignHCenter)
-        return text.room.adjusted(-text.slack / 2, 0, text.slack / 2, 0);
-    return text.room.adjusted(0, 0, text.slack, 0);
-}
-
 } // namespace
 
 void paintText(QPainter& painter, const CPlacedText& text)

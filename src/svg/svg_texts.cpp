@@ -78,10 +78,11 @@ void writeCutText(CSvgScene& scene, const qt::CTextLines& lines, const CPlacedTe
 
 void writeText(CSvgScene& scene, const CPlacedText& text, const QPointF& shift)
 {
-    const QRectF room = text.room.translated(text.origin + shift);
+    const QPointF place = text.origin + shift;
+    const QRectF room = roomWithSlack(text).translated(place);
     const qt::CTextLines lines = qt::wholePixelLines(fontOf(scene, text), room, text.text,
                                                      alignedTextOption(text.alignment));
-    const std::string turn = text.isTurned ? turnAt(room.topLeft()) : std::string();
+    const std::string turn = text.isTurned ? turnAt(text.room.topLeft() + place) : std::string();
     if (lines.isCut) {
         writeCutText(scene, lines, text, room.toAlignedRect(), turn);
         return;
