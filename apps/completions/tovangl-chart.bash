@@ -18,7 +18,7 @@ _tovangl_chart() {
         --category-axis | --value-axis) words=$axis ;;
         --theme | --palette) words='light dark high-contrast colour-blind' ;;
         --picture-color) words='transparent' ;;
-        --format) words='png svg' ;;
+        --format) words='png svg pdf' ;;
         --kilo) words='1024 1000' ;;
         --background | --follow-display | --fast | --bold | --shorten-left | --keep-overlaps | \
             --without-sizes | --csv | --svg | --frames | --maps | --resume | --help | [!-]*)

@@ -20,7 +20,7 @@ complete -c tovangl-chart -n $none -l version -d 'Show the version'
 complete -c tovangl-chart -s h -l help -d 'Show the help'
 
 complete -c tovangl-chart -n $any -s o -l output -r -F -d 'Write the picture here'
-complete -c tovangl-chart -n $any -l format -x -a 'png svg' -d 'Format of the picture'
+complete -c tovangl-chart -n $any -l format -x -a 'png svg pdf' -d 'Format of the picture'
 complete -c tovangl-chart -n $any -l svg -d 'Put the picture into the page as SVG'
 complete -c tovangl-chart -n $any -l map -r -F -d 'Write where each item was drawn'
 complete -c tovangl-chart -n $any -l csv -d 'Read comma-separated values with a header'
