@@ -41,6 +41,8 @@ def pie(items, **settings):
         of default, 1024, 1000. Default: default.
     :param scale: Picture pixels, each way, for each pixel of the size: 2 for displays of high
         density. Default: 1.
+    :param follow_display: Gives an SVG picture the colours of the theme dark on displays that are
+        set to dark. Default: false.
     :param fast: Saves faster, in a larger file. Default: false.
     :param bold: Draws the captions in bold type. Default: false.
     :param shorten_left: Cuts long captions at their beginning. Default: false.
@@ -89,6 +91,8 @@ def bars(items, **settings):
         of default, 1024, 1000. Default: default.
     :param scale: Picture pixels, each way, for each pixel of the size: 2 for displays of high
         density. Default: 1.
+    :param follow_display: Gives an SVG picture the colours of the theme dark on displays that are
+        set to dark. Default: false.
     :param fast: Saves faster, in a larger file. Default: false.
     :param category_axis: What the axis with the captions shows. Some of line, labels, title,
         bold-labels, bold-title, prefixes, hide-overlapped, shift-last; or ``none``. Default:
@@ -146,6 +150,8 @@ def hbars(items, **settings):
         of default, 1024, 1000. Default: default.
     :param scale: Picture pixels, each way, for each pixel of the size: 2 for displays of high
         density. Default: 1.
+    :param follow_display: Gives an SVG picture the colours of the theme dark on displays that are
+        set to dark. Default: false.
     :param fast: Saves faster, in a larger file. Default: false.
     :param category_axis: What the axis with the captions shows. Some of line, labels, title,
         bold-labels, bold-title, prefixes, hide-overlapped, shift-last; or ``none``. Default:
