@@ -14,6 +14,7 @@ using ::testing::Eq;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
+using ::testing::StartsWith;
 
 constexpr const char* kLine =
     R"({"chart": "pie", "id": "a", "width": 400, "height": 300, "items": [{"value": 7}]})";
@@ -40,7 +41,8 @@ TEST_P(BrokenOff, SaysWhyInOneLine)
     folder.write("file", "");
     const ShellResult result = runShell(folder, GetParam().command);
     EXPECT_EQ(result.status, 2);
-    EXPECT_THAT(result.errors, HasSubstr(std::string("tovangl-chart: ") + GetParam().message));
+    EXPECT_THAT(result.errors, StartsWith("tovangl-chart: "));
+    EXPECT_THAT(result.errors, HasSubstr(GetParam().message));
     EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << result.errors;
 }
 
@@ -71,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenBatch{"FullErrors", "echo x | tovangl-chart batch -o p --errors /dev/full",
                     "/dev/full: No space left"},
         BrokenBatch{"FileSizeLimit", "ulimit -f 1; tovangl-chart batch line -o p",
-                    "temporary file: File t"},
+                    ": File too large"},
         BrokenBatch{"Jobs", "tovangl-chart batch line -o p --jobs 0", "--jobs: 0 is not a number "},
         BrokenBatch{"LongestLine", "tovangl-chart batch line -o p --longest-line x",
                     "--longest-line: \"x\" is not a whole number"}),
