@@ -62,6 +62,15 @@ QTransform transformOf(const QString& text)
     return transform;
 }
 
+// A text is turned itself or, where its room cuts it off, with that.
+QTransform transformOf(const CSvgElement& text, const std::vector<CSvgElement>& elements)
+{
+    const CSvgElement* element = &text;
+    while ((*element)["transform"].isEmpty() && element->parent >= 0)
+        element = &elements[static_cast<std::size_t>(element->parent)];
+    return transformOf((*element)["transform"]);
+}
+
 } // namespace
 
 QImage renderedSvg(const std::string& bytes)
@@ -83,7 +92,7 @@ std::vector<QRect> textBoxes(const CParsedSvg& svg)
     std::vector<QRect> boxes;
     for (const CSvgElement& text : svg.all("text"))
         boxes.push_back(
-            transformOf(text["transform"]).mapRect(boxOf(text, fontSize)).toAlignedRect());
+            transformOf(text, svg.elements()).mapRect(boxOf(text, fontSize)).toAlignedRect());
     return boxes;
 }
 
