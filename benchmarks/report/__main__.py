@@ -7,6 +7,7 @@ import subprocess
 import sys
 from dataclasses import dataclass
 
+import batch
 import cases
 import instructions
 import resources
@@ -23,18 +24,22 @@ class Effort:
     parallel_passes: int
     parallel_time: int  # milliseconds
     cases: int  # of those that are costly to measure
+    batch_charts: int
+    batch_passes: int
 
 
 THOROUGH = Effort(passes=7, budget=600, cold_starts=25, many_charts=20000, parallel_passes=3,
-                  parallel_time=3000, cases=100)
+                  parallel_time=3000, cases=100, batch_charts=1500, batch_passes=3)
 QUICK = Effort(passes=2, budget=0, cold_starts=2, many_charts=400, parallel_passes=1,
-               parallel_time=300, cases=1)
+               parallel_time=300, cases=1, batch_charts=50, batch_passes=1)
 
 
 def read_arguments():
     parser = argparse.ArgumentParser(prog="scripts/bench", description=__doc__)
     parser.add_argument("--callgrind", action="store_true",
                         help="count instructions instead of time: repeatable on a busy machine")
+    parser.add_argument("--batch", action="store_true",
+                        help="measure tovangl-chart batch beside the library, and nothing else")
     parser.add_argument("--quick", action="store_true",
                         help="one short round of everything, to see that it works")
     parser.add_argument("--no-peers", action="store_true",
@@ -92,10 +97,13 @@ def main():
     programs = [*cases.BOTH_OF_OURS] + ([] if arguments.no_peers else cases.peers())
     os.makedirs(cases.PICTURES, exist_ok=True)
     print_machine()
-    print_versions(not arguments.no_peers)
+    print_versions(not arguments.no_peers and not arguments.batch)
     effort = QUICK if arguments.quick else THOROUGH
-    (count if arguments.callgrind else measure)(effort, programs)
-    print(f"\nThe pictures are in {os.path.relpath(cases.PICTURES)}/.")
+    if arguments.batch:
+        batch.print_batch(effort.batch_charts, effort.batch_passes, effort.parallel_time)
+    else:
+        (count if arguments.callgrind else measure)(effort, programs)
+        print(f"\nThe pictures are in {os.path.relpath(cases.PICTURES)}/.")
     if max(os.getloadavg()) > 1.5 * os.cpu_count():
         print("The machine was busy: compare ratios, not milliseconds.")
 
