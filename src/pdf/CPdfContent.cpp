@@ -22,7 +22,7 @@ namespace {
 constexpr int kMatrixDecimals = 5;
 constexpr double kThousand = 1000; // parts of a font's size that the pen's moves are given in
 
-// A page whose colours all have one kind, so that a reader that converts them converts them alike.
+// Beyond its ends, the gradient goes on in its first and its last colour, as a painter's does.
 std::string shading(const QLinearGradient& gradient, const QTransform& toPage)
 {
     const QGradientStops stops = gradient.stops();
