@@ -6,6 +6,7 @@ import pickle
 import struct
 import subprocess
 from concurrent.futures import ThreadPoolExecutor
+from xml.etree import ElementTree
 
 import pytest
 
@@ -93,6 +94,54 @@ def test_a_notebook_gets_the_picture_with_alternative_text():
     alternative = {"alt": picture.description, "width": 400, "height": 300}
     assert metadata == {"image/png": alternative}
     assert pie(WEEK, width=400, height=300, scale=2)._repr_mimebundle_() == (data, metadata)
+
+
+def test_an_svg_picture_tells_what_the_png_tells():
+    chart = pie(WEEK, title="Week")
+    svg, png = chart.render_svg(), chart.render()
+    assert ElementTree.fromstring(svg.svg).tag.endswith("svg")
+    assert "Tuesday" in svg.svg
+    assert svg.regions == png.regions
+    assert (svg.description, svg.problem) == (png.description, "")
+
+
+def test_an_svg_picture_is_saved_compared_and_pickled(tmp_path):
+    picture = bars(WEEK).render_svg()
+    picture.save(tmp_path / "bars.svg")
+    assert (tmp_path / "bars.svg").read_text(encoding="utf-8") == picture.svg
+    assert pickle.loads(pickle.dumps(picture)) == picture
+    assert picture != bars(WEEK, title="x").render_svg()
+    assert picture != bars(WEEK).render()
+
+
+def test_a_notebook_gets_an_svg_picture_with_alternative_text():
+    picture = pie(WEEK, width=400, height=300).render_svg()
+    alternative = {"alt": picture.description, "width": 400, "height": 300}
+    assert picture._repr_mimebundle_() == (
+        {"image/svg+xml": picture.svg, "text/plain": picture.description},
+        {"image/svg+xml": alternative},
+    )
+
+
+def test_an_svg_picture_that_cannot_be_made_is_an_error():
+    with pytest.raises(PictureError):
+        pie(WEEK, width=1_000_000, height=1_000_000).render_svg()
+
+
+def test_a_pdf_file_tells_what_the_picture_for_print_tells(tmp_path):
+    chart = bars(WEEK, title="Week", print=4, width=400, height=300)
+    pdf, png = chart.render_pdf(), chart.render()
+    assert pdf.regions == png.regions
+    assert (pdf.description, pdf.problem) == (png.description, "")
+    pdf.save(tmp_path / "week.pdf")
+    assert (tmp_path / "week.pdf").read_bytes() == pdf.pdf
+    assert pdf.pdf.startswith(b"%PDF-")
+    assert pickle.loads(pickle.dumps(pdf)) == pdf != png
+
+
+def test_a_page_larger_than_readers_take_is_an_error():
+    with pytest.raises(PictureError):
+        pie(WEEK, width=14_401, height=100).render_pdf()
 
 
 def test_two_renderings_are_equal_and_survive_pickling():

@@ -8,7 +8,8 @@
 True
 >>> picture.save("may.png")
 
-pie(), bars() and hbars() make a Chart, which is plain data; its render() gives a Picture.
+pie(), bars() and hbars() make a Chart, which is plain data; its render() gives a Picture, and its
+render_svg() an SvgPicture, its render_pdf() a PdfPicture.
 render_many() draws many charts with several threads. Importing the package starts nothing; the
 first picture of a process loads the fonts, or warm_up() before it.
 """
@@ -29,7 +30,7 @@ from tovangl._library import (
     version,
     warm_up,
 )
-from tovangl._picture import Picture, Rectangle, Regions, Slice
+from tovangl._picture import PdfPicture, Picture, Rectangle, Regions, Slice, SvgPicture
 from tovangl._render_many import render_many
 
 __all__ = [
@@ -40,6 +41,7 @@ __all__ = [
     "Item",
     "ItemError",
     "Items",
+    "PdfPicture",
     "Picture",
     "PictureError",
     "Rectangle",
@@ -47,6 +49,7 @@ __all__ = [
     "Setting",
     "SettingError",
     "Slice",
+    "SvgPicture",
     "add_font",
     "bars",
     "hbars",

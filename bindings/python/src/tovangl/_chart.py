@@ -9,7 +9,7 @@ from typing import TYPE_CHECKING, Any, Dict, Mapping, NamedTuple, Optional, Tupl
 
 from tovangl._items import Items
 from tovangl._library import KINDS
-from tovangl._picture import Picture, check, new_chart
+from tovangl._picture import PdfPicture, Picture, SvgPicture, check, new_chart
 from tovangl._settings import Value, checked_settings, setting_text
 from tovangl._tovangl import ffi, lib
 
@@ -121,12 +121,45 @@ class Chart:
         Other threads of Python run meanwhile. Raises SettingError where a setting does not accept
         its value, PictureError where the picture cannot be made, and MemoryError.
         """
-        kind, items, _, width, height, factor, settings = self._fields
+        chart = self._library_chart()
+        _, _, _, width, height, factor, _ = self._fields
+        if factor is None:
+            png = _draw(chart, lib.tovangl_chart_render, width, height)
+        else:
+            png = _draw(chart, lib.tovangl_chart_render_for_print, width, height, factor)
+        return Picture(png, width, height, chart)
+
+    def render_svg(self) -> SvgPicture:
+        """Draws the chart as SVG: shapes and texts instead of pixels, with nothing for ``print``.
+
+        The same as render() otherwise.
+
+        >>> Chart("pie", {"Rent": 1200}).render_svg().svg.startswith("<svg ")
+        True
+        """
+        chart = self._library_chart()
+        svg = _draw(chart, lib.tovangl_chart_render_svg, self.width, self.height)
+        return SvgPicture(svg, self.width, self.height, chart)
+
+    def render_pdf(self) -> PdfPicture:
+        """Draws the chart as a PDF page for paper, whose size is ``width`` and ``height`` in points.
+
+        PictureError where a side has more than 14,400 points. The same as render() otherwise.
+
+        >>> Chart("pie", {"Rent": 1200}).render_pdf().pdf.startswith(b"%PDF-")
+        True
+        """
+        chart = self._library_chart()
+        pdf = _draw(chart, lib.tovangl_chart_render_pdf, self.width, self.height)
+        return PdfPicture(pdf, self.width, self.height, chart)
+
+    def _library_chart(self) -> Any:
+        kind, items, _, _, _, _, settings = self._fields
         chart = new_chart(KINDS[kind])
         for name, value in settings.items():
             apply_setting(chart, name, value)
         items.add_to(chart)
-        return Picture(_draw(chart, width, height, factor), width, height, chart)
+        return chart
 
     def to_json(self) -> str:
         """The chart as one line of JSON.
@@ -197,18 +230,15 @@ def apply_setting(chart: Any, name: str, value: Value) -> None:
             raise type(error)(f"{name}: {error}") from None
 
 
-def _draw(chart: Any, width: int, height: int, factor: Optional[int]) -> bytes:
+def _draw(chart: Any, render: Any, *arguments: int) -> bytes:
     data = ffi.new(_DATA)
     size = ffi.new(_SIZE)
-    if factor is None:
-        status = lib.tovangl_chart_render(chart, width, height, data, size)
-    else:
-        status = lib.tovangl_chart_render_for_print(chart, width, height, factor, data, size)
+    status = render(chart, *arguments, data, size)
     if status:
         check(chart, status)
-    png = bytes(ffi.buffer(data[0], size[0]))
+    picture = bytes(ffi.buffer(data[0], size[0]))
     lib.tovangl_chart_free_picture(chart)
-    return png
+    return picture
 
 
 def _check_id(name: str) -> None:

@@ -73,29 +73,25 @@ class _Facts(NamedTuple):
     problem: str
 
 
-class Picture:
-    """A PNG file in memory, with the regions of the items.
+class _Rendering:
+    """A rendered chart: the bytes of a file, and what the library tells of it."""
 
-    Pictures can be compared and pickled.
-    """
+    __slots__ = ("width", "height", "_bytes", "_source", "_lock")
 
-    __slots__ = ("png", "width", "height", "_source", "_lock")
-
-    png: bytes
-    """The bytes of the PNG file."""
     width: int
-    """The width to show it with; it has ``scale`` or ``print`` times as many pixels."""
+    """The width to show it with, in points for a PDF file; a PNG has ``scale`` or ``print`` times as
+    many pixels."""
     height: int
     """The same for its height."""
 
-    def __init__(self, png: bytes, width: int, height: int, source: Any) -> None:
-        """Made by Chart.render().
+    def __init__(self, data: bytes, width: int, height: int, source: Any) -> None:
+        """Made by the functions of Chart.
 
         :param source: the library's chart, which has rendered the picture and is the picture's now
         """
-        self.png = png
         self.width = width
         self.height = height
+        self._bytes = data
         self._source = source
         self._lock = Lock()
 
@@ -119,34 +115,31 @@ class Picture:
         return self._facts().problem
 
     def save(self, path: Union[str, os.PathLike[str]]) -> None:
-        """Writes the PNG file."""
+        """Writes the file."""
         with open(path, "wb") as file:
-            file.write(self.png)
+            file.write(self._bytes)
 
     def __eq__(self, other: object) -> bool:
-        if not isinstance(other, Picture):
+        if not isinstance(other, _Rendering) or type(self) is not type(other):
             return NotImplemented
         return self._state() == other._state()
 
     def __hash__(self) -> int:
-        return hash(self.png)
+        return hash(self._bytes)
 
     def __repr__(self) -> str:
-        return f"<Picture of {len(self.png)} bytes: {self.description}>"
+        return f"<{type(self).__name__} of {len(self._bytes)} bytes: {self.description}>"
 
     def __reduce__(self) -> Tuple[Any, ...]:
-        return Picture, self._state()
+        return type(self), self._state()
 
-    def _repr_mimebundle_(
-        self, include: Any = None, exclude: Any = None
-    ) -> Tuple[Dict[str, Any], Dict[str, Any]]:
+    def _bundle(self, name: str, data: Any) -> Tuple[Dict[str, Any], Dict[str, Any]]:
         """What a notebook shows: the picture, with its description for those who cannot see it."""
         alternative = {"alt": self.description, "width": self.width, "height": self.height}
-        bundle = {"image/png": self.png, "text/plain": self.description}
-        return bundle, {"image/png": alternative}
+        return {name: data, "text/plain": self.description}, {name: alternative}
 
     def _state(self) -> Tuple[Any, ...]:
-        return self.png, self.width, self.height, self._facts()
+        return self._bytes, self.width, self.height, self._facts()
 
     # Most pictures are only saved, so the rest is asked for when somebody wants it. Only one thread
     # at a time may ask the library's chart.
@@ -155,6 +148,59 @@ class Picture:
             facts = self._source if isinstance(self._source, _Facts) else _ask(self._source)
             self._source = facts
             return facts
+
+
+class Picture(_Rendering):
+    """A PNG file in memory, with the regions of the items.
+
+    Pictures can be compared and pickled.
+    """
+
+    __slots__ = ()
+
+    @property
+    def png(self) -> bytes:
+        """The bytes of the PNG file."""
+        return self._bytes
+
+    def _repr_mimebundle_(
+        self, include: Any = None, exclude: Any = None
+    ) -> Tuple[Dict[str, Any], Dict[str, Any]]:
+        return self._bundle("image/png", self.png)
+
+
+class SvgPicture(_Rendering):
+    """An SVG picture in memory, with the same regions as the PNG file of that size.
+
+    Such pictures can be compared and pickled.
+    """
+
+    __slots__ = ()
+
+    @property
+    def svg(self) -> str:
+        """The picture as XML, for a file or to stand in a page."""
+        return self._bytes.decode()
+
+    def _repr_mimebundle_(
+        self, include: Any = None, exclude: Any = None
+    ) -> Tuple[Dict[str, Any], Dict[str, Any]]:
+        return self._bundle("image/svg+xml", self.svg)
+
+
+class PdfPicture(_Rendering):
+    """A PDF file of one page in memory.
+
+    Its regions are those of the PNG file for print with a factor of 4: a point has 4 of their
+    pixels. Such pictures can be compared and pickled.
+    """
+
+    __slots__ = ()
+
+    @property
+    def pdf(self) -> bytes:
+        """The bytes of the PDF file."""
+        return self._bytes
 
 
 def new_chart(kind: int) -> Any:
