@@ -111,22 +111,6 @@ CExport CAnyChart::createPixmapForPrinter(int width, int height, int factor)
     return CExport{data, size};
 }
 
-CExport CAnyChart::createSvg(int width, int height)
-{
-    unsigned char* data = nullptr;
-    int size = -1;
-    m_graph->createSvg(width, height, &data, &size);
-    return CExport{data, size};
-}
-
-CExport CAnyChart::createPdf(int width, int height)
-{
-    unsigned char* data = nullptr;
-    int size = -1;
-    m_graph->createPdf(width, height, &data, &size);
-    return CExport{data, size};
-}
-
 std::list<Rectangle> CAnyChart::itemRectangles()
 {
     return *m_graph->getRectangle();
