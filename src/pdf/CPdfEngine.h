@@ -26,7 +26,8 @@ class CPdfEngine : public QPaintEngine
 public:
     CPdfEngine();
 
-    [[nodiscard]] const CPdfContent& content() const { return m_content; }
+    /// What was painted. Throws std::bad_alloc if memory ran out meanwhile.
+    [[nodiscard]] const CPdfContent& content() const;
 
     bool begin(QPaintDevice*) override { return true; }
     bool end() override { return true; }
@@ -39,6 +40,11 @@ public:
     void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
 
 private:
+    // An exception must not run through Qt's painter, which would leak what it is working with. So
+    // lack of memory is only recorded.
+    template <typename Paint>
+    void paintIfMemoryLasts(Paint paint);
+    void fillAndStroke(const QPainterPath& path);
     void updateClip(const QPainterPath& path, Qt::ClipOperation operation);
 
     CPdfContent m_content;
@@ -46,6 +52,7 @@ private:
     QPen m_pen;
     QBrush m_brush;
     std::optional<QPainterPath> m_clip; // on the page
+    bool m_isOutOfMemory = false;
 };
 
 } // namespace tovangl
