@@ -4,6 +4,7 @@
 
 #include "failed_promise.h"
 #include "seeded_fault.h"
+#include "support/public_records.h"
 #include "support/rendered_chart.h"
 
 #include <QXmlStreamReader>

@@ -6,6 +6,7 @@
 #include "charts/case_list.h"
 #include "output/CDeflater.h"
 #include "output/packed_picture.h"
+#include "paint/CCanvas.h"
 
 #include <QImage>
 
