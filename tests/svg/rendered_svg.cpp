@@ -53,6 +53,8 @@ QRectF boxOf(const CSvgElement& text, double fontSize)
 // Only one kind of transform is in use: "rotate(-90 12 40)".
 QTransform transformOf(const QString& text)
 {
+    if (text.isEmpty())
+        return QTransform();
     const QStringList numbers = text.mid(7).chopped(1).split(QLatin1Char(' '));
     QTransform transform;
     if (numbers.size() == 3)
