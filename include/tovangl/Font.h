@@ -32,7 +32,8 @@ namespace tovangl {
 ///
 /// @param path  of a regular file of at most 256 MB; later changes to the file have no effect
 /// @return the names of the families, which are those that group regular, bold and italic; empty if
-///         the file cannot be read or is no such font, or where nothing can be drawn, because Qt's
+///         the file cannot be read, is no such font, or claims so many more characters than there
+///         are that reading it would take minutes; or where nothing can be drawn, because Qt's
 ///         offscreen platform plugin is missing or the process is ending
 TOVANGL_EXPORT std::vector<std::string> addFont(const std::string& path);
 

@@ -15,6 +15,11 @@ namespace tovangl {
 
 namespace {
 
+std::string_view viewOf(const QByteArray& file)
+{
+    return {file.constData(), static_cast<std::size_t>(file.size())};
+}
+
 QByteArray digestOf(std::string_view file)
 {
     const auto bytes = QByteArray::fromRawData(file.data(), static_cast<int>(file.size()));
@@ -26,9 +31,12 @@ QString keyOf(const QString& family)
     return family.trimmed().toLower();
 }
 
-// Whether Qt takes the file, with all of its families by these names.
+// Whether Qt takes the file, with all of its families by these names. The parts of a broken file
+// can overlap, so that writing these names into it has made another file of it.
 bool registerFile(const QByteArray& file, const std::vector<QString>& names)
 {
+    if (familiesInFile(viewOf(file)) != names)
+        return false;
     const int id = QFontDatabase::addApplicationFontFromData(file);
     if (id < 0)
         return false;
@@ -118,8 +126,7 @@ void CAddedFonts::registerAgain(const CFile& file, const Families& renamed)
         isAffected |= entry != renamed.end();
         names.push_back(entry != renamed.end() ? entry->second.qtName : newName());
     }
-    const std::string_view bytes(file.bytes.constData(),
-                                 static_cast<std::size_t>(file.bytes.size()));
+    const std::string_view bytes = viewOf(file.bytes);
     // The parts of a broken file can overlap, and new names destroy its old ones.
     if (isAffected && familiesInFile(bytes).size() == names.size())
         static_cast<void>(registerFile(renamedFile(bytes, names), names));

@@ -39,12 +39,32 @@ constexpr std::size_t kTableLength = 16;
 constexpr std::size_t kOffsetInTable = 8;
 constexpr std::size_t kLengthInTable = 12;
 constexpr std::size_t kUnitsInHead = 18;
+constexpr std::size_t kMapCountInCmap = 2;
+constexpr std::size_t kMapsInCmap = 4;
+constexpr std::size_t kMapLength = 8;
+constexpr std::size_t kOffsetInMap = 4;
+constexpr std::size_t kSegmentCountInMap = 6; // in bytes, two for each
+constexpr std::size_t kSegmentsInMap = 14;
+constexpr std::size_t kVariantCountInMap = 6;
+constexpr std::size_t kVariantsInMap = 10;
+constexpr std::size_t kVariantLength = 11;
+constexpr std::size_t kGroupsInMap = 12;
+constexpr std::size_t kMixedGroupsInMap = 8204;
+constexpr std::size_t kGlyphCountInMap = 16;
+constexpr std::size_t kGroupLength = 12;
 constexpr std::size_t kNamesInNameTable = 6;
 constexpr std::size_t kNameLength = 12;
 
 // What the format allows for the square in which glyphs are designed.
 constexpr unsigned kFewestUnits = 16;
 constexpr unsigned kMostUnits = 16384;
+
+// Fonts are read by going through all characters that they map to glyphs, and twelve bytes can
+// claim four thousand million. A map has at most all characters that there are; the largest
+// collections have ten million together.
+constexpr std::uint64_t kMostStepsInMap = 0x110000;
+constexpr std::uint64_t kMostStepsInFile = 20'000'000;
+constexpr std::uint64_t kCharactersIn16Bits = 0x10000;
 
 // What names are of, and for whom.
 constexpr unsigned kFamilyName = 1;
@@ -149,6 +169,100 @@ bool isFont(const CFileNumbers& file, std::size_t font)
     return hasOutlines && hasTable(file, font, tag("head")) && units >= kFewestUnits &&
            units <= kMostUnits && hasTable(file, font, tag("maxp")) &&
            hasTable(file, font, tag("cmap"));
+}
+
+// --- characters
+
+// All of these count what a reader of a map goes through, and stop counting where it is too much.
+using Steps = std::uint64_t;
+
+// Groups of a first character, a last one, and a glyph. Readers give up where they do not ascend.
+Steps stepsInGroups(const CFileNumbers& file, std::size_t groups)
+{
+    const std::size_t count = file.at32(groups);
+    Steps steps = 0;
+    std::uint32_t next = 0;
+    for (std::size_t i = 0; i < count && steps <= kMostStepsInMap; ++i) {
+        const std::size_t group = groups + 4 + i * kGroupLength;
+        const std::uint32_t first = file.at32(group);
+        const std::uint32_t last = file.at32(group + 4);
+        if (first < next || last < first)
+            break;
+        steps += Steps{last - first} + 1;
+        next = last + 1;
+    }
+    return steps;
+}
+
+// Segments of 16-bit characters: all last ones, two bytes of nothing, and all first ones. Readers
+// search them one by one for each character where they do not ascend.
+Steps stepsInSegments(const CFileNumbers& file, std::size_t map)
+{
+    const std::size_t length = file.at16(map + kSegmentCountInMap) / 2 * 2;
+    const std::size_t lasts = map + kSegmentsInMap;
+    const std::size_t firsts = lasts + length + 2;
+    for (std::size_t i = 2; i < length; i += 2) {
+        if (file.at16(firsts + i) < file.at16(firsts + i - 2) ||
+            file.at16(lasts + i) < file.at16(lasts + i - 2))
+            return kCharactersIn16Bits * (length / 2);
+    }
+    return kCharactersIn16Bits;
+}
+
+// Selectors of variants, each with up to two lists of characters.
+Steps stepsInVariants(const CFileNumbers& file, std::size_t map)
+{
+    const std::size_t count = file.at32(map + kVariantCountInMap);
+    Steps steps = 0;
+    for (std::size_t i = 0; i < count && steps <= kMostStepsInMap; ++i) {
+        const std::size_t lists = map + kVariantsInMap + i * kVariantLength + 3;
+        steps += 1;
+        for (const std::size_t place : {lists, lists + kOffsetLength}) {
+            const std::size_t list = file.at32(place);
+            steps += list > 0 ? file.at32(map + list) : 0;
+        }
+    }
+    return steps;
+}
+
+Steps stepsInMap(const CFileNumbers& file, std::size_t map)
+{
+    switch (file.at16(map)) {
+    case 4:
+        return stepsInSegments(file, map);
+    case 8:
+        return stepsInGroups(file, map + kMixedGroupsInMap);
+    case 10:
+        return file.at32(map + kGlyphCountInMap);
+    case 12:
+    case 13:
+        return stepsInGroups(file, map + kGroupsInMap);
+    case 14:
+        return stepsInVariants(file, map);
+    default:
+        return kCharactersIn16Bits;
+    }
+}
+
+Steps stepsInFont(const CFileNumbers& file, std::size_t font)
+{
+    const CPart cmap = findTable(file, font, tag("cmap"));
+    const std::size_t count = file.at16(cmap.offset + kMapCountInCmap);
+    Steps steps = 0;
+    for (std::size_t i = 0; i < count && steps <= kMostStepsInFile; ++i) {
+        const std::size_t map = cmap.offset + kMapsInCmap + i * kMapLength;
+        const Steps inMap = stepsInMap(file, cmap.offset + file.at32(map + kOffsetInMap));
+        steps += inMap <= kMostStepsInMap ? inMap : kMostStepsInFile + 1;
+    }
+    return steps;
+}
+
+bool canBeReadInTime(const CFileNumbers& file, const std::vector<std::size_t>& fonts)
+{
+    Steps steps = 0;
+    for (const std::size_t font : fonts)
+        steps += stepsInFont(file, font);
+    return steps <= kMostStepsInFile;
 }
 
 // --- names
@@ -272,8 +386,11 @@ std::vector<QString> familiesInFile(std::string_view bytes)
     if (bytes.size() > kLargestFile)
         return {};
     const CFileNumbers file(bytes);
+    const std::vector<std::size_t> fonts = fontsIn(file);
+    if (!canBeReadInTime(file, fonts))
+        return {};
     std::vector<QString> families;
-    for (const std::size_t font : fontsIn(file)) {
+    for (const std::size_t font : fonts) {
         families.push_back(isFont(file, font) ? nameInFont(file, font, kFamilyName) : QString());
         if (families.back().isEmpty())
             return {};

@@ -17,7 +17,8 @@ namespace tovangl {
 /// A font's family is the one with at most four styles (regular, bold, italic, both), in English
 /// where the font has an English name. Any bytes can be passed.
 ///
-/// @return empty if the file is none of these, or a font in it lacks outlines, characters or a name
+/// @return empty if the file is none of these, a font in it lacks outlines, characters or a name,
+///         or its fonts claim so many characters that reading them would take minutes
 [[nodiscard]] std::vector<QString> familiesInFile(std::string_view file);
 
 /// The same file with other names for its families. The fonts' tables keep their places, except for

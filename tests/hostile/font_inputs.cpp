@@ -95,11 +95,21 @@ void addOddFonts(HostileTable& table)
     CSmallFont flat = oddFont();
     flat.glyphWidth = 0;
     add("of letters without a width", flat, 11);
+    CSmallFont claiming = oddFont();
+    for (const std::uint32_t last : {0x10ffffU, 0x110000U, 0xffffffffU}) {
+        claiming.characterMap = charactersFrom(0, last);
+        add("of characters up to " + std::to_string(last), claiming, 11);
+    }
     add("with a long name", CSmallFont{{windowsName(1, std::string(30000, 'x'))}}, 11);
     add("with a name of line breaks", CSmallFont{{windowsName(1, "a\n\tb")}}, 11);
     add("with a name of brackets and commas", CSmallFont{{windowsName(1, "[,],[[")}}, 11);
     table.push_back({"font collection of the same font 256 times", [] {
                          useFont(smallCollection(std::vector<std::string>(256, smallFont("Many"))));
+                     }});
+    table.push_back({"font collection of all characters 17 times", [claiming]() mutable {
+                         claiming.characterMap = charactersFrom(0, 0x10ffff);
+                         useFont(
+                             smallCollection(std::vector<std::string>(17, smallFont(claiming))));
                      }});
     table.push_back({"thirty fonts for one family that is in use", [] {
                          for (int i = 0; i < 30; ++i)

@@ -48,23 +48,9 @@ private:
     std::string m_bytes;
 };
 
-std::string characters()
+std::string characterTable(const std::string& map)
 {
-    return CTable()
-        .u16(0)
-        .u16(1) // one encoding: Unicode, with any number of characters for a glyph
-        .u16(3)
-        .u16(10)
-        .u32(12)
-        .u16(13)
-        .u16(0)
-        .u32(28)
-        .u32(0)
-        .u32(1)
-        .u32(' ')
-        .u32('~')
-        .u32(1)
-        .bytes();
+    return CTable().u16(0).u16(1).u16(3).u16(10).u32(12).text(map).bytes();
 }
 
 std::string rectangleGlyph(int width)
@@ -138,7 +124,7 @@ Tables tablesOf(const CSmallFont& font)
     for (int i = 0; i < 2; ++i)
         metrics.u16(font.glyphWidth + kGap).u16(0);
     return {
-        {"cmap", characters()},
+        {"cmap", characterTable(font.characterMap)},
         {"glyf", glyph + glyph},
         {"head", header(font)},
         {"hhea", horizontalHeader(font)},
@@ -162,6 +148,11 @@ CFontName windowsName(unsigned kind, const std::string& text)
 CFontName macintoshName(unsigned kind, const std::string& bytes)
 {
     return {1, 0, 0, kind, bytes};
+}
+
+std::string charactersFrom(std::uint32_t first, std::uint32_t last)
+{
+    return CTable().u16(13).u16(0).u32(28).u32(0).u32(1).u32(first).u32(last).u32(1).bytes();
 }
 
 std::string smallFont(const CSmallFont& font)

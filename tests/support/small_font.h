@@ -4,6 +4,7 @@
 #ifndef TOVANGL_SUPPORT_SMALL_FONT_H
 #define TOVANGL_SUPPORT_SMALL_FONT_H
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,9 @@ struct CFontName
 /// A name for the Macintosh in English, in its encoding.
 [[nodiscard]] CFontName macintoshName(unsigned kind, const std::string& bytes);
 
+/// A character map in which one glyph stands for all characters from the first to the last.
+[[nodiscard]] std::string charactersFrom(std::uint32_t first, std::uint32_t last);
+
 struct CSmallFont
 {
     std::vector<CFontName> names;
@@ -31,6 +35,8 @@ struct CSmallFont
     int unitsPerEm = 1000;
     /// How wide the one glyph is that stands for all characters of ASCII, in units.
     int glyphWidth = 500;
+    /// What says which characters the font has: one encoding of the format's table for them.
+    std::string characterMap = charactersFrom(' ', '~');
 };
 
 /// A font whose characters are rectangles.

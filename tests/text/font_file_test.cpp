@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <numeric>
 
 namespace tovangl {
 namespace {
@@ -113,6 +114,79 @@ TEST(FontFile, NeedsASensibleNumberOfUnits)
         font.unitsPerEm = units;
         EXPECT_THAT(familiesInFile(smallFont(font)), IsEmpty()) << units;
     }
+}
+
+std::string fontMapping(const std::string& characterMap)
+{
+    CSmallFont font{{windowsName(kFamily, "A")}};
+    font.characterMap = characterMap;
+    return smallFont(font);
+}
+
+std::string numbers(std::size_t bytes, const std::vector<std::uint32_t>& values)
+{
+    std::string text;
+    for (const std::uint32_t value : values) {
+        for (std::size_t byte = bytes; byte > 0; --byte)
+            text += static_cast<char>(value >> 8 * (byte - 1) & 0xff);
+    }
+    return text;
+}
+
+// A map of 16-bit characters, in the order of its last ones.
+std::string segments(const std::vector<std::uint32_t>& lasts)
+{
+    const auto length = static_cast<std::uint32_t>(2 * lasts.size());
+    return numbers(2, {4, 0, 0, length, 0, 0, 0}) + numbers(2, lasts) + std::string(2, '\0') +
+           numbers(2, lasts) + std::string(2 * length, '\0');
+}
+
+std::vector<std::uint32_t> falling(std::size_t count)
+{
+    std::vector<std::uint32_t> values(count);
+    std::iota(values.rbegin(), values.rend(), 0x20);
+    return values;
+}
+
+class FontMapping : public ::testing::TestWithParam<std::string>
+{};
+class FontMappingTooMuch : public FontMapping
+{};
+
+TEST_P(FontMapping, HasAFamily)
+{
+    EXPECT_THAT(familiesInFile(fontMapping(GetParam())), ElementsAre("A"));
+}
+
+// Qt and fontconfig would go through all characters of the map, for minutes.
+TEST_P(FontMappingTooMuch, CountsAsNoFont)
+{
+    EXPECT_THAT(familiesInFile(fontMapping(GetParam())), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Maps, FontMapping,
+    ::testing::Values("", charactersFrom(0, 0x10ffff), charactersFrom('~', ' '),
+                      numbers(2, {10, 0, 0, 20, 0, 0, 0, 32, 0, 1}),
+                      segments({0x7e, 0x3000, 0xffff}), segments({0xffff, 0x7e}),
+                      numbers(2, {14}) + numbers(4, {21, 1}) + std::string(11, '\0')));
+
+INSTANTIATE_TEST_SUITE_P(
+    Maps, FontMappingTooMuch,
+    ::testing::Values(charactersFrom(0, 0xffffffff), charactersFrom(0, 0x110000),
+                      charactersFrom(0x110000, 0x7fffffff),
+                      numbers(2, {8, 0}) + std::string(8200, '\0') +
+                          numbers(4, {1, 0, 0xfffffff0, 1}),
+                      numbers(2, {10, 0}) + numbers(4, {20, 0, 32, 0x80000000}),
+                      segments(falling(1000)),
+                      numbers(2, {14}) + numbers(4, {29, 1}) + std::string(3, '\0') +
+                          numbers(4, {21, 0, 0x80000000})));
+
+TEST(FontFile, CountsTheCharactersOfAllFontsOfACollection)
+{
+    const std::string font = fontMapping(charactersFrom(0, 0x10ffff));
+    EXPECT_EQ(familiesInFile(smallCollection(std::vector<std::string>(17, font))).size(), 17U);
+    EXPECT_THAT(familiesInFile(smallCollection(std::vector<std::string>(18, font))), IsEmpty());
 }
 
 TEST(FontFile, CanBeCutAnywhere)
