@@ -47,6 +47,9 @@ tovangl_part("Fuzz targets" TOVANGL_BUILD_FUZZERS "Build the fuzz targets (needs
 # For builds that repeat another one, with another Qt or a sanitizer: with it, a test compiles even if
 # it forgets one of these headers. The library is always compiled as a user compiles it.
 option(TOVANGL_PRECOMPILED_HEADERS "Parse the headers that most tests include once" OFF)
+# For the same builds: a failing case then hides those after it, but most cases take less time than
+# the start of a process with a sanitizer.
+option(TOVANGL_TESTS_BY_PROGRAM "Run each test program once, instead of once for each case" OFF)
 option(TOVANGL_INSTALL "Generate install rules" ${tovangl_is_top_level})
 set(TOVANGL_MAINTAINER "The tovangl authors <authors@tovangl.example>" CACHE STRING
     "The maintainer that the packages name")
