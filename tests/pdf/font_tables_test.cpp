@@ -53,9 +53,9 @@ TEST(PostScriptName, IsEmptyWhereThereAreOtherNamesAlone)
     EXPECT_EQ(postScriptName(nameTable(1, 5, "Serif")), QByteArray());
 }
 
-TEST(PostScriptName, EndsWithTheTable)
+TEST(PostScriptName, IsEmptyWhereTheTableIsCut)
 {
-    EXPECT_EQ(postScriptName(nameTable(6, 100, "Serif")), QByteArray("Serif"));
+    EXPECT_EQ(postScriptName(nameTable(6, 100, "Serif")), QByteArray());
     EXPECT_EQ(postScriptName(QByteArray("\0\0\xff\xff", 4)), QByteArray());
     EXPECT_EQ(postScriptName(QByteArray()), QByteArray());
 }
