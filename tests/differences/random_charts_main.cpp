@@ -7,6 +7,7 @@
 #include "differences/CHash.h"
 #include "differences/batch_run.h"
 #include "differences/random_chart.h"
+#include "support/harness_options.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -16,26 +17,8 @@
 namespace tovangl {
 namespace {
 
+constexpr unsigned kCharts = 3000;
 constexpr unsigned kSeededChart = 17; // the one that a seeded fault changes
-
-struct COptions
-{
-    unsigned charts = 3000;
-    std::string seededFault;
-};
-
-COptions parseOptions(int count, char** arguments)
-{
-    COptions options;
-    for (int i = 1; i + 1 < count; i += 2) {
-        const std::string name = arguments[i];
-        if (name == "--charts")
-            options.charts = static_cast<unsigned>(std::atoi(arguments[i + 1]));
-        if (name == "--seed-fault")
-            options.seededFault = arguments[i + 1];
-    }
-    return options;
-}
 
 SeededFault faultOf(const std::string& name)
 {
@@ -68,7 +51,7 @@ void seedEnding(const std::string& fault)
         (void)std::atexit([] { std::_Exit(kSeededExit); });
 }
 
-std::string drawLine(unsigned number, const COptions& options)
+std::string drawLine(unsigned number, const CHarnessOptions& options)
 {
     const bool isSeeded = number == kSeededChart;
     if (isSeeded)
@@ -85,7 +68,7 @@ void printReport(const CCaseReport& report)
                 report.ending.c_str(), report.record.c_str());
 }
 
-int drawAll(const COptions& options)
+int drawAll(const CHarnessOptions& options)
 {
     runInBatches(
         0, options.charts, [&](unsigned number) { return drawLine(number, options); }, printReport);
@@ -108,7 +91,7 @@ int runRandomCharts(int count, char** arguments)
     if (count > 2 && std::strcmp(arguments[1], "--show") == 0)
         return showOne(static_cast<unsigned>(std::atoi(arguments[2])),
                        count > 3 ? arguments[3] : "");
-    return drawAll(parseOptions(count, arguments));
+    return drawAll(parseHarnessOptions(count, arguments, kCharts));
 }
 
 } // namespace

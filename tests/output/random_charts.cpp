@@ -3,31 +3,13 @@
 #include "output/random_charts.h"
 
 #include "layout/drawn_chart.h"
-
-#include <random>
+#include "support/CDice.h"
 
 namespace tovangl {
 
 namespace {
 
 constexpr int kLargestFactor = 4;
-
-class CDice
-{
-public:
-    explicit CDice(unsigned seed)
-        : m_engine(seed)
-    {}
-
-    int roll(int least, int greatest)
-    {
-        const auto choices = static_cast<unsigned>(greatest - least) + 1;
-        return least + static_cast<int>(static_cast<unsigned>(m_engine()) % choices);
-    }
-
-private:
-    std::mt19937 m_engine;
-};
 
 // Most pictures are small ones: so are most of those that hosts ask for.
 QSize rollSize(CDice& dice, int factor)

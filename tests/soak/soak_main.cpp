@@ -4,11 +4,11 @@
 // soak [--charts N] [--seed-fault memory|descriptor|thread]
 // The last line of the output sums up.
 #include "soak/process_figures.h"
+#include "support/harness_options.h"
 #include "support/mixed_charts.h"
 
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <thread>
 #include <unistd.h>
@@ -17,27 +17,9 @@
 namespace tovangl {
 namespace {
 
+constexpr unsigned kCharts = 50000;
 constexpr unsigned kWarmUp = 1000;    // charts after which nothing may grow any more
 constexpr long kAllowedGrowth = 2048; // kilobytes
-
-struct COptions
-{
-    unsigned charts = 50000;
-    std::string seededFault;
-};
-
-COptions parseOptions(int count, char** arguments)
-{
-    COptions options;
-    for (int i = 1; i + 1 < count; i += 2) {
-        const std::string name = arguments[i];
-        if (name == "--charts")
-            options.charts = static_cast<unsigned>(std::atoi(arguments[i + 1]));
-        if (name == "--seed-fault")
-            options.seededFault = arguments[i + 1];
-    }
-    return options;
-}
 
 // What a leak of each kind would look like from outside.
 void leak(const std::string& fault)
@@ -63,7 +45,7 @@ void renderCharts(unsigned first, unsigned end, const std::string& seededFault)
     }
 }
 
-int runSoak(const COptions& options)
+int runSoak(const CHarnessOptions& options)
 {
     renderCharts(0, kWarmUp, "");
     const CProcessFigures before = readProcessFigures();
@@ -86,5 +68,5 @@ int runSoak(const COptions& options)
 
 int main(int count, char** arguments)
 {
-    return tovangl::runSoak(tovangl::parseOptions(count, arguments));
+    return tovangl::runSoak(tovangl::parseHarnessOptions(count, arguments, tovangl::kCharts));
 }
