@@ -1,9 +1,11 @@
 # Finds what PNG files are compressed with, as the list of targets tovangl_compressors: libdeflate,
-# and ISA-L for the setting Fast where TOVANGL_ISAL is on.
+# zlib, which finds where its streams can be joined, and ISA-L for the setting Fast where TOVANGL_ISAL
+# is on.
 find_package(libdeflate REQUIRED)
-set(tovangl_compressors libdeflate::libdeflate)
-set(tovangl_compressor_packages libdeflate)
-set(tovangl_compressor_pkgconfig libdeflate)
+find_package(ZLIB REQUIRED)
+set(tovangl_compressors libdeflate::libdeflate ZLIB::ZLIB)
+set(tovangl_compressor_packages libdeflate ZLIB)
+set(tovangl_compressor_pkgconfig libdeflate zlib)
 
 find_package(isal QUIET)
 option(TOVANGL_ISAL "Compress with ISA-L where speed is asked for" ${isal_FOUND})

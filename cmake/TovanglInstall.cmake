@@ -18,8 +18,11 @@ if(BUILD_SHARED_LIBS)
 else()
     foreach(package ${tovangl_compressor_packages})
         string(APPEND tovangl_find_compressors "find_dependency(${package})\n")
-        install(FILES ${PROJECT_SOURCE_DIR}/cmake/Find${package}.cmake
-            DESTINATION ${tovangl_config_dir} COMPONENT development)
+        # Of the others CMake knows itself how to find them.
+        if(EXISTS ${PROJECT_SOURCE_DIR}/cmake/Find${package}.cmake)
+            install(FILES ${PROJECT_SOURCE_DIR}/cmake/Find${package}.cmake
+                DESTINATION ${tovangl_config_dir} COMPONENT development)
+        endif()
     endforeach()
     configure_file(${PROJECT_SOURCE_DIR}/cmake/static_dependencies.cmake.in
         ${CMAKE_CURRENT_BINARY_DIR}/static_dependencies.cmake @ONLY)

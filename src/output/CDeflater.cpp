@@ -3,9 +3,11 @@
 #include "output/CDeflater.h"
 
 #include "output/fast_deflating.h"
+#include "output/piecewise_deflating.h"
 
 #include <libdeflate.h>
 #include <new>
+#include <utility>
 
 namespace tovangl {
 
@@ -41,9 +43,10 @@ void CDeflater::CFree::operator()(libdeflate_compressor* compressor) const
     libdeflate_free_compressor(compressor);
 }
 
-CDeflater::CDeflater(CByteRange bytes, Compression compression)
+CDeflater::CDeflater(CByteRange bytes, Compression compression, CStillRows still)
     : m_bytes(bytes)
     , m_compression(compression)
+    , m_still(std::move(still))
 {}
 
 std::size_t CDeflater::deflate(CByteRoom room)
@@ -52,6 +55,10 @@ std::size_t CDeflater::deflate(CByteRoom room)
     const bool isFast = m_compression == Compression::Fast && m_bytes.size >= kSmallPicture;
     if (isFast && room.size >= kLeastRoom) {
         if (const std::size_t size = deflateFast(m_bytes, room))
+            return size;
+    }
+    if (!m_still.runs.empty()) {
+        if (const std::size_t size = deflatePieces(compressor(), m_bytes, m_still, room))
             return size;
     }
     return libdeflate_zlib_compress(compressor(), m_bytes.data, m_bytes.size, room.data, room.size);

@@ -4,7 +4,7 @@
 #ifndef TOVANGL_OUTPUT_CDEFLATER_H
 #define TOVANGL_OUTPUT_CDEFLATER_H
 
-#include "output/CByteRange.h"
+#include "output/packed_picture.h"
 #include <tovangl/Compression.h>
 
 #include <memory>
@@ -13,12 +13,12 @@ struct libdeflate_compressor;
 
 namespace tovangl {
 
-/// Compresses bytes that are all in memory into a zlib stream. The stream depends only on the bytes
-/// and the setting.
+/// Compresses bytes that are all in memory into a zlib stream. The stream depends only on the
+/// bytes, on which of them are still rows, and on the setting.
 class CDeflater
 {
 public:
-    CDeflater(CByteRange bytes, Compression compression);
+    CDeflater(CByteRange bytes, Compression compression, CStillRows still = CStillRows());
 
     /// Compresses into the room, if the stream fits.
     ///
@@ -38,6 +38,7 @@ private:
 
     CByteRange m_bytes;
     Compression m_compression;
+    CStillRows m_still;
     std::unique_ptr<libdeflate_compressor, CFree> m_compressor; // made when first needed
 };
 

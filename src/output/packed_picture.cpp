@@ -23,6 +23,10 @@ constexpr std::size_t kFilterBytes = 1;
 constexpr std::size_t kChannels = 3; // red, green and blue
 constexpr std::size_t kChannelsWithAlpha = 4;
 
+// What a run of still rows adds to a file, and what it takes to find where to insert it, pays from
+// about here on.
+constexpr std::size_t kLeastStillBytes = 32 * 1024;
+
 // Reads pixels from the picture's own memory and writes packed rows without alpha into it. Such a
 // row with its filter is at most as long as a row of pixels, so once a row has been read, packing
 // it never overwrites unread pixels.
@@ -116,6 +120,8 @@ public:
         }
     }
 
+    [[nodiscard]] RowFilter filter() const { return m_filter; }
+
 private:
     [[nodiscard]] std::size_t rowBytes() const { return m_memory.packedStride() - kFilterBytes; }
 
@@ -200,8 +206,11 @@ CPackedPicture packPalette(QImage& picture, const CPictureColors& colors)
     const auto bits =
         static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(packed.depth);
     const CRowMemory memory(picture, (bits + kBitsPerByte - 1) / kBitsPerByte);
-    CPaletteWriter(memory, picture.width(), packed.depth, colors).write();
+    CPaletteWriter writer(memory, picture.width(), packed.depth, colors);
+    writer.write();
     packed.rows = memory.allPacked();
+    if (writer.filter() == RowFilter::Up)
+        packed.stillRows = findStillRows(colors.isRepeated, memory.packedStride());
     packed.spare = memory.spare();
     return packed;
 }
@@ -293,6 +302,30 @@ int paletteDepth(int colors)
     while (depth < kBitsPerByte && 1 << depth < colors)
         depth *= 2;
     return depth;
+}
+
+CStillRows findStillRows(const std::vector<bool>& isRepeated, std::size_t stride)
+{
+    CStillRows still{stride, {}};
+    std::size_t stillRows = 0;
+    const auto addRun = [&still, &stillRows](CRowRun& run) {
+        if (run.count * still.stride >= kLeastStillBytes) {
+            still.runs.push_back(run);
+            stillRows += run.count;
+        }
+        run = CRowRun();
+    };
+    CRowRun run;
+    for (std::size_t row = 0; row < isRepeated.size(); ++row) {
+        if (!isRepeated[row])
+            addRun(run);
+        else if (run.count++ == 0)
+            run.first = row;
+    }
+    addRun(run);
+    if (2 * stillRows < isRepeated.size())
+        still.runs.clear();
+    return still;
 }
 
 CPackedPicture packPicture(QImage& picture)

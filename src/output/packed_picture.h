@@ -33,6 +33,26 @@ enum class RowFilter : unsigned char
 /// The smallest of 1, 2, 4 and 8 bits that can number that many colours.
 [[nodiscard]] int paletteDepth(int colors);
 
+/// Rows below each other, by their number from 0 at the top.
+struct CRowRun
+{
+    std::size_t first = 0;
+    std::size_t count = 0;
+};
+
+/// Rows that repeat the row above, and are nothing but zeros behind the filter Up.
+struct CStillRows
+{
+    std::size_t stride = 0; ///< bytes of a row, with its filter
+    std::vector<CRowRun> runs;
+};
+
+/// The long runs of rows that repeat the row above, if they are most of the picture.
+///
+/// @param isRepeated  for each row: whether it repeats the row above
+/// @param stride      bytes of a row, with its filter
+[[nodiscard]] CStillRows findStillRows(const std::vector<bool>& isRepeated, std::size_t stride);
+
 struct CPackedPicture
 {
     int width = 0;             // pixels
@@ -41,6 +61,7 @@ struct CPackedPicture
     std::vector<QRgb> palette; ///< empty if the pixels are channels; opaque colours come last
     bool hasAlpha = false;     ///< the channels are red, green, blue and alpha; else without alpha
     CByteRange rows;           ///< each one begins with its filter
+    CStillRows stillRows;      ///< what findStillRows() finds; none without the filter Up
     CByteRoom spare;           ///< the part of the picture's memory that the rows do not need
     std::unique_ptr<unsigned char[]> ownMemory; ///< that of the rows where the picture's is short
 };

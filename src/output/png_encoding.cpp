@@ -17,7 +17,7 @@ CPictureFile encodePng(QImage& picture, Compression compression)
     if (picture.isNull())
         return noPictureFile();
     const CPackedPicture packed = packPicture(picture);
-    CDeflater deflater(packed.rows, compression);
+    CDeflater deflater(packed.rows, compression, packed.stillRows);
     // For nearly every chart the compressed rows fit into the memory that packing has freed.
     if (const std::size_t size = deflater.deflate(packed.spare)) {
         CPngBuilder builder(packed, size);

@@ -4,12 +4,15 @@
 #include "api/CBarBase.h"
 #include "api/CPieGraph.h"
 #include "api/conversions.h"
+#include "output/CDeflater.h"
 #include "support/public_records.h"
 
 #include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <new>
+#include <numeric>
+#include <vector>
 
 namespace {
 
@@ -161,6 +164,25 @@ TEST(OutOfMemoryInRectangles, TheListKeepsTheOldOnes)
     }
     EXPECT_EQ(failures, kItems);
     EXPECT_EQ(list.size(), rects.size());
+}
+
+// What finds the place for still rows in a stream takes its memory for zlib from this library.
+TEST(OutOfMemoryInAFile, RowsInPiecesLoseNothing)
+{
+    constexpr std::size_t kStride = 1001; // bytes
+    std::vector<unsigned char> rows(200 * kStride);
+    for (std::size_t i = 0; i < rows.size(); i += kStride)
+        rows[i] = 2;
+    std::iota(rows.begin(), rows.begin() + 2 * kStride, static_cast<unsigned char>(0));
+    std::vector<unsigned char> room(rows.size());
+    std::size_t size = 0;
+    const int failures = failEverywhere([&] {
+        CDeflater deflater({rows.data(), rows.size()}, Compression::Balanced,
+                           {kStride, {{2, 100}, {110, 90}}});
+        size = deflater.deflate({room.data(), room.size()});
+    });
+    EXPECT_GT(failures, 2);
+    EXPECT_GT(size, 0U);
 }
 
 } // namespace

@@ -1,38 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "output/CDeflater.h"
+#include "output/deflate_streams.h"
 #include "output/fast_deflating.h"
 
 #include <gtest/gtest.h>
-#include <libdeflate.h>
-#include <random>
 #include <string>
-#include <vector>
 
 namespace tovangl {
 namespace {
 
-using Bytes = std::vector<unsigned char>;
-
 constexpr std::size_t kLarge = 600000; // more than what is small, and what is middle
-
-Bytes repetitiveBytes(std::size_t size)
-{
-    Bytes bytes(size);
-    std::minstd_rand random;
-    for (std::size_t i = 0; i < size; ++i)
-        bytes[i] =
-            i % 1000 == 0 || i < 1000 ? static_cast<unsigned char>(random()) : bytes[i - 1000];
-    return bytes;
-}
-
-Bytes anyBytes(std::size_t size)
-{
-    Bytes bytes(size);
-    std::mt19937 random;
-    for (unsigned char& byte : bytes)
-        byte = static_cast<unsigned char>(random());
-    return bytes;
-}
 
 Bytes inflated(const Bytes& stream, std::size_t size)
 {

@@ -6,11 +6,15 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <initializer_list>
+#include <utility>
+#include <vector>
 
 namespace tovangl {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 struct CDepthCase
 {
@@ -101,6 +105,34 @@ TEST(RowFilter, IsNoneForShortRowsAndUpForLongOnesOfABarChart)
 TEST(RowFilter, IsNoneWhereFewRowsRepeatTheRowAbove)
 {
     EXPECT_EQ(chooseFilter(800, 50, 350), RowFilter::None);
+}
+
+// Rows of 1000 bytes: true repeats the row above.
+std::vector<CRowRun> stillRuns(std::initializer_list<std::pair<bool, int>> rows)
+{
+    std::vector<bool> isRepeated;
+    for (const auto& [value, count] : rows)
+        isRepeated.insert(isRepeated.end(), static_cast<std::size_t>(count), value);
+    return findStillRows(isRepeated, 1000).runs;
+}
+
+MATCHER_P2(RunIs, first, count, "")
+{
+    return arg.first == static_cast<std::size_t>(first) &&
+           arg.count == static_cast<std::size_t>(count);
+}
+
+TEST(FoundStillRows, AreTheLongRunsOfRowsThatRepeatTheRowAbove)
+{
+    EXPECT_THAT(stillRuns({{false, 1}, {true, 33}, {false, 5}, {true, 32}, {false, 5}, {true, 40}}),
+                ElementsAre(RunIs(1, 33), RunIs(76, 40)));
+}
+
+TEST(FoundStillRows, AreNoneWhereTheyAreLessThanHalfOfThePicture)
+{
+    EXPECT_THAT(stillRuns({{false, 50}, {true, 50}}), ElementsAre(RunIs(50, 50)));
+    EXPECT_THAT(stillRuns({{false, 51}, {true, 50}}), IsEmpty());
+    EXPECT_THAT(stillRuns({{false, 1}, {true, 32}}), IsEmpty());
 }
 
 } // namespace
