@@ -8,15 +8,17 @@
 
 namespace tovangl {
 
-/// Writes commands with numbers of at most two decimals; pixels of the picture.
+/// Writes commands with numbers of at most two decimals; pixels of the picture. Each command leads
+/// to a place, of which it writes what is shorter: where it is, or how far it is from the last one.
 class CSvgPath
 {
 public:
-    CSvgPath& move(double x, double y) { return add('M', x).add(y); }
-    CSvgPath& line(double x, double y) { return add('L', x).add(y); }
-    CSvgPath& across(double x) { return add('H', x); }
-    CSvgPath& down(double y) { return add('V', y); }
-    /// An arc of up to half a turn of an ellipse with upright axes.
+    CSvgPath& move(double x, double y);
+    CSvgPath& line(double x, double y);
+    CSvgPath& across(double x);
+    CSvgPath& down(double y);
+    /// An arc of up to half a turn of an ellipse with upright axes. The nearer to half a turn, the
+    /// more do the decimals that are missing move its middle.
     ///
     /// @param radiusX, radiusY  of the ellipse
     /// @param x, y              where the arc ends
@@ -26,11 +28,18 @@ public:
     [[nodiscard]] const std::string& text() const { return m_text; }
 
 private:
-    CSvgPath& add(char command, double number);
-    // A number after another one.
-    CSvgPath& add(double number);
+    // Where the path has come to, as it is written.
+    struct CPlace
+    {
+        double x = 0;
+        double y = 0;
+    };
+
+    [[nodiscard]] static CPlace placeOf(double x, double y);
+    CSvgPath& goTo(char command, const std::string& parameters, const CPlace& place);
 
     std::string m_text;
+    CPlace m_at;
 };
 
 } // namespace tovangl

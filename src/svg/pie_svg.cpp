@@ -22,7 +22,7 @@ namespace tovangl {
 namespace {
 
 constexpr double kHalf = 0.5;
-constexpr double kHalfTurn = 180; // degrees
+constexpr double kLongestArc = 120; // degrees
 // Pixels. A thinner line is painted as wide as this, but the paler.
 constexpr double kThinnestLine = 1;
 
@@ -39,16 +39,15 @@ QPointF onRim(const QRectF& pie, double angle)
                                   -pie.height() * kHalf * std::sin(radians));
 }
 
-// An arc that ends near its beginning would be nothing: more than half a turn takes two.
+// Readers compute the centre of an arc from its radius and its ends. Of half a turn, a hundredth of
+// a pixel in these moves it by more than a pixel, so that a long rim takes several arcs.
 void addRim(CSvgPath& path, const QRectF& pie, double start, double span)
 {
-    const auto add = [&](double angle) {
-        const QPointF point = onRim(pie, angle);
-        path.arc(pie.width() * kHalf, pie.height() * kHalf, span < 0, point.x(), point.y());
-    };
-    if (std::fabs(span) > kHalfTurn)
-        add(start + span * kHalf);
-    add(start + span);
+    const int arcs = std::max(1, static_cast<int>(std::ceil(std::fabs(span) / kLongestArc)));
+    for (int i = 1; i <= arcs; ++i) {
+        const QPointF end = onRim(pie, start + span * i / arcs);
+        path.arc(pie.width() * kHalf, pie.height() * kHalf, span < 0, end.x(), end.y());
+    }
 }
 
 std::string slicePath(const QRectF& pie, const CSliceAngles& angles, bool isWholeDisc)
@@ -112,7 +111,6 @@ void writeBeam(CSvgScene& scene, const CPieLayout& layout, const QPointF& from, 
     const std::string dashes =
         svgNumber(kBeamDash * layout.beamWidth) + ' ' + svgNumber(kBeamGap * layout.beamWidth);
     scene.markup.begin("path").attribute("d", linePath(from, to));
-    scene.colors.paint(scene.markup, {{"stroke", layout.labelLineColor}});
     writeStrokeWidth(scene.markup, layout.beamWidth);
     scene.markup.attribute("stroke-dasharray", dashes).end();
 }
@@ -122,7 +120,6 @@ void writeTextLine(CSvgScene& scene, const CPieLayout& layout, const QPointF& fr
                    const QPointF& to)
 {
     scene.markup.begin("path").attribute("d", linePath(from, to));
-    scene.colors.paint(scene.markup, {{"stroke", layout.labelLineColor}});
     if (layout.textLineWidth < kThinnestLine) {
         const QPointF way = to - from;
         writeStrokeWidth(scene.markup,
@@ -139,8 +136,12 @@ void writeLabel(CSvgScene& scene, const CPieLayout& layout, const CPlacedPieLabe
     if (label.isHidden)
         return;
     const QPointF center = layout.shift + layout.center();
+    scene.markup.begin("g");
+    scene.colors.paint(scene.markup, {{"stroke", layout.labelLineColor}});
+    scene.markup.open();
     writeBeam(scene, layout, center + label.beamStart, center + label.elbow);
     writeTextLine(scene, layout, center + label.elbow, center + label.lineEnd);
+    scene.markup.close("g");
     for (const CPlacedText& text : label.texts)
         writeText(scene, text, center);
 }

@@ -84,6 +84,12 @@ QString quotedName(QString name)
     return QLatin1Char('\'') + name + QLatin1Char('\'');
 }
 
+long long hundredthsOf(double value)
+{
+    const double limited = std::isnan(value) ? 0 : std::clamp(value, -kFurthest, kFurthest);
+    return std::llround(limited * kHundredths);
+}
+
 // Two digits for each channel, of which both are the same.
 bool isShort(const std::string& digits)
 {
@@ -92,10 +98,14 @@ bool isShort(const std::string& digits)
 
 } // namespace
 
+double svgRounded(double value)
+{
+    return static_cast<double>(hundredthsOf(value)) / kHundredths;
+}
+
 std::string svgNumber(double value)
 {
-    const double limited = std::isnan(value) ? 0 : std::clamp(value, -kFurthest, kFurthest);
-    const long long hundredths = std::llround(limited * kHundredths);
+    const long long hundredths = hundredthsOf(value);
     const long long size = std::abs(hundredths);
     const long long whole = size / 100;
     const long long rest = size % 100;

@@ -11,8 +11,10 @@ class QString;
 
 namespace tovangl {
 
-/// A number rounded to two decimals, and no longer than it has to be. One beyond a billion is the
-/// nearest within; NaN is 0.
+/// A number rounded to two decimals. One beyond a billion is the nearest within; NaN is 0.
+[[nodiscard]] double svgRounded(double value);
+
+/// The same number as text, no longer than it has to be.
 [[nodiscard]] std::string svgNumber(double value);
 
 /// "#rrggbb", or "#rgb" where that is the same colour. A colour that is not set is black.

@@ -70,6 +70,16 @@ TEST_P(SvgPixels, OfPiesAreThoseOfThePngButForSmoothing)
     EXPECT_LE(static_cast<double>(result.moved), 0.001 * static_cast<double>(result.compared));
 }
 
+// A reader that looked for the centre of half a turn would not always find it.
+TEST(SvgPixelsOfAWholeDisc, AreThoseOfThePngButForSmoothing)
+{
+    CAnyChart pie(ChartKind::Pie);
+    pie.addItem(5, "all");
+    pie.graph().setByName("outline_color", "#000000");
+    for (int width = 300; width < 460; width += 8)
+        EXPECT_GE(compare(pie, width, 3 * width / 4 + width % 7).share(), kMostPies) << width;
+}
+
 TEST(SvgPixelsOfAnOrdinaryPie, AreNearlyAllThoseOfThePng)
 {
     CAnyChart pie(ChartKind::Pie, true);
