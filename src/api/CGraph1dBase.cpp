@@ -5,6 +5,7 @@
 #include "api/CAddedFonts.h"
 #include "api/description.h"
 #include "api/font_problem.h"
+#include "api/problem_text.h"
 #include "base/CGlobal.h"
 #include "base/host_text.h"
 #include "input/CGraph1dInput.h"
@@ -104,8 +105,14 @@ void CGraph1dBase::forgetDrawing()
 {
     m_isDrawn = false;
     m_problem = Problem::NoMemory;
+    m_isPage = false;
     m_titleRect = QRect();
     m_others.reset();
+}
+
+const char* CGraph1dBase::problemText() const
+{
+    return m_isPage ? pageProblemSentence(m_problem) : problemSentence(m_problem);
 }
 
 CPictureFile CGraph1dBase::getSvg(int width, int height)
@@ -150,6 +157,7 @@ std::vector<QColor> CGraph1dBase::darkColors(CSvgFrame frame, CCanvas& canvas,
 CPictureFile CGraph1dBase::getPdf(int width, int height)
 {
     forgetDrawing();
+    m_isPage = true;
     if (!isPdfSize(width, height)) {
         m_problem = Problem::SizeOutOfRange;
         return noPictureFile();

@@ -74,6 +74,8 @@ public:
     [[nodiscard]] bool isDrawn() const { return m_isDrawn; }
     /// What was wrong with the last rendering.
     [[nodiscard]] Problem problem() const { return m_problem; }
+    /// The same as a sentence; empty if nothing was.
+    [[nodiscard]] const char* problemText() const;
     void setProblem(Problem problem) { m_problem = problem; }
     /// Begins a rendering that has drawn nothing so far. Only lack of memory can end it with an
     /// exception.
@@ -163,6 +165,7 @@ private:
     CPictureFile m_file;             // of the last rendering
     bool m_isDrawn = false;
     Problem m_problem = Problem::None;
+    bool m_isPage = false; // whether the last rendering was to be a PDF page
 };
 
 } // namespace tovangl

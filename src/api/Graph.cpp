@@ -3,7 +3,6 @@
 #include "api/CGraph1dBase.h"
 #include "api/chart_rendering.h"
 #include "api/conversions.h"
-#include "api/problem_text.h"
 #include "input/CGraph1dInput.h"
 #include "input/themes.h"
 #include <tovangl/Graph.h>
@@ -194,7 +193,7 @@ Problem Graph::problem() const
 
 std::string Graph::problemText() const
 {
-    return problemSentence(problem());
+    return m_graph ? m_graph->problemText() : std::string();
 }
 
 void Graph::createPixmap(int width, int height, unsigned char** data, int* size)

@@ -4,7 +4,6 @@
 #include "api/CPieGraph.h"
 #include "api/c_chart.h"
 #include "api/chart_rendering.h"
-#include "api/problem_text.h"
 #include "api/slice_records.h"
 
 #include <utility>
@@ -62,7 +61,7 @@ COutcome handOver(const CPictureFile& file, const CGraph1dBase& graph,
                   CResult<unsigned char> result)
 {
     if (file.size == 0)
-        return {TOVANGL_NO_PICTURE, problemSentence(graph.problem())};
+        return {TOVANGL_NO_PICTURE, graph.problemText()};
     result.set(file.data.get(), file.size);
     return {};
 }
@@ -158,7 +157,7 @@ tovangl_problem tovangl_chart_problem(const tovangl_chart* chart)
 
 const char* tovangl_chart_problem_text(const tovangl_chart* chart)
 {
-    return chart ? tovangl::problemSentence(chart->graph.problem()) : "";
+    return chart ? chart->graph.problemText() : "";
 }
 
 tovangl_status tovangl_chart_describe(tovangl_chart* chart, const char** text)

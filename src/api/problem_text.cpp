@@ -28,4 +28,11 @@ const char* problemSentence(Problem problem)
     return "";
 }
 
+const char* pageProblemSentence(Problem problem)
+{
+    if (problem == Problem::SizeOutOfRange)
+        return "A PDF page measures 1 to 14,400 points a side.";
+    return problemSentence(problem);
+}
+
 } // namespace tovangl

@@ -10,6 +10,8 @@ namespace tovangl {
 
 /// One English sentence; empty if there is no problem.
 [[nodiscard]] const char* problemSentence(Problem problem);
+/// The same of a PDF page, which has limits of its own.
+[[nodiscard]] const char* pageProblemSentence(Problem problem);
 
 } // namespace tovangl
 

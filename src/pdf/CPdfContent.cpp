@@ -105,10 +105,8 @@ std::string CPdfContent::bytes() const
 std::string CPdfContent::writeResources(CPdfObjects& objects) const
 {
     std::string fonts;
-    for (std::size_t i = 0; i < m_fonts.size(); ++i) {
-        if (m_fonts[i].isEmbeddable())
-            fonts += "/F" + std::to_string(i) + ' ' + pdfReference(m_fonts[i].write(objects));
-    }
+    for (std::size_t i = 0; i < m_fonts.size(); ++i)
+        fonts += "/F" + std::to_string(i) + ' ' + pdfReference(m_fonts[i].write(objects));
     std::string shadings;
     for (std::size_t i = 0; i < m_shadings.size(); ++i)
         shadings += "/S" + std::to_string(i) + ' ' + pdfReference(objects.add(m_shadings[i]));
@@ -153,13 +151,19 @@ bool CPdfContent::tellLetters(const CShapedRun& run)
     return isTold;
 }
 
+// What a font that must not be part of the file shows, shapes do. Its glyphs are there unseen, so
+// that readers find and select the text.
 void CPdfContent::showRun(const CShapedRun& run, const QTransform& toPage)
 {
     const std::size_t font = fontFor(run.face);
-    if (m_fonts[font].isEmbeddable())
+    if (m_fonts[font].isEmbeddable()) {
         showGlyphs(font, run, toPage);
-    else
-        fillOutlines(run, toPage);
+        return;
+    }
+    fillOutlines(run, toPage);
+    m_bytes += "3 Tr\n";
+    showGlyphs(font, run, toPage);
+    m_bytes += "0 Tr\n";
 }
 
 // Each glyph has the place that the layout gave it. Where the font's own widths lead elsewhere,
@@ -186,7 +190,6 @@ void CPdfContent::showGlyphs(std::size_t font, const CShapedRun& run, const QTra
     m_bytes += "ET\n";
 }
 
-// For a font that must not be part of the file.
 void CPdfContent::fillOutlines(const CShapedRun& run, const QTransform& toPage)
 {
     QPainterPath outlines;

@@ -98,7 +98,8 @@ std::uint16_t CPdfFont::use(std::uint32_t glyph)
     if (known != m_numbers.end())
         return known->second;
     CFontGlyph outline;
-    outline.contours = toContours(m_outlines.pathForGlyph(glyph));
+    if (m_isEmbeddable)
+        outline.contours = toContours(m_outlines.pathForGlyph(glyph));
     const QVector<QPointF> advances = m_outlines.advancesForGlyphIndexes(QVector<quint32>{glyph});
     if (!advances.isEmpty())
         outline.advance = static_cast<int>(std::lround(advances.first().x()));

@@ -20,7 +20,8 @@ class CPdfObjects;
 
 /// A face with the glyphs that texts use, in the order of their first use. The file gets their
 /// outlines as a TrueType font, whatever the face consists of: every reader has had those for
-/// decades, and their outlines are all that is needed.
+/// decades, and their outlines are all that is needed. Of a font whose maker forbids that, the file
+/// gets how wide its glyphs are and which letters they stand for.
 class CPdfFont
 {
 public:

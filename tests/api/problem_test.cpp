@@ -151,8 +151,10 @@ TEST(ProblemText, IsOneSentenceForEveryProblem)
     for (const Problem problem :
          {Problem::SizeOutOfRange, Problem::NoMemory, Problem::NoPlatformPlugin,
           Problem::ProcessEnding, Problem::TooSmallForChart, Problem::NoGlyphs,
-          Problem::FamilyReplaced})
+          Problem::FamilyReplaced}) {
         EXPECT_THAT(problemSentence(problem), MatchesRegex("[A-Z][^\n.!?]+\\."));
+        EXPECT_THAT(pageProblemSentence(problem), MatchesRegex("[A-Z][^\n.!?]+\\."));
+    }
 }
 
 } // namespace

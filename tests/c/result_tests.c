@@ -41,6 +41,8 @@ static void every_kind_is_drawn_on_paper(void)
         CHECK(size > 5 && memcmp(data, "%PDF-", 5) == 0);
         CHECK(tovangl_chart_problem(chart) == TOVANGL_PROBLEM_NONE);
         CHECK(tovangl_chart_render_pdf(chart, 14401, 200, &data, &size) == TOVANGL_NO_PICTURE);
+        CHECK_TEXT(tovangl_chart_error(chart), "A PDF page measures 1 to 14,400 points a side.");
+        CHECK_TEXT(tovangl_chart_problem_text(chart), tovangl_chart_error(chart));
         CHECK(data == NULL && size == 0);
         tovangl_chart_destroy(chart);
     }

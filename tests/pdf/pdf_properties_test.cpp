@@ -143,6 +143,15 @@ TEST_P(PdfSizes, OtherSizesAreRefused)
     EXPECT_EQ(file.size, 0);
     EXPECT_NE(file.data, nullptr);
     EXPECT_EQ(chart.graph().problem(), Problem::SizeOutOfRange);
+    EXPECT_THAT(chart.graph().problemText(), HasSubstr("14,400 points"));
+}
+
+TEST(PdfProperties, TheLimitsOfAPageAreForgottenWhereAPictureOfPixelsIsRefused)
+{
+    CAnyChart chart = spending();
+    static_cast<void>(chart.createPdf(0, kHeight));
+    static_cast<void>(chart.createPixmap(0, kHeight));
+    EXPECT_THAT(chart.graph().problemText(), HasSubstr("1,000,000 pixels"));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Renders many mixed charts in one process, which must not grow.
+// Renders many mixed charts in one process, which must not grow: half of them as PNG pictures, and
+// the others as SVG pictures and PDF pages.
 //
 // soak [--charts N] [--seed-fault memory|descriptor|thread]
 // The last line of the output sums up.
@@ -37,10 +38,23 @@ void leak(const std::string& fault)
         std::thread([] { std::this_thread::sleep_for(std::chrono::hours(1)); }).detach();
 }
 
+void renderChart(unsigned number)
+{
+    constexpr int kWidth = 300;
+    constexpr int kHeight = 200;
+    constexpr unsigned kForms = 4; // and three kinds of charts, so that each kind takes each form
+    if (number % kForms == 0)
+        (void)makeMixedChart(number).createSvg(kWidth, kHeight);
+    else if (number % kForms == 1)
+        (void)makeMixedChart(number).createPdf(kWidth, kHeight);
+    else
+        (void)renderMixedChart(number);
+}
+
 void renderCharts(unsigned first, unsigned end, const std::string& seededFault)
 {
     for (unsigned number = first; number < end; ++number) {
-        (void)renderMixedChart(number);
+        renderChart(number);
         leak(seededFault);
     }
 }

@@ -154,6 +154,19 @@ TEST_P(EveryChart, StandsAsPixelsInThePageBesideItsPaper)
     EXPECT_THAT(folder.read("x.html"), HasSubstr("data:image/png"));
 }
 
+// Qt's tables have an order of their own in each process.
+TEST_P(EveryChart, HasTheSameBytesFromEveryProcess)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    for (const std::string format : {"png", "svg", "pdf"}) {
+        const std::string command = "tovangl-chart " + chart() + " items -o ";
+        runWell(folder, "QT_HASH_SEED=1 " + command + "a." + format);
+        runWell(folder, "QT_HASH_SEED=2 " + command + "b." + format);
+        EXPECT_EQ(folder.read("a." + format), folder.read("b." + format)) << format;
+    }
+}
+
 TEST_P(EveryChart, IsDrawnWithoutItems)
 {
     EXPECT_EQ(draw(chart(), "").size(), QSize(800, 600));
