@@ -146,9 +146,27 @@ bool CPdfContent::tellLetters(const CShapedRun& run)
 {
     CPdfFont& font = m_fonts[fontFor(run.face)];
     bool isTold = !run.letters.empty();
-    for (std::size_t i = 0; i < run.letters.size(); ++i)
-        isTold = font.tell(font.use(run.glyphs[i]), run.letters[i]) && isTold;
+    for (std::size_t i = 0; i < run.letters.size(); ++i) {
+        const QString& letters = run.letters[i];
+        if (isLamAlef(letters)) {
+            const CGlyphHalves halves = font.useInHalves(run.glyphs[i]);
+            isTold = font.tell(halves.right, letters.left(1)) && isTold;
+            isTold = font.tell(halves.left, letters.mid(1)) && isTold;
+        } else {
+            isTold = font.tell(font.use(run.glyphs[i]), letters) && isTold;
+        }
+    }
     return isTold;
+}
+
+// A glyph of a run as glyphs of the file, from left to right.
+std::vector<std::uint16_t> CPdfContent::numbersOf(std::size_t font, const CShapedRun& run,
+                                                  std::size_t glyph)
+{
+    if (glyph >= run.letters.size() || !isLamAlef(run.letters[glyph]))
+        return {m_fonts[font].use(run.glyphs[glyph])};
+    const CGlyphHalves halves = m_fonts[font].useInHalves(run.glyphs[glyph]);
+    return {halves.left, halves.right};
 }
 
 // What a font that must not be part of the file shows, shapes do. Its glyphs are there unseen, so
@@ -181,9 +199,11 @@ void CPdfContent::showGlyphs(std::size_t font, const CShapedRun& run, const QTra
             const long move = std::lround((pen - run.positions[i].x()) * kThousand / size);
             if (move != 0)
                 m_bytes += '>' + std::to_string(move) + '<';
-            const std::uint16_t number = m_fonts[font].use(run.glyphs[i]);
-            m_bytes += pdfHex(number);
-            pen += static_cast<double>(m_fonts[font].advance(number) - move) * size / kThousand;
+            pen -= static_cast<double>(move) * size / kThousand;
+            for (const std::uint16_t number : numbersOf(font, run, i)) {
+                m_bytes += pdfHex(number);
+                pen += m_fonts[font].advance(number) * size / kThousand;
+            }
         }
         m_bytes += ">]TJ\n";
     }

@@ -55,6 +55,8 @@ private:
                           const QTransform& toPage);
     [[nodiscard]] std::size_t fontFor(const QRawFont& face);
     [[nodiscard]] bool tellLetters(const CShapedRun& run);
+    [[nodiscard]] std::vector<std::uint16_t> numbersOf(std::size_t font, const CShapedRun& run,
+                                                       std::size_t glyph);
     void showRun(const CShapedRun& run, const QTransform& toPage);
     void showGlyphs(std::size_t font, const CShapedRun& run, const QTransform& toPage);
     void fillOutlines(const CShapedRun& run, const QTransform& toPage);

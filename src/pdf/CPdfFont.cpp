@@ -97,18 +97,42 @@ std::uint16_t CPdfFont::use(std::uint32_t glyph)
     const auto known = m_numbers.find(glyph);
     if (known != m_numbers.end())
         return known->second;
+    const std::uint16_t number = add(outlineOf(glyph));
+    m_numbers[glyph] = number;
+    return number;
+}
+
+CGlyphHalves CPdfFont::useInHalves(std::uint32_t glyph)
+{
+    const auto known = m_halves.find(glyph);
+    if (known != m_halves.end())
+        return known->second;
+    CFontGlyph left = outlineOf(glyph);
+    CFontGlyph right;
+    right.advance = left.advance / 2;
+    left.advance -= right.advance;
+    const CGlyphHalves halves{add(std::move(left)), add(std::move(right))};
+    m_halves[glyph] = halves;
+    return halves;
+}
+
+CFontGlyph CPdfFont::outlineOf(std::uint32_t glyph)
+{
     CFontGlyph outline;
     if (m_isEmbeddable)
         outline.contours = toContours(m_outlines.pathForGlyph(glyph));
     const QVector<QPointF> advances = m_outlines.advancesForGlyphIndexes(QVector<quint32>{glyph});
     if (!advances.isEmpty())
         outline.advance = static_cast<int>(std::lround(advances.first().x()));
-    widen(m_box, outline.contours);
-    m_glyphs.push_back(std::move(outline));
+    return outline;
+}
+
+std::uint16_t CPdfFont::add(CFontGlyph glyph)
+{
+    widen(m_box, glyph.contours);
+    m_glyphs.push_back(std::move(glyph));
     m_letters.emplace_back();
-    const auto number = static_cast<std::uint16_t>(m_glyphs.size() - 1);
-    m_numbers[glyph] = number;
-    return number;
+    return static_cast<std::uint16_t>(m_glyphs.size() - 1);
 }
 
 bool CPdfFont::tell(std::uint16_t number, const QString& letters)

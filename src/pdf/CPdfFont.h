@@ -18,6 +18,13 @@ namespace tovangl {
 
 class CPdfObjects;
 
+/// The numbers of two glyphs, of which the left one looks like both.
+struct CGlyphHalves
+{
+    std::uint16_t left = 0;
+    std::uint16_t right = 0;
+};
+
 /// A face with the glyphs that texts use, in the order of their first use. The file gets their
 /// outlines as a TrueType font, whatever the face consists of: every reader has had those for
 /// decades, and their outlines are all that is needed. Of a font whose maker forbids that, the file
@@ -32,6 +39,9 @@ public:
     [[nodiscard]] bool isEmbeddable() const { return m_isEmbeddable; }
     /// The number of a glyph in the file.
     [[nodiscard]] std::uint16_t use(std::uint32_t glyph);
+    /// The same for a glyph that joins two letters: each gets half of its width. Of two letters of
+    /// one glyph, readers that go by places take the left one for the first, whatever the script.
+    [[nodiscard]] CGlyphHalves useInHalves(std::uint32_t glyph);
     /// Says what a glyph of the file stands for, which is a letter or several joined.
     ///
     /// @return false if it already stands for something else
@@ -42,6 +52,8 @@ public:
     int write(CPdfObjects& objects) const;
 
 private:
+    [[nodiscard]] CFontGlyph outlineOf(std::uint32_t glyph);
+    [[nodiscard]] std::uint16_t add(CFontGlyph glyph);
     [[nodiscard]] int inThousandths(int fontUnits) const;
     [[nodiscard]] int writeDescriptor(CPdfObjects& objects, const std::string& file,
                                       const std::string& name) const;
@@ -55,6 +67,7 @@ private:
     std::vector<CFontGlyph> m_glyphs;
     std::vector<QString> m_letters; // of the glyphs; empty where they are not told
     std::map<std::uint32_t, std::uint16_t> m_numbers;
+    std::map<std::uint32_t, CGlyphHalves> m_halves;
 };
 
 } // namespace tovangl

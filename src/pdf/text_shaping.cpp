@@ -67,23 +67,11 @@ double rightEnd(const std::vector<CShapedRun>& runs)
     return end;
 }
 
-// In Arabic, these two letters always become one.
-bool isLamAlef(const QString& first, const QString& second)
-{
-    constexpr ushort kLam = 0x0644;
-    constexpr ushort kAlefs[] = {0x0622, 0x0623, 0x0625, 0x0627};
-    return first == QChar(kLam) && std::any_of(std::begin(kAlefs), std::end(kAlefs),
-                                               [&](ushort alef) { return second == QChar(alef); });
-}
-
-// A bracket that is read from right to left looks like its counterpart, and is found as that.
-std::vector<QString> lettersOf(const QString& text, bool isMirrored)
+std::vector<QString> lettersOf(const QString& text)
 {
     std::vector<QString> letters;
-    for (const uint character : text.toUcs4()) {
-        const char32_t seen = isMirrored ? QChar::mirroredChar(character) : character;
-        letters.push_back(QString::fromUcs4(&seen, 1));
-    }
+    for (const char32_t character : text.toUcs4())
+        letters.push_back(QString::fromUcs4(&character, 1));
     return letters;
 }
 
@@ -91,7 +79,7 @@ std::vector<QString> withLamAlefs(const std::vector<QString>& letters)
 {
     std::vector<QString> joined;
     for (std::size_t i = 0; i < letters.size(); ++i) {
-        const bool isJoined = i > 0 && isLamAlef(letters[i - 1], letters[i]);
+        const bool isJoined = i > 0 && isLamAlef(letters[i - 1] + letters[i]);
         if (isJoined)
             joined.back() += letters[i];
         else
@@ -110,7 +98,7 @@ bool hasMarks(const QString& text)
 std::vector<QString> lettersOf(const CShapedRun& run, const QTextItem& item)
 {
     const QString text = item.text();
-    std::vector<QString> letters = lettersOf(text, isRightToLeft(item));
+    std::vector<QString> letters = lettersOf(text);
     const QVector<quint32> single = run.face.glyphIndexesForString(text);
     const bool isPlain =
         std::equal(single.begin(), single.end(), run.glyphs.begin(), run.glyphs.end());
@@ -135,6 +123,15 @@ void turnAround(std::vector<CShapedRun>& runs, double width)
 }
 
 } // namespace
+
+bool isLamAlef(const QString& letters)
+{
+    constexpr ushort kLam = 0x0644;
+    constexpr ushort kAlefs[] = {0x0622, 0x0623, 0x0625, 0x0627};
+    return letters.size() == 2 && letters[0] == QChar(kLam) &&
+           std::any_of(std::begin(kAlefs), std::end(kAlefs),
+                       [&](ushort alef) { return letters[1] == QChar(alef); });
+}
 
 std::vector<CShapedRun> shapeItem(const QTextItem& item)
 {

@@ -25,6 +25,9 @@ struct CShapedRun
     std::vector<QString> letters;
 };
 
+/// Whether these are the two letters of Arabic that always become one glyph.
+[[nodiscard]] bool isLamAlef(const QString& letters);
+
 /// The runs of a text item, from left to right.
 [[nodiscard]] std::vector<CShapedRun> shapeItem(const QTextItem& item);
 

@@ -77,10 +77,7 @@ private:
         constexpr std::size_t kDirectory = 12;
         return m_bytes.find(table, kDirectory);
     }
-    [[nodiscard]] std::size_t number(std::size_t offset) const
-    {
-        return numberAt(m_bytes, offset);
-    }
+    [[nodiscard]] std::size_t number(std::size_t offset) const { return numberAt(m_bytes, offset); }
 
     std::string m_bytes;
 };

@@ -57,6 +57,11 @@ INSTANTIATE_TEST_SUITE_P(Captions, PdfTextInScripts,
                                          "a\u0331\u0308b", "日本語", "हिन्दी", "العربية", "שלום",
                                          "1\u20442", "\U0001f600 face", "a\u2010b-c\u2011d"));
 
+// One glyph for two letters, and brackets that look the other way.
+INSTANTIATE_TEST_SUITE_P(FromRightToLeft, PdfTextInScripts,
+                         testing::Values("سلام", "لا", "الإسلام", "الآن", "كلأ لأ", "لا (الآن)",
+                                         "[שלום] (לא)"));
+
 TEST(PdfTexts, CaptionsOfBarsThatReadUpwardAreFound)
 {
     CAnyChart chart(ChartKind::VerticalBars);
