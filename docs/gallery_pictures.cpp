@@ -82,6 +82,16 @@ void shapes(PictureFolder& folder)
     folder.drawSvg(chart, "shapes", 520, 280);
 }
 
+void page(PictureFolder& folder)
+{
+    HorizontalBarGraph chart(false);
+    addAll(chart,
+           {{13104177, "Москва"}, {9215000, "القاهرة"}, {3664088, "Αθήνα"}, {2103000, "Wien"}});
+    chart.setTitle("Inhabitants of four cities");
+    chart.setFont("DejaVu Sans", 9);
+    folder.drawPdf(chart, "page", 300, 130);
+}
+
 void crowdedPie(PictureFolder& folder)
 {
     PieGraph chart(false);
@@ -264,7 +274,7 @@ int main(int count, char** arguments)
         return 2;
     PictureFolder folder(arguments[1]);
     for (const auto& drawOne :
-         {bars, labelledBars, pie, shapes, crowdedPie, highlight, profit, turned, scripts,
+         {bars, labelledBars, pie, shapes, page, crowdedPie, highlight, profit, turned, scripts,
           thumbnails, print, themes, title, palette, highDensity, transparent})
         drawOne(folder);
     return folder.isComplete() ? 0 : 1;

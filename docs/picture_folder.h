@@ -35,6 +35,14 @@ public:
         write(name + ".svg", std::string(reinterpret_cast<const char*>(data), toLength(size)));
     }
 
+    void drawPdf(tovangl::Graph& chart, const std::string& name, int width, int height)
+    {
+        unsigned char* data = nullptr;
+        int size = 0;
+        chart.createPdf(width, height, &data, &size);
+        write(name + ".pdf", std::string(reinterpret_cast<const char*>(data), toLength(size)));
+    }
+
     void print(tovangl::Graph& chart, const std::string& name, int width, int height, int factor)
     {
         unsigned char* data = nullptr;
