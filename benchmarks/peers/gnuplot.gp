@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Times gnuplot's charts, from a data file to a PNG file, in one process:
+# Times gnuplot's charts, from a data file to a picture, in one process:
 # gnuplot -c gnuplot.gp TERMINAL KIND DATA WIDTH HEIGHT FACTOR ROUNDS PICTURE
-# TERMINAL is png (the gd library) or pngcairo. Prints what every measuring program prints.
+# TERMINAL is png (the gd library), pngcairo, svg or pdfcairo. Prints what every measuring program prints.
 terminal_name = ARG1
 kind = ARG2
 data = ARG3
@@ -14,8 +14,12 @@ picture = ARG8
 # The gd terminal keeps a palette, which is its fastest form. 8.25 points are 11 pixels.
 if (terminal_name eq "png") { set terminal png size width * factor, height * factor }
 if (terminal_name eq "pngcairo") { set terminal pngcairo size width * factor, height * factor }
+if (terminal_name eq "svg") { set terminal svg size width, height }
+if (terminal_name eq "pdfcairo") { set terminal pdfcairo size width / 72.0, height / 72.0 }
 set termoption noenhanced
 set termoption font "DejaVu Sans,8.25"
+# An SVG picture counts in pixels.
+if (terminal_name eq "svg") { set termoption font "DejaVu Sans,11" }
 set termoption fontscale factor
 set termoption linewidth factor
 

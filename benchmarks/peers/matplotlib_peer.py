@@ -3,7 +3,8 @@
 """Times matplotlib's charts, drawn by its Agg backend.
 
 Arguments and output are those of every measuring program: KIND DATA WIDTH HEIGHT FACTOR ROUNDS
-PICTURE; "first SECONDS", then each round's milliseconds.
+PICTURE; "first SECONDS", then each round's milliseconds. A last argument "svg" or "pdf" has those
+backends draw.
 """
 import io
 import math
@@ -12,6 +13,8 @@ import time
 
 import matplotlib
 from matplotlib.backends.backend_agg import FigureCanvasAgg
+from matplotlib.backends.backend_pdf import FigureCanvasPdf
+from matplotlib.backends.backend_svg import FigureCanvasSVG
 from matplotlib.collections import LineCollection
 from matplotlib.figure import Figure
 
@@ -93,33 +96,38 @@ def draw_pie(figure, width, height, values, captions):
 DRAW = {"bars": draw_upright, "hbars": draw_lying, "pie": draw_pie}
 
 
-def draw_round(kind, items, width, height, factor):
+CANVAS = {"png": FigureCanvasAgg, "svg": FigureCanvasSVG, "pdf": FigureCanvasPdf}
+
+
+def draw_round(form, kind, items, width, height, factor):
     figure = Figure(figsize=(width / DOTS_PER_INCH, height / DOTS_PER_INCH),
                     dpi=DOTS_PER_INCH * factor)
-    canvas = FigureCanvasAgg(figure)
+    canvas = CANVAS[form](figure)
     DRAW[kind](figure, width, height, *items)
-    png = io.BytesIO()
-    canvas.print_png(png)
-    return png
+    file = io.BytesIO()
+    getattr(canvas, f"print_{form}")(file)
+    return file
 
 
 def main():
-    kind, data, *numbers, picture = sys.argv[1:]
-    width, height, factor, rounds = map(int, numbers)
+    kind, data, width, height, factor, rounds, picture, *form = sys.argv[1:]
+    form = form[0] if form else "png"
+    width, height, factor, rounds = map(int, (width, height, factor, rounds))
+    # Texts in SVG are texts, as in the other programs' files, rather than outlines.
     matplotlib.rcParams.update({"font.family": "DejaVu Sans", "font.size": 11,
-                                "text.antialiased": False,
+                                "text.antialiased": False, "svg.fonttype": "none",
                                 "patch.antialiased": kind == "pie"})
     items = read_items(data)
     first = 0.0
     times = []
     for place in range(rounds):
         start = time.perf_counter()
-        png = draw_round(kind, items, width, height, factor)
+        drawn = draw_round(form, kind, items, width, height, factor)
         times.append(1000 * (time.perf_counter() - start))
         if place == 0:
             first = time.time()
     with open(picture, "wb") as file:
-        file.write(png.getvalue())
+        file.write(drawn.getvalue())
     print(f"first {first:.6f}")
     print(*(f"{time:.4f}" for time in times), sep="\n")
 

@@ -215,7 +215,7 @@ void setDriver(const CChartCase& chart, const std::string& picture)
                                          : "text_anti_aliasing=1,graphics_anti_aliasing=1");
 }
 
-CPngBytes drawRound(const CChartCase& chart, const std::string& picture)
+CPictureBytes drawRound(const CChartCase& chart, const std::string& picture)
 {
     setDriver(chart, picture);
     setColors();

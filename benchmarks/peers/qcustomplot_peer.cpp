@@ -98,7 +98,7 @@ void fillLying(QCustomPlot& plot, const CChartCase& chart)
 }
 
 // The plot is kept from round to round, as its authors advise.
-CPngBytes drawRound(QCustomPlot& plot, const CChartCase& chart)
+CPictureBytes drawRound(QCustomPlot& plot, const CChartCase& chart)
 {
     plot.clearPlottables();
     plot.clearItems();

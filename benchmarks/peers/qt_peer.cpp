@@ -47,7 +47,7 @@ QFont peerFont()
     return font;
 }
 
-CPngBytes encode(const QImage& image)
+CPictureBytes encode(const QImage& image)
 {
     static QByteArray bytes;
     bytes.clear();

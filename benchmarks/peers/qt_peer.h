@@ -24,7 +24,7 @@ void useOffscreenPlatform();
 [[nodiscard]] QFont peerFont();
 
 /// The picture as PNG bytes, which live until the next call.
-[[nodiscard]] CPngBytes encode(const QImage& image);
+[[nodiscard]] CPictureBytes encode(const QImage& image);
 
 } // namespace bench
 } // namespace tovangl

@@ -152,7 +152,7 @@ QImage render(QwtPlot& plot, const CChartCase& chart)
     return image;
 }
 
-CPngBytes drawRound(QwtPlot& plot, const CChartCase& chart)
+CPictureBytes drawRound(QwtPlot& plot, const CChartCase& chart)
 {
     plot.detachItems();
     if (chart.kind == Bars)

@@ -20,6 +20,11 @@ std::unique_ptr<Graph> makeChartOf(const std::vector<CCaseItem>& items, bool bac
     return graph;
 }
 
+bool isArgument(const char* word, int count, char** arguments, int place)
+{
+    return place < count && std::strcmp(arguments[place], word) == 0;
+}
+
 } // namespace
 
 std::unique_ptr<Graph> makeChart(const CChartCase& chart, bool background)
@@ -37,15 +42,25 @@ std::unique_ptr<Graph> makeChart(const CChartCase& chart, bool background)
 
 Compression compressionArgument(int count, char** arguments, int place)
 {
-    const bool isFast = place < count && std::strcmp(arguments[place], "fast") == 0;
-    return isFast ? Compression::Fast : Compression::Balanced;
+    return isArgument("fast", count, arguments, place) ? Compression::Fast : Compression::Balanced;
 }
 
-CPngBytes drawChart(Graph& graph, const CChartCase& chart)
+PictureForm formArgument(int count, char** arguments, int place)
+{
+    if (isArgument("svg", count, arguments, place))
+        return PictureForm::Svg;
+    return isArgument("pdf", count, arguments, place) ? PictureForm::Pdf : PictureForm::Png;
+}
+
+CPictureBytes drawChart(Graph& graph, const CChartCase& chart, PictureForm form)
 {
     unsigned char* data = nullptr;
     int size = 0;
-    if (chart.factor == 1)
+    if (form == PictureForm::Svg)
+        graph.createSvg(chart.width, chart.height, &data, &size);
+    else if (form == PictureForm::Pdf)
+        graph.createPdf(chart.width, chart.height, &data, &size);
+    else if (chart.factor == 1)
         graph.createPixmap(chart.width, chart.height, &data, &size);
     else
         graph.createPixmapForPrinter(chart.width, chart.height, chart.factor, &data, &size);

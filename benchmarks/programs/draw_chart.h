@@ -23,8 +23,18 @@ inline constexpr bool kWithoutBackground = false;
 /// The setting that an argument names: "fast", or anything else for the default.
 [[nodiscard]] Compression compressionArgument(int count, char** arguments, int place);
 
+enum class PictureForm
+{
+    Png,
+    Svg,
+    Pdf
+};
+
+/// The form that an argument names: "svg", "pdf", or anything else for a PNG picture.
+[[nodiscard]] PictureForm formArgument(int count, char** arguments, int place);
+
 /// Renders the chart; the bytes belong to the graph. Ends the process where there is no picture.
-CPngBytes drawChart(Graph& graph, const CChartCase& chart);
+CPictureBytes drawChart(Graph& graph, const CChartCase& chart, PictureForm form = PictureForm::Png);
 
 } // namespace bench
 } // namespace tovangl

@@ -40,6 +40,8 @@ def read_arguments():
                         help="count instructions instead of time: repeatable on a busy machine")
     parser.add_argument("--batch", action="store_true",
                         help="measure tovangl-chart batch beside the library, and nothing else")
+    parser.add_argument("--vectors", action="store_true",
+                        help="measure SVG and PDF files, and nothing else")
     parser.add_argument("--quick", action="store_true",
                         help="one short round of everything, to see that it works")
     parser.add_argument("--no-peers", action="store_true",
@@ -57,8 +59,8 @@ def print_machine():
 def print_versions(with_peers):
     packages = ["libqt5gui5", "libdeflate0", "libisal2", "libpng16-16", "zlib1g"]
     if with_peers:
-        packages += ["gnuplot-nox", "libqcustomplot2.1", "libqwt-qt5-6", "libplplot17",
-                     "python3-matplotlib"]
+        packages += ["gnuplot-nox", "libqcustomplot2.1", "libqt5svg5", "libqwt-qt5-6",
+                     "libplplot17", "python3-matplotlib"]
     query = ["dpkg-query", "--show", "--showformat=${Package} ${Version}\n", *packages]
     found = subprocess.run(query, capture_output=True, text=True, check=False).stdout
     print(", ".join(found.splitlines()))
@@ -91,6 +93,15 @@ def measure(effort, programs):
                                effort.parallel_time)
 
 
+def measure_vectors(effort):
+    charts = [chart for chart in cases.read_cases() if chart.name != "print"]
+    for form in ("svg", "pdf"):
+        programs = cases.vector_programs(form)
+        results = times.time_all(programs, charts, effort.passes, effort.budget)
+        times.print_times(results, programs, charts, f"Warm charts as {form.upper()}")
+        times.print_sizes(programs, charts, f"{form.upper()} files")
+
+
 def main():
     sys.stdout.reconfigure(line_buffering=True)
     arguments = read_arguments()
@@ -99,10 +110,13 @@ def main():
     print_machine()
     print_versions(not arguments.no_peers and not arguments.batch)
     effort = QUICK if arguments.quick else THOROUGH
-    if arguments.batch:
+    if arguments.vectors:
+        measure_vectors(effort)
+    elif arguments.batch:
         batch.print_batch(effort.batch_charts, effort.batch_passes, effort.parallel_time)
     else:
         (count if arguments.callgrind else measure)(effort, programs)
+    if not arguments.batch:
         print(f"\nThe pictures are in {os.path.relpath(cases.PICTURES)}/.")
     if max(os.getloadavg()) > 1.5 * os.cpu_count():
         print("The machine was busy: compare ratios, not milliseconds.")

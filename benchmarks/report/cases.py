@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The charts that are measured and the programs that draw them."""
 import os
+import re
 import subprocess
 from dataclasses import dataclass
 
@@ -27,6 +28,7 @@ class Program:
     antialiases: bool = True  # edges of slices
     interpreted: bool = False  # takes minutes under callgrind
     settings: tuple = ()  # what goes behind the arguments that all programs take
+    form: str = "png"  # of the pictures
 
     def draws(self, case):
         return self.draws_pies or case.kind != "pie"
@@ -65,6 +67,20 @@ def peers():
     ]
 
 
+def vector_programs(form):
+    """Those that write SVG or PDF files, this library first."""
+    gnuplot = ("gnuplot", "-c", os.path.join(PEERS, "gnuplot.gp"))
+    terminal = {"svg": "svg", "pdf": "pdfcairo"}[form]
+    writer = {"svg": "QSvgGenerator", "pdf": "QPdfWriter"}[form]
+    matplotlib = (os.path.join(PEERS, "matplotlib_peer.py"),)
+    return [
+        Program("tovangl", OURS.command, settings=(form,), form=form),
+        Program(f"Qt, {writer}", (built("peers", "qt_vector_peer"),), settings=(form,), form=form),
+        Program(f"gnuplot, {terminal}", gnuplot + (terminal,), form=form),
+        Program("matplotlib", matplotlib, settings=(form,), form=form),
+    ]
+
+
 def run(command):
     """Runs a program and returns what it printed; its complaints end the run."""
     done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
@@ -75,7 +91,7 @@ def run(command):
 
 
 def picture_of(program, case):
-    name = f"{case.name}-{program.name}.png"
+    name = f"{case.name}-{program.name}.{program.form}"
     return os.path.join(PICTURES, name.replace(", ", "-"))
 
 
@@ -87,7 +103,24 @@ def forget_picture(program, case):
 def check_picture(program, case):
     """Ends the run where a program did not draw what its time was taken for."""
     with open(picture_of(program, case), "rb") as file:
-        head = file.read(24)
-    size = (int.from_bytes(head[16:20], "big"), int.from_bytes(head[20:24], "big"))
-    if head[:8] != b"\x89PNG\r\n\x1a\n" or size != case.size:
-        raise SystemExit(f"{picture_of(program, case)} is no PNG of {case.size} pixels")
+        content = file.read()
+    if not IS_PICTURE[program.form](content, case.size):
+        raise SystemExit(f"{picture_of(program, case)} is no {program.form} of {case.size} pixels")
+
+
+def is_png(content, size):
+    found = (int.from_bytes(content[16:20], "big"), int.from_bytes(content[20:24], "big"))
+    return content[:8] == b"\x89PNG\r\n\x1a\n" and found == size
+
+
+def is_svg(content, size):
+    return b"<svg" in content and f"0 0 {size[0]} {size[1]}".encode() in content
+
+
+def is_pdf(content, size):
+    box = re.search(rb"/MediaBox *\[ *0 0 ([\d.]+) ([\d.]+)", content)
+    found = tuple(round(float(side)) for side in box.groups()) if box else None
+    return content.startswith(b"%PDF-") and found == size
+
+
+IS_PICTURE = {"png": is_png, "svg": is_svg, "pdf": is_pdf}

@@ -49,10 +49,10 @@ def command_of(program, chart, rounds):
             *program.settings]
 
 
-def print_times(results, programs, charts):
+def print_times(results, programs, charts, what="Warm charts"):
     rows = [[program.name, *(times_cell(results.get((program, chart))) for chart in charts)]
             for program in programs]
-    tables.print_table("Warm charts: lowest (median), milliseconds",
+    tables.print_table(f"{what}: lowest (median), milliseconds",
                        ["", *(chart.name for chart in charts)], rows)
 
 
@@ -92,11 +92,11 @@ def ratio_cell(ours, theirs):
             f"({ratio_within_passes(ours, theirs):.2f})")
 
 
-def print_sizes(programs, charts):
+def print_sizes(programs, charts, what="Files"):
     """Of the pictures that the programs left behind."""
     rows = [[program.name, *(size_cell(program, chart) for chart in charts)]
             for program in programs]
-    tables.print_table("Files, bytes", ["", *(chart.name for chart in charts)], rows)
+    tables.print_table(f"{what}, bytes", ["", *(chart.name for chart in charts)], rows)
 
 
 def size_cell(program, chart):

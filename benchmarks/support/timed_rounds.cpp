@@ -18,7 +18,7 @@ double timeOfDay()
     return std::chrono::duration<double>(sinceEpoch).count();
 }
 
-void writePicture(const std::string& path, const CPngBytes& png)
+void writePicture(const std::string& path, const CPictureBytes& png)
 {
     if (png.size == 0)
         return;
@@ -37,7 +37,7 @@ int timeRounds(int count, char** arguments, const DrawRound& draw)
 
     double firstDone = 0;
     std::vector<double> times;
-    CPngBytes png;
+    CPictureBytes png;
     for (long round = 0; round < rounds; ++round) {
         const Clock::time_point start = Clock::now();
         png = draw(chart, picture);

@@ -13,8 +13,9 @@
 namespace tovangl {
 namespace bench {
 
-/// PNG bytes that live until the next round. Empty where the round wrote the file itself.
-struct CPngBytes
+/// The bytes of a picture's file, which live until the next round. Empty where the round wrote the
+/// file itself.
+struct CPictureBytes
 {
     const void* data = nullptr;
     std::size_t size = 0;
@@ -22,7 +23,7 @@ struct CPngBytes
 
 /// Builds the chart from its items, draws it and encodes it; the second argument is the file of the
 /// picture, for libraries that can only write to one.
-using DrawRound = std::function<CPngBytes(const CChartCase&, const std::string&)>;
+using DrawRound = std::function<CPictureBytes(const CChartCase&, const std::string&)>;
 
 /// The main() of a measuring program. After the case (see readChartCase()) its arguments are ROUNDS
 /// and PICTURE, the file that the last picture goes to. It prints "first SECONDS", the time of day
