@@ -72,6 +72,11 @@ std::string escapeHtml(std::string_view text)
     return result;
 }
 
+std::string htmlAttribute(std::string_view name, std::string_view value)
+{
+    return ' ' + std::string(name) + "=\"" + escapeHtml(value) + '"';
+}
+
 std::string displayName(std::string_view bytes)
 {
     std::string result;

@@ -23,11 +23,6 @@ std::string decimal(double number)
     return {text.data(), end.ptr};
 }
 
-std::string attribute(const char* name, const std::string& value)
-{
-    return std::string(" ") + name + "=\"" + escapeHtml(value) + '"';
-}
-
 } // namespace
 
 CImageMap::CImageMap(std::string name)
@@ -65,24 +60,9 @@ std::string CImageMap::html() const
 
 void CImageMap::addArea(const char* shape, const std::string& coordinates, const RegionLink& link)
 {
-    m_areas += "<area" + attribute("shape", shape) + attribute("coords", coordinates) +
-               attribute("href", link.target) + attribute("title", link.title) +
-               attribute("alt", link.text) + ">\n";
-}
-
-std::string denseSource(const std::string& address, int density)
-{
-    return address + ' ' + std::to_string(density) + 'x';
-}
-
-std::string mappedPictureHtml(const MappedPicture& picture, const CImageMap& map)
-{
-    return "<div class=\"picture\"><img" + attribute("src", picture.source) +
-           (picture.sourceSet.empty() ? "" : attribute("srcset", picture.sourceSet)) +
-           attribute("width", std::to_string(picture.width)) +
-           attribute("height", std::to_string(picture.height)) +
-           attribute("usemap", '#' + map.name()) + attribute("alt", picture.description) +
-           "></div>\n" + map.html();
+    m_areas += "<area" + htmlAttribute("shape", shape) + htmlAttribute("coords", coordinates) +
+               htmlAttribute("href", link.target) + htmlAttribute("title", link.title) +
+               htmlAttribute("alt", link.text) + ">\n";
 }
 
 } // namespace tovangl::program

@@ -40,25 +40,6 @@ private:
     std::string m_areas;
 };
 
-/// A picture that a map belongs to.
-struct MappedPicture
-{
-    std::string source;    ///< address of the picture
-    std::string sourceSet; ///< from denseSource(); may be empty
-    int width;             ///< in pixels of the page: a map does not scale with its picture
-    int height;
-    std::string description; ///< the picture's alternative text; plain text
-};
-
-/// Says that the same picture with so many pixels, each way, for each pixel of the page is there
-/// for dense displays.
-///
-/// @param address  without white space
-[[nodiscard]] std::string denseSource(const std::string& address, int density);
-
-/// The picture with its map.
-[[nodiscard]] std::string mappedPictureHtml(const MappedPicture& picture, const CImageMap& map);
-
 } // namespace tovangl::program
 
 #endif

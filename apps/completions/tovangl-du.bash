@@ -1,7 +1,7 @@
 # bash completion for tovangl-du
 _tovangl_du() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-    local words='-o --output --pages --depth --font-file -x --one-file-system --help --version'
+    local words='-o --output --pages --depth --svg --font-file -x --one-file-system --help --version'
     case $previous in
         --pages | --depth) return ;;
         -o | --output) words= ;;

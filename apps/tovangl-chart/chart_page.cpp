@@ -4,8 +4,8 @@
 
 #include "common/base64.h"
 #include "common/html_text.h"
-#include "common/image_map.h"
 #include "common/page_frame.h"
+#include "common/page_picture.h"
 #include "tovangl-chart/picture_format.h"
 
 namespace tovangl::program {
@@ -19,8 +19,6 @@ constexpr const char* kStyle =
     R"(body { margin: 0 auto; max-width: 832px; padding: 0 16px; color: #222; background: #fff;
        font: 15px/1.45 sans-serif; }
 h1 { font-size: 22px; overflow-wrap: anywhere; }
-.picture { overflow-x: auto; }
-.picture img, .picture svg { display: block; border: 0; }
 table { border-collapse: collapse; width: 100%; margin: 16px 0; font-size: 14px; }
 th, td { padding: 2px 8px; text-align: right; border-bottom: 1px solid #e4e4e4; }
 th { font-weight: normal; color: #666; }
@@ -86,10 +84,12 @@ MappedPicture mappedPicture(const ChartPictures& pictures, const ChartRegions& r
     return picture;
 }
 
-// A picture that is part of the page, with its own links.
-std::string pictureHtml(const std::string& svg)
+std::string pictureHtml(const ChartPictures& pictures, const ChartItems& rows,
+                        const ChartRegions& regions)
 {
-    return "<div class=\"picture\">" + svg + "</div>\n";
+    return pictures.shownFormat == PictureFormat::Svg
+               ? embeddedSvgHtml(pictures.shown)
+               : mappedPictureHtml(mappedPicture(pictures, regions), imageMap(rows, regions));
 }
 
 } // namespace
@@ -109,12 +109,10 @@ std::string chartPageHtml(const std::string& title, const ChartPictures& picture
 {
     const std::string heading = escapeHtml(displayName(title));
     const ChartItems rows = rowsOf(items, regions);
-    const std::string picture =
-        pictures.shownFormat == PictureFormat::Svg
-            ? pictureHtml(pictures.shown)
-            : mappedPictureHtml(mappedPicture(pictures, regions), imageMap(rows, regions));
-    const std::string body = "<h1>" + heading + "</h1>\n" + picture + tableHtml(rows);
-    return pageHtml({kGenerator, heading, "<style>\n" + std::string(kStyle) + "</style>", body});
+    const std::string body =
+        "<h1>" + heading + "</h1>\n" + pictureHtml(pictures, rows, regions) + tableHtml(rows);
+    const std::string style = std::string("<style>\n") + kStyle + pictureStyle() + "</style>";
+    return pageHtml({kGenerator, heading, style, body});
 }
 
 } // namespace tovangl::program

@@ -41,6 +41,7 @@ struct DiskUsageOptions
     WalkOptions walk;
     std::string output = "tovangl-report";
     std::vector<std::string> fontFiles;
+    bool isSvg = false;
 };
 
 void addOptions(CLI::App& program, DiskUsageOptions& options)
@@ -64,6 +65,8 @@ void addOptions(CLI::App& program, DiskUsageOptions& options)
                     "Write pages for folders down to N levels")
         ->type_name("N")
         ->check(CLI::Range(0, kMostLevels));
+    program.add_flag("--svg", options.isSvg,
+                     "Put the pictures into the pages as SVG, instead of PNG files");
     addFontFileOption(program, options.fontFiles);
     program.add_flag("-x,--one-file-system", options.walk.isOneFileSystem,
                      "Leave out folders on other file systems");
@@ -102,11 +105,11 @@ void tellLackOfLetters(const std::string& fontFamily)
         std::cerr << "tovangl-du: " << problem << '\n';
 }
 
-std::size_t write(const WalkResult& result, const DiskUsageOptions& options,
-                  const std::string& fontFamily, CStagedFolder& folder)
+std::size_t write(const WalkResult& result, const DiskUsageOptions& options, const ReportLook& look,
+                  CStagedFolder& folder)
 {
     CProgressLine line;
-    return writeReport(result, options.walk.root, options.walk.now, fontFamily, folder,
+    return writeReport(result, options.walk.root, options.walk.now, look, folder,
                        [&line](std::size_t page) {
                            stopIfInterrupted();
                            line.show([page] { return "page " + formatCount(page); });
@@ -119,14 +122,14 @@ void runReport(DiskUsageOptions options)
         throw CFailure("--output: the folder has no name");
     options.walk.now = std::time(nullptr);
     const std::vector<std::string> added = addFontFiles(options.fontFiles);
-    const std::string fontFamily = added.empty() ? kReportFontFamily : added.front();
+    const ReportLook look{added.empty() ? kReportFontFamily : added.front(), options.isSvg};
     noteInterruptions();
     CStagedFolder folder(options.output, isReport);
     const WalkResult result = walk(options.walk);
-    const std::size_t pages = write(result, options, fontFamily, folder);
+    const std::size_t pages = write(result, options, look, folder);
     folder.publish();
     tellUnreadable(result);
-    tellLackOfLetters(fontFamily);
+    tellLackOfLetters(look.fontFamily);
     std::cout << "Wrote " << formatNumberOf(pages, "page", "pages") << "; open "
               << makePrintable(options.output) << '/' << kFirstPage << '\n';
 }

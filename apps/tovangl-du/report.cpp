@@ -144,7 +144,7 @@ bool isReport(const fs::path& folder)
 }
 
 std::size_t writeReport(const WalkResult& walk, const std::string& rootName, std::int64_t now,
-                        const std::string& fontFamily, CStagedFolder& folder,
+                        const ReportLook& look, CStagedFolder& folder,
                         const std::function<void(std::size_t)>& report)
 {
     const CPageList pages(walk, rootName);
@@ -157,7 +157,7 @@ std::size_t writeReport(const WalkResult& walk, const std::string& rootName, std
                                     std::to_string(i + kFirstNumber) + '-',
                                     walk.unreadable,
                                     time,
-                                    fontFamily};
+                                    look};
         for (const ReportFile& file : makePage(contents, pageOf))
             folder.write(file.name, file.bytes);
     }

@@ -6,6 +6,7 @@
 
 #include "common/CStagedFolder.h"
 #include "tovangl-du/folder_walk.h"
+#include "tovangl-du/report_pictures.h"
 
 #include <functional>
 #include <string>
@@ -22,11 +23,10 @@ inline constexpr const char* kFirstPage = "index.html";
 ///
 /// @param rootName  the name of the root of the walk
 /// @param now       seconds since the start of 1970
-/// @param fontFamily  of the pictures
 /// @param report    called before each page with its number
 /// @return the number of pages
 std::size_t writeReport(const WalkResult& walk, const std::string& rootName, std::int64_t now,
-                        const std::string& fontFamily, CStagedFolder& folder,
+                        const ReportLook& look, CStagedFolder& folder,
                         const std::function<void(std::size_t)>& report);
 
 } // namespace tovangl::program

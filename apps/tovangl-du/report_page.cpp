@@ -4,7 +4,12 @@
 
 #include "common/html_text.h"
 #include "common/page_frame.h"
+#include "common/page_picture.h"
 #include "tovangl-du/byte_text.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace tovangl::program {
 
@@ -79,7 +84,7 @@ public:
         , m_pageOf(pageOf)
     {}
 
-    std::vector<ReportFile> make()
+    ReportFiles make()
     {
         m_html = header() + "<main>\n";
         if (m_folder.bytes > 0)
@@ -134,29 +139,24 @@ private:
         const ChildRows children = childRows(m_folder, m_pageOf);
         const ReportRows files = fileRows(m_folder, children);
         const ReportRows months = monthRows(m_folder);
-        addSection("Contents",
-                   drawPie(children.pie, m_folder.bytes, "children", m_contents.fontFamily),
+        addSection("Contents", drawPie(request("children", children.pie)),
                    foldedTable(children.table, m_folder.bytes, "Name"));
-        addSection("Largest files",
-                   drawLyingBars(files, m_folder.bytes, "files", m_contents.fontFamily),
+        addSection("Largest files", drawLyingBars(request("files", files)),
                    table(files, m_folder.bytes, "File"));
-        addSection("Bytes by month of last change",
-                   drawUprightBars(months, m_folder.bytes, "months", m_contents.fontFamily),
+        addSection("Bytes by month of last change", drawUprightBars(request("months", months)),
                    table(months, m_folder.bytes, "Month"));
+    }
+
+    [[nodiscard]] PictureRequest request(const char* name, const ReportRows& rows) const
+    {
+        return {rows, m_folder.bytes, name, m_contents.pictureStem + name, m_contents.look};
     }
 
     void addSection(const char* title, ReportPicture picture, const std::string& rows)
     {
-        const std::string stem = m_contents.pictureStem + picture.map.name();
-        const std::string fileName = stem + kPictureEnding;
-        const std::string denseName = stem + kDensePictureEnding;
-        m_html += std::string("<section>\n<h2>") + title + "</h2>\n" +
-                  mappedPictureHtml({fileName, denseSource(denseName, kDensity), picture.width,
-                                     picture.height, picture.description},
-                                    picture.map) +
-                  rows + "</section>\n";
-        m_files.push_back({fileName, std::move(picture.png)});
-        m_files.push_back({denseName, std::move(picture.densePng)});
+        m_html += std::string("<section>\n<h2>") + title + "</h2>\n" + picture.html + rows +
+                  "</section>\n";
+        std::move(picture.files.begin(), picture.files.end(), std::back_inserter(m_files));
     }
 
     void addUnreadable()
@@ -183,7 +183,7 @@ private:
     const FolderSummary& m_folder;
     const PageOf& m_pageOf;
     std::string m_html;
-    std::vector<ReportFile> m_files;
+    ReportFiles m_files;
 };
 
 } // namespace
@@ -196,8 +196,6 @@ h1 { font-size: 22px; overflow-wrap: anywhere; }
 h1 span { color: #999; }
 h2 { font-size: 17px; margin: 32px 0 8px; }
 a { color: #1f5aa6; }
-.picture { overflow-x: auto; }
-.picture img { display: block; border: 0; }
 table { border-collapse: collapse; width: 100%; margin-top: 8px; font-size: 14px; }
 th, td { padding: 2px 8px; text-align: right; white-space: nowrap; border-bottom: 1px solid #e4e4e4; }
 th { font-weight: normal; color: #666; }
@@ -208,10 +206,10 @@ summary { margin: 8px; color: #666; }
 tr:target { background: #fff3c4; }
 .swatch { display: inline-block; width: 11px; height: 11px; }
 footer { margin: 32px 0 16px; color: #666; font-size: 13px; }
-)";
+)" + pictureStyle();
 }
 
-std::vector<ReportFile> makePage(const PageContents& contents, const PageOf& pageOf)
+ReportFiles makePage(const PageContents& contents, const PageOf& pageOf)
 {
     return CPage(contents, pageOf).make();
 }

@@ -5,6 +5,7 @@
 #define TOVANGL_DU_REPORT_PAGE_H
 
 #include "tovangl-du/FolderSummary.h"
+#include "tovangl-du/ReportFile.h"
 #include "tovangl-du/folder_walk.h"
 #include "tovangl-du/report_pictures.h"
 #include "tovangl-du/report_rows.h"
@@ -17,9 +18,6 @@ namespace tovangl::program {
 /// The generator that the head of a page names.
 inline constexpr const char* kGenerator = "tovangl-du";
 inline constexpr const char* kStyleName = "style.css";
-/// The ends of the names of pictures.
-inline constexpr const char* kPictureEnding = ".png";
-inline constexpr const char* kDensePictureEnding = "-2x.png"; // for dense displays
 /// The content of the style file.
 [[nodiscard]] std::string reportStyle();
 
@@ -34,21 +32,14 @@ struct PageContents
 {
     const FolderSummary& folder;
     std::vector<PathPart> path; ///< from the root of the walk to this folder, both included
-    std::string pictureStem;    ///< the pictures' names start with it
+    std::string pictureStem;    ///< the names of the pictures' files start with it
     const std::vector<UnreadablePlace>& unreadable; ///< listed if the folder is the root
     std::string time;                               ///< of the walk
-    std::string fontFamily = kReportFontFamily;     ///< of the pictures
+    ReportLook look = {};
 };
 
-/// A file of the report.
-struct ReportFile
-{
-    std::string name;
-    std::string bytes;
-};
-
-/// The page itself, first, and its pictures.
-[[nodiscard]] std::vector<ReportFile> makePage(const PageContents& contents, const PageOf& pageOf);
+/// The page itself, first, and the files that its pictures need.
+[[nodiscard]] ReportFiles makePage(const PageContents& contents, const PageOf& pageOf);
 
 } // namespace tovangl::program
 

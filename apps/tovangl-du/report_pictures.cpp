@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The pictures of the report, with their image maps.
+// The pictures of the report, with their links.
 #include "tovangl-du/report_pictures.h"
 
 #include "common/CFailure.h"
+#include "common/page_picture.h"
 #include "tovangl-du/byte_text.h"
 #include <tovangl/HorizontalBarGraph.h>
 #include <tovangl/PieGraph.h>
@@ -21,6 +22,11 @@ constexpr int kRowHeight = 24;
 constexpr int kRoomAroundRows = 30;
 
 constexpr int kFontSize = 11;
+
+// Picture pixels, each way, for each pixel of the page, in the picture for dense displays.
+constexpr int kDensity = 2;
+
+using Create = void (Graph::*)(int, int, unsigned char**, int*);
 
 // Bars have an outline two thirds as bright as they are.
 Color outlineOf(const Color& color)
@@ -44,46 +50,66 @@ void applyLook(Graph& chart, const std::string& fontFamily)
     chart.setLocale("en", "us");
 }
 
-std::string renderPng(Graph& chart, int height, int scale)
+std::string render(Graph& chart, int height, Create create)
 {
     unsigned char* bytes = nullptr;
     int size = 0;
-    chart.setScale(scale);
-    chart.createPixmap(kWidth, height, &bytes, &size);
+    (chart.*create)(kWidth, height, &bytes, &size);
     if (size == 0)
         throw CFailure("cannot draw: " + chart.problemText());
     return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
 }
 
-// The map is in pixels of the page, and a chart tells the regions of its last rendering.
-ReportPicture render(Graph& chart, int height, const char* name)
+ReportPicture embeddedPicture(Graph& chart, int height, const PictureRequest& request)
 {
-    std::string dense = renderPng(chart, height, kDensity);
-    std::string png = renderPng(chart, height, 1);
-    return {std::move(png), std::move(dense), kWidth, height, chart.describe(), CImageMap(name)};
+    for (std::size_t i = 0; i < request.rows.size(); ++i)
+        chart.setLink(i, request.rows[i].link);
+    return {embeddedSvgHtml(render(chart, height, &Graph::createSvg)), {}};
+}
+
+// The picture that the page shows comes last, because a chart tells the regions of its last
+// rendering.
+ReportFiles pictureFiles(Graph& chart, int height, const std::string& stem)
+{
+    chart.setScale(kDensity);
+    std::string dense = render(chart, height, &Graph::createPixmap);
+    chart.setScale(1);
+    return {{stem + kPictureEnding, render(chart, height, &Graph::createPixmap)},
+            {stem + kDensePictureEnding, std::move(dense)}};
+}
+
+template <typename Regions, typename Add>
+void addRegions(CImageMap& map, const Regions& regions, Add add, const PictureRequest& request)
+{
+    auto row = request.rows.begin();
+    for (const auto& region : regions)
+        (map.*add)(region, linkOf(*row++, request.total));
 }
 
 // Captions come first: where one overlaps a bar or a slice, the reader points at the caption.
-void addCaptions(ReportPicture& picture, Graph& chart, const ReportRows& rows, long total)
+template <typename AddShapes>
+ReportPicture draw(Graph& chart, int height, const PictureRequest& request, AddShapes addShapes)
 {
-    auto row = rows.begin();
-    for (const Rectangle& caption : *chart.getRectangle())
-        picture.map.addRectangle(caption, linkOf(*row++, total));
+    if (request.look.isSvg)
+        return embeddedPicture(chart, height, request);
+    ReportFiles files = pictureFiles(chart, height, request.fileStem);
+    CImageMap map(request.name);
+    addRegions(map, *chart.getRectangle(), &CImageMap::addRectangle, request);
+    addShapes(map);
+    const std::string dense = denseSource(files[1].name, kDensity);
+    return {mappedPictureHtml({files[0].name, dense, kWidth, height, chart.describe()}, map),
+            std::move(files)};
 }
 
 template <typename BarChart>
-ReportPicture drawBars(BarChart& chart, const ReportRows& rows, int height, long total,
-                       const char* name, const std::string& fontFamily)
+ReportPicture drawBars(BarChart& chart, int height, const PictureRequest& request)
 {
-    applyLook(chart, fontFamily);
-    for (const ReportRow& row : rows)
+    applyLook(chart, request.look.fontFamily);
+    for (const ReportRow& row : request.rows)
         chart.addItem(row.bytes, row.caption, row.color, outlineOf(row.color));
-    ReportPicture picture = render(chart, height, name);
-    addCaptions(picture, chart, rows, total);
-    auto row = rows.begin();
-    for (const Rectangle& bar : *chart.getItemBarRectangle())
-        picture.map.addRectangle(bar, linkOf(*row++, total));
-    return picture;
+    return draw(chart, height, request, [&](CImageMap& map) {
+        addRegions(map, *chart.getItemBarRectangle(), &CImageMap::addRectangle, request);
+    });
 }
 
 } // namespace
@@ -92,38 +118,32 @@ std::string lackOfLetters(const std::string& fontFamily)
 {
     PieGraph chart(false);
     applyLook(chart, fontFamily);
-    static_cast<void>(render(chart, kPieHeight, ""));
+    static_cast<void>(render(chart, kPieHeight, &Graph::createPixmap));
     return chart.problem() == Problem::NoGlyphs ? chart.problemText() : std::string();
 }
 
-ReportPicture drawPie(const ReportRows& rows, long total, const char* name,
-                      const std::string& fontFamily)
+ReportPicture drawPie(const PictureRequest& request)
 {
     PieGraph chart(false);
-    applyLook(chart, fontFamily);
-    for (const ReportRow& row : rows)
+    applyLook(chart, request.look.fontFamily);
+    for (const ReportRow& row : request.rows)
         chart.addItem(row.bytes, row.caption, row.color);
-    ReportPicture picture = render(chart, kPieHeight, name);
-    addCaptions(picture, chart, rows, total);
-    auto row = rows.begin();
-    for (const Slice& slice : *chart.getSlice())
-        picture.map.addSlice(slice, linkOf(*row++, total));
-    return picture;
+    return draw(chart, kPieHeight, request, [&](CImageMap& map) {
+        addRegions(map, *chart.getSlice(), &CImageMap::addSlice, request);
+    });
 }
 
-ReportPicture drawLyingBars(const ReportRows& rows, long total, const char* name,
-                            const std::string& fontFamily)
+ReportPicture drawLyingBars(const PictureRequest& request)
 {
     HorizontalBarGraph chart(true);
-    const int height = kRoomAroundRows + kRowHeight * static_cast<int>(rows.size());
-    return drawBars(chart, rows, height, total, name, fontFamily);
+    const int height = kRoomAroundRows + kRowHeight * static_cast<int>(request.rows.size());
+    return drawBars(chart, height, request);
 }
 
-ReportPicture drawUprightBars(const ReportRows& rows, long total, const char* name,
-                              const std::string& fontFamily)
+ReportPicture drawUprightBars(const PictureRequest& request)
 {
     VerticalBarGraph chart(true);
-    return drawBars(chart, rows, kUprightHeight, total, name, fontFamily);
+    return drawBars(chart, kUprightHeight, request);
 }
 
 } // namespace tovangl::program

@@ -101,6 +101,26 @@ TEST_F(DiskUsageReport, NamesItsFilesByNumberWhateverTheFoldersAreCalled)
     }
 }
 
+TEST_F(DiskUsageReport, HasNoFilesOfPicturesThatArePartsOfItsPages)
+{
+    addFolder("\"><script>alert(1)<", 1000);
+    ASSERT_EQ(run("tree -o report --svg").status, 0);
+    EXPECT_EQ(reportNames(), (std::set<std::string>{"index.html", "2.html", "style.css"}));
+    for (const char* name : {"index.html", "2.html"}) {
+        EXPECT_EQ(page(name).error(), "");
+        EXPECT_TRUE(page(name).all("script").empty());
+        EXPECT_EQ(page(name).all("svg").size(), 3U);
+    }
+}
+
+TEST_F(DiskUsageReport, TakesThePlaceOfOneWithPicturesOfAnotherKind)
+{
+    addFolder("a", 1000);
+    for (const char* options : {"", "--svg", ""})
+        EXPECT_EQ(run(std::string("tree -o report ") + options).status, 0) << options;
+    EXPECT_THAT(reportNames(), Contains("1-children.png"));
+}
+
 TEST_F(DiskUsageReport, KeepsFoldersApartThatLookTheSame)
 {
     addFolder("broken\xff", 800);
@@ -202,7 +222,8 @@ TEST_P(DiskUsageHelp, NamesTheOptionsOfTheProgram)
     const std::string text =
         runShell(apps, std::string("sed 's/\\\\-/-/g' '" TOVANGL_APPS_FOLDER "'/") + GetParam())
             .output;
-    for (const char* option : {"output", "pages", "depth", "one-file-system", "help", "version"})
+    for (const char* option :
+         {"output", "pages", "depth", "svg", "font-file", "one-file-system", "help", "version"})
         EXPECT_THAT(text, HasSubstr(option));
 }
 

@@ -4,13 +4,16 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace tovangl::program {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::Ge;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
 using ::testing::Not;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
@@ -29,22 +32,40 @@ protected:
         m_folder.bytes += bytes;
     }
 
-    std::vector<ReportFile> make()
+    ReportFiles make()
     {
-        return makePage({m_folder, m_path, "5-", m_unreadable, "2024-05-18"},
+        return makePage({m_folder, m_path, "5-", m_unreadable, "2024-05-18", m_look},
                         [](FolderId id) { return id == 7 ? "9.html" : ""; });
     }
     CHtmlPage page() { return CHtmlPage(make()[0].bytes); }
+    /// Where the regions of all pictures lead, in either kind of page.
+    std::set<std::string> targets()
+    {
+        std::set<std::string> targets;
+        for (const HtmlElement& element : page().elements()) {
+            if (element.tag == "area" || element["class"] == "item")
+                targets.insert(element["href"]);
+        }
+        return targets;
+    }
+    std::vector<std::string> cells()
+    {
+        std::vector<std::string> cells;
+        for (const HtmlElement& cell : page().all("td"))
+            cells.push_back(cell.text);
+        return cells;
+    }
 
     FolderSummary m_folder{1, "", 0, kMay2024};
     std::vector<PathPart> m_path{{"root", "index.html"}, {"this", "5.html"}};
     std::vector<UnreadablePlace> m_unreadable;
+    ReportLook m_look;
 };
 
 TEST_F(ReportPage, ComesWithItsPictures)
 {
     add("folder", 500, 7);
-    const std::vector<ReportFile> files = make();
+    const ReportFiles files = make();
     std::vector<std::string> names;
     for (const ReportFile& file : files)
         names.push_back(file.name);
@@ -62,6 +83,54 @@ TEST_F(ReportPage, ShowsItsPicturesOnDenseDisplaysInTheSamePlace)
         EXPECT_EQ(image["srcset"], stem + "-2x.png 2x");
         EXPECT_EQ(image["width"], "800");
     }
+}
+
+TEST_F(ReportPage, HoldsItsPicturesAsSvgWhereAskedFor)
+{
+    add("folder", 500, 7);
+    m_look.isSvg = true;
+    EXPECT_THAT(make(), SizeIs(1));
+    EXPECT_EQ(page().error(), "");
+    EXPECT_THAT(page().all("svg"), SizeIs(3));
+    EXPECT_THAT(page().all("img"), IsEmpty());
+    EXPECT_THAT(page().all("area"), IsEmpty());
+}
+
+TEST_F(ReportPage, HasTheSameLinksAndTablesWithEitherKindOfPictures)
+{
+    add("folder", 500, 7);
+    add("file", 300);
+    const std::set<std::string> targets = this->targets();
+    const std::vector<std::string> cells = this->cells();
+    EXPECT_THAT(targets, IsSupersetOf({"9.html", "#child-2", "#file-1", "#file-2"}));
+    m_look.isSvg = true;
+    EXPECT_EQ(this->targets(), targets);
+    EXPECT_EQ(this->cells(), cells);
+}
+
+TEST_F(ReportPage, TellsEachItemOfAnSvgPicture)
+{
+    add("folder", 500, 7);
+    m_look.isSvg = true;
+    std::vector<std::string> titles;
+    for (const HtmlElement& title : page().all("title"))
+        titles.push_back(title.text);
+    EXPECT_THAT(titles,
+                ElementsAre("this, 500 bytes", "Pie chart", "folder/: 500", "Horizontal bar chart",
+                            "inside: 500", "Vertical bar chart", "2024-05: 500"));
+}
+
+TEST_F(ReportPage, HasIdsOfItsOwnForEverySvgPicture)
+{
+    add("folder", 500, 7);
+    m_look.isSvg = true;
+    std::set<std::string> ids;
+    for (const HtmlElement& element : page().elements()) {
+        if (!element["id"].empty()) {
+            EXPECT_TRUE(ids.insert(element["id"]).second) << element["id"];
+        }
+    }
+    EXPECT_THAT(ids, SizeIs(Ge(2 * 3U))); // of items and of rows, and of what pictures define
 }
 
 TEST_F(ReportPage, IsSound)
@@ -116,12 +185,15 @@ TEST_F(ReportPage, EscapesHostileNames)
     add(std::string(kHostileName) + "2", 300);
     m_unreadable.push_back({kHostileName, kHostileName});
     m_folder.unreadable = 1;
-    const std::string html = make()[0].bytes;
-    const CHtmlPage page(html);
-    EXPECT_EQ(page.error(), "");
-    EXPECT_THAT(page.all("script"), IsEmpty());
-    EXPECT_THAT(html, Not(HasSubstr("<script")));
-    EXPECT_EQ(page.all("title")[0].text, std::string(kHostileName) + ", 800 bytes");
+    for (const bool isSvg : {false, true}) {
+        m_look.isSvg = isSvg;
+        const std::string html = make()[0].bytes;
+        const CHtmlPage page(html);
+        EXPECT_EQ(page.error(), "");
+        EXPECT_THAT(page.all("script"), IsEmpty());
+        EXPECT_THAT(html, Not(HasSubstr("<script")));
+        EXPECT_EQ(page.all("title")[0].text, std::string(kHostileName) + ", 800 bytes");
+    }
 }
 
 TEST_F(ReportPage, TakesNamesOfAnyBytes)
@@ -129,7 +201,10 @@ TEST_F(ReportPage, TakesNamesOfAnyBytes)
     m_path.back().name = "\xff\xfe";
     add("\xff\xfe\n\x1b[2J", 500, 7);
     add(std::string(255, '\xc3'), 300);
-    EXPECT_EQ(page().error(), "");
+    for (const bool isSvg : {false, true}) {
+        m_look.isSvg = isSvg;
+        EXPECT_EQ(page().error(), "");
+    }
 }
 
 TEST_F(ReportPage, RefersToNothingOutside)

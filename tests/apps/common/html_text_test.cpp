@@ -21,6 +21,11 @@ TEST(EscapeHtml, LeavesOtherTextAlone)
     EXPECT_EQ(escapeHtml("Größe/日本 100 %"), "Größe/日本 100 %");
 }
 
+TEST(HtmlAttribute, EscapesItsValue)
+{
+    EXPECT_EQ(htmlAttribute("alt", "a \"b\""), " alt=\"a &quot;b&quot;\"");
+}
+
 TEST(DisplayName, KeepsReadableNames)
 {
     EXPECT_EQ(displayName("Größe <1> \\x \"日本\".txt"), "Größe <1> \\x \"日本\".txt");

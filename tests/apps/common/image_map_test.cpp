@@ -54,16 +54,5 @@ TEST(ImageMap, AddsCornersThatAnIntCannotHold)
     EXPECT_THAT(map.html(), HasSubstr("2147483647,2147483647,4294967294,4294967294"));
 }
 
-TEST(MappedPicture, NamesItsDensePictureIfThereIsOne)
-{
-    const CImageMap map("regions");
-    MappedPicture picture{"a.png", "", 80, 60, "A chart."};
-    EXPECT_THAT(mappedPictureHtml(picture, map),
-                HasSubstr("<img src=\"a.png\" width=\"80\" height=\"60\" usemap=\"#regions\""));
-    picture.sourceSet = denseSource("b.png", 2);
-    EXPECT_THAT(mappedPictureHtml(picture, map),
-                HasSubstr("<img src=\"a.png\" srcset=\"b.png 2x\" width=\"80\""));
-}
-
 } // namespace
 } // namespace tovangl::program

@@ -11,7 +11,9 @@ namespace tovangl::program {
 
 namespace {
 
-constexpr std::string_view kNameCharacters = "abcdefghijklmnopqrstuvwxyz0123456789-";
+constexpr std::string_view kNameCharacters =
+    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-:";
+constexpr const char* kPicture = "svg"; // within a page, but XML
 constexpr std::string_view kDoctype = "<!DOCTYPE html>\n";
 
 struct Entity
@@ -69,6 +71,12 @@ bool CHtmlPage::hasId(const std::string& id) const
                        [&id](const HtmlElement& element) { return element["id"] == id; });
 }
 
+bool CHtmlPage::isInPicture() const
+{
+    return std::any_of(m_open.begin(), m_open.end(),
+                       [this](std::size_t index) { return m_elements[index].tag == kPicture; });
+}
+
 void CHtmlPage::readText()
 {
     const std::size_t end = std::min(m_rest.find('<'), m_rest.size());
@@ -85,9 +93,10 @@ void CHtmlPage::readTag()
     element.tag = readName();
     while (m_error.empty() && skip(" "))
         readAttribute(element);
-    if (element.tag.empty() || !skip(">"))
+    const bool isClosed = isInPicture() && skip("/>");
+    if (element.tag.empty() || (!isClosed && !skip(">")))
         fail("a tag that does not end: " + element.tag);
-    if (!isVoid(element.tag))
+    if (!isClosed && !isVoid(element.tag))
         m_open.push_back(m_elements.size());
     m_elements.push_back(std::move(element));
 }

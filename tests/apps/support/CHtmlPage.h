@@ -22,7 +22,7 @@ struct HtmlElement
 
 /// A page of elements that are closed in their order, with every attribute in double quotation
 /// marks and no bare character that means something in HTML. Anything else is an error, which the
-/// page tells.
+/// page tells. Elements of an SVG picture within the page can also close themselves.
 class CHtmlPage
 {
 public:
@@ -36,6 +36,7 @@ public:
     [[nodiscard]] bool hasId(const std::string& id) const;
 
 private:
+    [[nodiscard]] bool isInPicture() const;
     void readText();
     void readTag();
     void readClosingTag();

@@ -77,6 +77,16 @@ TEST_F(ChartPage, HoldsAPictureForDenseDisplaysInTheSamePlace)
     EXPECT_EQ(image["height"], "300");
 }
 
+TEST_F(ChartPage, HoldsAnSvgPictureAsAPartOfItself)
+{
+    m_pictures.shown = "<svg viewBox=\"0 0 1 1\"><rect width=\"1\"/></svg>";
+    m_pictures.shownFormat = PictureFormat::Svg;
+    EXPECT_EQ(page().error(), "");
+    EXPECT_EQ(page().all("svg").at(0)["viewBox"], "0 0 1 1");
+    EXPECT_THAT(page().all("img"), SizeIs(0));
+    EXPECT_THAT(page().all("area"), SizeIs(0));
+}
+
 TEST_F(ChartPage, HasARowForTheOthers)
 {
     m_regions.others = OthersItem{"<rest>", 3, 12};
