@@ -20,7 +20,7 @@ constexpr int kUsualDensity = 2; // picture pixels for each pixel of a page, on 
 /// The pictures of a run.
 struct Pictures : ChartPictures
 {
-    std::string separate; ///< a file of its own in another format than the shown one; may be empty
+    std::string separate; ///< a file of its own that differs from those of the page; may be empty
 };
 
 bool makesPage(const CommonOptions& options)
@@ -141,10 +141,12 @@ std::optional<DensePicture> renderDense(Graph& chart, const CommonOptions& optio
     return png.empty() ? std::nullopt : std::optional(DensePicture{std::move(png), scale});
 }
 
-/// The picture as a file of its own, where none of the others can be that.
+/// The picture as a file of its own, where none of the others can be that: the links of an SVG
+/// picture in a page lead nowhere outside of it.
 std::string renderSeparate(Graph& chart, const CommonOptions& options)
 {
-    if (pictureOutput(options).empty() || givenFormat(options) == shownFormat(options))
+    const bool isAnother = options.isPageSvg || givenFormat(options) != shownFormat(options);
+    if (pictureOutput(options).empty() || !isAnother)
         return {};
     std::string picture =
         renderPicture(chart, options, givenFormat(options), givenScale(options).value_or(1));

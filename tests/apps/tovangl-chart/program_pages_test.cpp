@@ -11,8 +11,13 @@
 namespace tovangl::program {
 namespace {
 
+using ::testing::Contains;
+using ::testing::Each;
+using ::testing::ElementsAre;
 using ::testing::EndsWith;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 using Names = std::set<std::string>;
@@ -47,6 +52,22 @@ protected:
     {
         EXPECT_THAT(sourceSet(), EndsWith(' ' + density));
         return decode(sourceSet().substr(0, sourceSet().find(' ')));
+    }
+
+    /// What the links of an SVG picture's items lead to.
+    std::vector<std::string> links() const
+    {
+        std::vector<std::string> links;
+        for (const HtmlElement& link : page().all("a"))
+            links.push_back(link["href"]);
+        return links;
+    }
+    static std::vector<std::string> textsOf(const CHtmlPage& page, const char* tag)
+    {
+        std::vector<std::string> texts;
+        for (const HtmlElement& element : page.all(tag))
+            texts.push_back(element.text);
+        return texts;
     }
 
     CTemporaryFolder m_folder;
@@ -140,6 +161,82 @@ TEST_P(ProgramPage, HasTheTitleOfTheChartAsItsTitle)
     EXPECT_EQ(page().error(), "");
     EXPECT_EQ(page().all("h1").at(0).text, "<b>Sales & more");
     EXPECT_EQ(page().all("title").at(0).text, "<b>Sales & more");
+}
+
+TEST_P(ProgramPage, HoldsThePictureAsSvgWhereAskedFor)
+{
+    run("items --map x.html --svg");
+    EXPECT_EQ(m_folder.names(), (Names{"items", "x.html"}));
+    EXPECT_EQ(page().error(), "");
+    EXPECT_EQ(page().all("svg").at(0)["width"], "800");
+    EXPECT_THAT(page().all("img"), IsEmpty());
+    EXPECT_THAT(page().all("area"), IsEmpty());
+}
+
+TEST_P(ProgramPage, LinksTheItemsOfAnSvgPictureToTheirRows)
+{
+    run("items --map x.html --svg");
+    EXPECT_THAT(links(), ElementsAre("#item-1", "#item-2"));
+    EXPECT_TRUE(page().hasId("item-1"));
+    EXPECT_TRUE(page().hasId("item-2"));
+    EXPECT_THAT(textsOf(page(), "title"), Contains("a: 60"));
+}
+
+TEST_P(ProgramPage, LinksTheOthersOfAnSvgPictureToTheirRow)
+{
+    run("items --map x.html --svg --threshold 50 --others Rest");
+    EXPECT_THAT(links(), ElementsAre("#item-1", "#item-3"));
+    EXPECT_EQ(page().all("bdi").at(2).text, "Rest");
+}
+
+TEST_P(ProgramPage, HasTheSameTableWithEitherPicture)
+{
+    run("items --map x.html");
+    const auto cells = textsOf(page(), "td");
+    const auto names = textsOf(page(), "bdi");
+    run("items --map x.html --svg");
+    EXPECT_EQ(textsOf(page(), "td"), cells);
+    EXPECT_EQ(textsOf(page(), "bdi"), names);
+}
+
+TEST_P(ProgramPage, HoldsThePictureOfAnSvgFileButItsLinks)
+{
+    run("items --map x.html --svg -o x.svg");
+    EXPECT_THAT(m_folder.read("x.svg"), Not(HasSubstr("href")));
+    const CHtmlPage picture("<!DOCTYPE html>\n" + m_folder.read("x.svg"));
+    EXPECT_EQ(textsOf(picture, "text"), textsOf(page(), "text"));
+    EXPECT_EQ(picture.all("desc").at(0).text, page().all("desc").at(0).text);
+}
+
+TEST_P(ProgramPage, ShowsAnSvgPictureInThePixelsOfItsSizeWhateverTheScaleOfItsFile)
+{
+    run("items --map x.html --svg --scale 2 -o x.svg");
+    EXPECT_EQ(page().all("svg").at(0)["width"], "800");
+    EXPECT_THAT(m_folder.read("x.svg"), HasSubstr(" width=\"1600\""));
+}
+
+TEST_P(ProgramPage, StandsBesideAPictureOfAnyFormat)
+{
+    run("items --map x.html --svg -o x.png");
+    EXPECT_FALSE(QImage::fromData(QByteArray::fromStdString(m_folder.read("x.png"))).isNull());
+    EXPECT_EQ(page().all("svg").size(), 1U);
+    run("items --map x.html --svg -o x.pdf");
+    EXPECT_THAT(m_folder.read("x.pdf"), StartsWith("%PDF-"));
+}
+
+TEST_P(ProgramPage, EscapesHostileTextsInAnSvgPicture)
+{
+    constexpr const char* kHostile = "</title></svg><script>alert(1)</script>&amp;\"'";
+    m_folder.write("items", "60 " + std::string(kHostile) + "\n40 <img src=x onerror=alert(1)>\n");
+    m_folder.write("title", kHostile);
+    run("items --svg --map '\"><script>.html' --title \"$(cat title)\" --font \"$(cat title)\" "
+        "2>/dev/null");
+    const CHtmlPage page(m_folder.read("\"><script>.html"));
+    EXPECT_EQ(page.error(), "");
+    EXPECT_THAT(page.all("script"), IsEmpty());
+    EXPECT_THAT(page.all("img"), IsEmpty());
+    EXPECT_EQ(page.all("svg").size(), 1U);
+    EXPECT_EQ(page.all("h1").at(0).text, kHostile);
 }
 
 } // namespace

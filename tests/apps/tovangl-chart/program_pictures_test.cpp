@@ -118,21 +118,58 @@ TEST_P(EveryChart, MeasuresWhatItIsAskedFor)
     EXPECT_EQ(draw(chart() + " --size 320x200 --print 3").size(), QSize(960, 600));
 }
 
-TEST_P(EveryChart, IsAPageOfPaperInAFileWithThatEnding)
+struct FormatCase
 {
-    const CTemporaryFolder folder;
-    folder.write("items", kItems);
-    runWell(folder, std::string("tovangl-chart ") + GetParam() + " items -o x.PDF");
-    EXPECT_THAT(folder.read("x.PDF"), StartsWith("%PDF-"));
+    const char* options;
+    const char* file;
+    const char* beginning; // of what is written
+};
+
+constexpr const char* kPng = "\x89PNG\r\n";
+constexpr const char* kSvg = "<svg xmlns=";
+constexpr const char* kPdf = "%PDF-";
+
+// An option counts more than the name, whose ending counts in upper and lower case.
+constexpr FormatCase kFormatCases[] = {{"", "x.png", kPng},
+                                       {"", "x.svg", kSvg},
+                                       {"", "x.pdf", kPdf},
+                                       {"", "x.SVG", kSvg},
+                                       {"", "x.PDF", kPdf},
+                                       {"", ".svg", kSvg},
+                                       {"", "svg", kPng},
+                                       {"", "x.gif", kPng},
+                                       {"", "x.svg.gz", kPng},
+                                       {"--format png", "x", kPng},
+                                       {"--format svg", "x", kSvg},
+                                       {"--format pdf", "x", kPdf},
+                                       {"--format png", "x.svg", kPng},
+                                       {"--format svg", "x.pdf", kSvg},
+                                       {"--format pdf", "x.png", kPdf},
+                                       {"--format pdf --format svg", "x", kSvg}};
+
+TEST(Pictures, HaveTheFormatOfTheOptionOrElseOfTheName)
+{
+    for (const FormatCase& format : kFormatCases) {
+        const CTemporaryFolder folder;
+        folder.write("items", kItems);
+        runWell(folder,
+                std::string("tovangl-chart pie items ") + format.options + " -o " + format.file);
+        EXPECT_THAT(folder.read(format.file), StartsWith(format.beginning))
+            << format.options << ' ' << format.file;
+    }
 }
 
-TEST_P(EveryChart, IsAPageOfPaperInTheFormatOfThatName)
+TEST_P(EveryChart, HasTheSameBytesInAFileAndOnStandardOutput)
 {
     const CTemporaryFolder folder;
     folder.write("items", kItems);
-    const ShellResult result =
-        runShell(folder, std::string("tovangl-chart ") + GetParam() + " --format pdf items");
-    EXPECT_THAT(result.output, StartsWith("%PDF-"));
+    for (const char* format : {"png", "svg", "pdf"}) {
+        const std::string command = "tovangl-chart " + chart() + " items";
+        runWell(folder, command + " -o x." + format);
+        EXPECT_EQ(runShell(folder, command + " --format " + format).output,
+                  folder.read(std::string("x.") + format))
+            << format;
+    }
 }
 
 TEST_P(EveryChart, MapsFourPixelsForEachPointOfPaper)
@@ -143,6 +180,18 @@ TEST_P(EveryChart, MapsFourPixelsForEachPointOfPaper)
     runWell(folder, chart + "-o x.pdf --map paper.json");
     runWell(folder, chart + "-o x.png --map print.json --print 4");
     EXPECT_EQ(folder.read("paper.json"), folder.read("print.json"));
+}
+
+TEST_P(EveryChart, MapsTheSameRegionsInShapesAsInPixels)
+{
+    const CTemporaryFolder folder;
+    folder.write("items", kItems);
+    for (const char* scale : {"", " --scale 2"}) {
+        const std::string command = "tovangl-chart " + chart() + scale + " items -o x";
+        runWell(folder, command + ".svg --map shapes.json");
+        runWell(folder, command + ".png --map pixels.json");
+        EXPECT_EQ(folder.read("shapes.json"), folder.read("pixels.json")) << scale;
+    }
 }
 
 TEST_P(EveryChart, StandsAsPixelsInThePageBesideItsPaper)
