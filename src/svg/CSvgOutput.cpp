@@ -32,7 +32,6 @@ const char* roleOf(const CSvgFrame& frame)
     return hasLinks ? "group" : "img";
 }
 
-// Spaces at the beginning of texts count, as they do where texts are painted.
 void beginPicture(CSvgMarkup& markup, const CSvgFrame& frame)
 {
     markup.begin("svg")
@@ -43,7 +42,6 @@ void beginPicture(CSvgMarkup& markup, const CSvgFrame& frame)
         .attribute("role", roleOf(frame))
         .textAttribute("font-family", svgFontFamily(frame.fontFamily))
         .attribute("font-size", QFontInfo(frame.font).pixelSize())
-        .attribute("xml:space", "preserve")
         .open();
     markup.textElement("title", frame.title);
     markup.textElement("desc", frame.description);

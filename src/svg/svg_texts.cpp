@@ -35,6 +35,13 @@ std::string turnAt(const QPointF& corner)
     return "rotate(-90 " + svgNumber(corner.x()) + ' ' + svgNumber(corner.y()) + ')';
 }
 
+// Whether a reader would drop a space, which the text is painted with and measured by: one at
+// either end, or beside another one.
+bool needsItsSpaces(const QString& text)
+{
+    return text != text.simplified();
+}
+
 void writeLineOfText(CSvgScene& scene, const qt::CTextLine& line, const CPlacedText& text,
                      const std::string& turn)
 {
@@ -49,6 +56,8 @@ void writeLineOfText(CSvgScene& scene, const qt::CTextLine& line, const CPlacedT
         markup.attribute("transform", turn);
     if (text.isBold)
         markup.attribute("font-weight", "bold");
+    if (needsItsSpaces(line.text)) // Chromium looks for it here alone, and not around the text
+        markup.attribute("xml:space", "preserve");
     if (scene.frame.isOneOfTwo || text.color != QColor(Qt::black))
         scene.colors.paint(markup, {{"fill", text.color}});
     if (line.width > 0)

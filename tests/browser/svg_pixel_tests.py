@@ -99,3 +99,12 @@ class SvgPixelTest(PageTest):
 
     def test_an_ordinary_pie_is_nearly_that_of_the_png_picture(self):
         self.assertGreaterEqual(self.share(self.pies[-1]), 99.8)
+
+    def test_texts_keep_the_spaces_that_they_are_measured_with(self):
+        counts = self.reader.run("""
+            return Array.from(document.querySelectorAll('.picture text'),
+                              text => [text.textContent.length, text.getNumberOfChars()]);
+        """)
+        self.assertGreater(len(counts), 100)
+        for length, shown in counts:
+            self.assertEqual(shown, length)

@@ -90,6 +90,21 @@ TEST_P(EverySvg, KeepsTheWidthThatATextWasMeasuredWith)
         EXPECT_GT(text.number("textLength"), 0) << text.text.toStdString();
 }
 
+TEST(SvgTexts, KeepTheSpacesThatTheyAreMeasuredWith)
+{
+    CAnyChart chart(ChartKind::HorizontalBars);
+    chart.addItem(3, "one space");
+    chart.addItem(2, " a first one");
+    chart.addItem(1, "two  of them");
+    const CParsedSvg svg(chart.createSvg(400, 300).bytes());
+    std::vector<QString> kept;
+    for (const CSvgElement& text : svg.all("text")) {
+        if (text["xml:space"] == QLatin1String("preserve"))
+            kept.push_back(text.text);
+    }
+    EXPECT_THAT(kept, ElementsAre(QStringLiteral(" a first one"), QStringLiteral("two  of them")));
+}
+
 TEST(SvgTexts, ReadFromTheirRightEndWhereTheirScriptDoes)
 {
     CAnyChart chart(ChartKind::HorizontalBars);
