@@ -26,6 +26,17 @@ th:first-child, td:first-child { width: 99%; text-align: left; overflow-wrap: an
 tr:target { background: #fff3c4; }
 )";
 
+// The colours of the pictures in the theme dark.
+constexpr const char* kDarkStyle =
+    R"(@media (prefers-color-scheme: dark) {
+:root { color-scheme: dark; }
+body { color: #e6e9ef; background: #1b1f27; }
+th { color: #aab4c4; }
+th, td { border-color: #3a4354; }
+tr:target { background: #3a4354; }
+}
+)";
+
 // Others that gather nothing have no row, and their regions are empty.
 ChartItems rowsOf(const ChartItems& items, const ChartRegions& regions)
 {
@@ -84,6 +95,12 @@ MappedPicture mappedPicture(const ChartPictures& pictures, const ChartRegions& r
     return picture;
 }
 
+std::string styleHtml(const ChartPictures& pictures)
+{
+    return std::string("<style>\n") + kStyle + pictureStyle() +
+           (pictures.followsDisplay ? kDarkStyle : "") + "</style>";
+}
+
 std::string pictureHtml(const ChartPictures& pictures, const ChartItems& rows,
                         const ChartRegions& regions)
 {
@@ -111,8 +128,7 @@ std::string chartPageHtml(const std::string& title, const ChartPictures& picture
     const ChartItems rows = rowsOf(items, regions);
     const std::string body =
         "<h1>" + heading + "</h1>\n" + pictureHtml(pictures, rows, regions) + tableHtml(rows);
-    const std::string style = std::string("<style>\n") + kStyle + pictureStyle() + "</style>";
-    return pageHtml({kGenerator, heading, style, body});
+    return pageHtml({kGenerator, heading, styleHtml(pictures), body});
 }
 
 } // namespace tovangl::program

@@ -29,13 +29,15 @@ struct ChartPictures
     std::string shown;                 ///< the regions belong to it
     std::optional<DensePicture> dense; ///< shown in its place on dense displays
     PictureFormat shownFormat = PictureFormat::Png;
+    bool followsDisplay = false; ///< whether an SVG picture is dark on displays that are
 };
 
 /// The place of an item in the page's table, from 0: "item-1" for the first.
 [[nodiscard]] std::string itemAnchor(std::size_t index);
 
 /// A page that needs no other file: the picture, the regions of its items, and a table of the items
-/// that the regions lead to. An SVG picture is taken to have links of its own there.
+/// that the regions lead to. An SVG picture is taken to have links of its own there. The page is as
+/// dark as its picture.
 ///
 /// @param title  of the page; plain text
 [[nodiscard]] std::string chartPageHtml(const std::string& title, const ChartPictures& pictures,

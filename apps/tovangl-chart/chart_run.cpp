@@ -169,6 +169,8 @@ Pictures renderPictures(Graph& chart, std::size_t items, const CommonOptions& op
     pictures.separate = renderSeparate(chart, options);
     pictures.dense = renderDense(chart, options);
     pictures.shownFormat = shownFormat(options);
+    pictures.followsDisplay =
+        options.isPageSvg && givenValue(options.settings, "follow_display") == "true";
     if (options.isPageSvg)
         linkItems(chart, items);
     pictures.shown = renderPicture(chart, options, pictures.shownFormat, shownScale(options));

@@ -6,6 +6,7 @@ import subprocess
 from page_test import PageTest
 from served_pages import ITEMS, KINDS
 
+LIGHT, DARK = [255, 255, 255], [27, 31, 39]  # the grounds of the default look and of the theme dark
 BEYOND_EDGE = 100  # pixels from the middle of a bar to a place outside of it
 COLORS = [color for _, color in ITEMS.values()]
 
@@ -169,19 +170,19 @@ class SvgPageTest(ChartPageChecks, PageTest):
         self.assertEqual(self.printed_images(), [])
         self.assertEqual(self.printed_text().count("first"), 2)
 
-    def test_follows_the_scheme_of_the_display_where_asked_for(self):
-        light, dark = [255, 255, 255], [27, 31, 39]
-        for name, ground in (("following", dark), ("bars-svg", light)):
+    def test_picture_and_page_follow_the_scheme_of_the_display_where_asked_for(self):
+        for name, ground in (("following", DARK), ("bars-svg", LIGHT)):
             self.open_chart(name)
-            self.assertEqual(self.ground(), light)
+            self.assertEqual(self.grounds(), [LIGHT, LIGHT])
             with self.reader.color_scheme("dark"):
-                self.assertEqual(self.ground(), ground)
+                self.assertEqual(self.grounds(), [ground, ground])
 
     def test_items_keep_their_colors_on_dark_displays(self):
         self.open_chart("following")
         with self.reader.color_scheme("dark"):
             self.assertEqual([self.reader.shown_pixel(bar) for bar in self.shapes()], COLORS)
 
-    def ground(self):
-        """The colour of the picture's corner."""
-        return self.reader.shown_pixels(self.reader.all("svg")[0], 1, 1, 1, 1)[0]
+    def grounds(self):
+        """The colours in the corners of the picture and of the page."""
+        corners = (self.reader.all(selector)[0] for selector in ("svg", "body"))
+        return [self.reader.shown_pixels(corner, 1, 1, 1, 1)[0] for corner in corners]

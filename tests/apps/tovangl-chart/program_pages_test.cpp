@@ -215,6 +215,17 @@ TEST_P(ProgramPage, ShowsAnSvgPictureInThePixelsOfItsSizeWhateverTheScaleOfItsFi
     EXPECT_THAT(m_folder.read("x.svg"), HasSubstr(" width=\"1600\""));
 }
 
+TEST_P(ProgramPage, IsDarkOnDarkDisplaysWhereItsPictureIs)
+{
+    const auto styleOfPage = [this] { return page().all("style").at(0).text; };
+    run("items --map x.html --svg --follow-display");
+    EXPECT_THAT(styleOfPage(), HasSubstr("prefers-color-scheme: dark"));
+    for (const char* options : {"--svg", "--follow-display"}) {
+        run(std::string("items --map x.html ") + options);
+        EXPECT_THAT(styleOfPage(), Not(HasSubstr("prefers-color-scheme"))) << options;
+    }
+}
+
 TEST_P(ProgramPage, StandsBesideAPictureOfAnyFormat)
 {
     run("items --map x.html --svg -o x.png");
