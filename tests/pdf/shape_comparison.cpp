@@ -18,29 +18,27 @@ std::array<int, 3> channels(QRgb color)
     return {qRed(color), qGreen(color), qBlue(color)};
 }
 
-QRgb pixelAt(const QImage& image, int x, int y)
+const QRgb* rowOf(const QImage& image, int y)
 {
-    return reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
+    return reinterpret_cast<const QRgb*>(image.constScanLine(y));
 }
 
 bool isStray(const QImage& image, int x, int y, const QImage& other, int distance)
 {
-    if (pixelAt(image, x, y) == pixelAt(other, x, y))
-        return false;
     std::array<int, 3> least{255, 255, 255};
     std::array<int, 3> greatest{0, 0, 0};
     for (int row = std::max(y - distance, 0); row <= std::min(y + distance, other.height() - 1);
          ++row) {
         for (int column = std::max(x - distance, 0);
              column <= std::min(x + distance, other.width() - 1); ++column) {
-            const auto near = channels(pixelAt(other, column, row));
+            const auto near = channels(rowOf(other, row)[column]);
             for (std::size_t i = 0; i < near.size(); ++i) {
                 least[i] = std::min(least[i], near[i]);
                 greatest[i] = std::max(greatest[i], near[i]);
             }
         }
     }
-    const auto own = channels(pixelAt(image, x, y));
+    const auto own = channels(rowOf(image, y)[x]);
     for (std::size_t i = 0; i < own.size(); ++i) {
         if (own[i] < least[i] - kTolerance || own[i] > greatest[i] + kTolerance)
             return true;
@@ -52,8 +50,10 @@ int countIn(const QImage& image, const QImage& other, int distance)
 {
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
+        const QRgb* own = rowOf(image, y);
+        const QRgb* facing = rowOf(other, y);
         for (int x = 0; x < image.width(); ++x)
-            count += isStray(image, x, y, other, distance) ? 1 : 0;
+            count += own[x] != facing[x] && isStray(image, x, y, other, distance) ? 1 : 0;
     }
     return count;
 }

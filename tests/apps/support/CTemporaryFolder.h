@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -47,7 +47,9 @@ public:
     [[nodiscard]] std::string read(const std::string& name) const
     {
         std::ifstream file(pathOf(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
     }
 
     /// The names of everything in the folder.
