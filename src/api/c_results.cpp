@@ -66,6 +66,19 @@ COutcome handOver(const CPictureFile& file, const CGraph1dBase& graph,
     return {};
 }
 
+// Runs a call that renders the chart.
+//
+// @param sizes  what render() takes beside the chart
+template <typename... Sizes>
+tovangl_status callForPicture(tovangl_chart* chart, CResult<unsigned char> result,
+                              const CPictureFile& (*render)(CGraph1dBase&, Sizes...),
+                              Sizes... sizes) noexcept
+{
+    return callForRecords(chart, result, [=](tovangl_chart& target) {
+        return handOver(render(target.graph, sizes...), target.graph, result);
+    });
+}
+
 tovangl_rectangle toRecord(const QRect& rect)
 {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
@@ -104,42 +117,27 @@ using tovangl::COutcome;
 tovangl_status tovangl_chart_render(tovangl_chart* chart, int32_t width, int32_t height,
                                     const unsigned char** data, size_t* size)
 {
-    const tovangl::CResult result(data, size);
-    return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
-        return tovangl::handOver(tovangl::renderPicture(target.graph, width, height), target.graph,
-                                 result);
-    });
+    return tovangl::callForPicture(chart, {data, size}, &tovangl::renderPicture, width, height);
 }
 
 tovangl_status tovangl_chart_render_for_print(tovangl_chart* chart, int32_t width, int32_t height,
                                               int32_t factor, const unsigned char** data,
                                               size_t* size)
 {
-    const tovangl::CResult result(data, size);
-    return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
-        return tovangl::handOver(tovangl::renderForPrinter(target.graph, width, height, factor),
-                                 target.graph, result);
-    });
+    return tovangl::callForPicture(chart, {data, size}, &tovangl::renderForPrinter, width, height,
+                                   factor);
 }
 
 tovangl_status tovangl_chart_render_svg(tovangl_chart* chart, int32_t width, int32_t height,
                                         const unsigned char** data, size_t* size)
 {
-    const tovangl::CResult result(data, size);
-    return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
-        return tovangl::handOver(tovangl::renderSvg(target.graph, width, height), target.graph,
-                                 result);
-    });
+    return tovangl::callForPicture(chart, {data, size}, &tovangl::renderSvg, width, height);
 }
 
 tovangl_status tovangl_chart_render_pdf(tovangl_chart* chart, int32_t width, int32_t height,
                                         const unsigned char** data, size_t* size)
 {
-    const tovangl::CResult result(data, size);
-    return tovangl::callForRecords(chart, result, [=](tovangl_chart& target) {
-        return tovangl::handOver(tovangl::renderPdf(target.graph, width, height), target.graph,
-                                 result);
-    });
+    return tovangl::callForPicture(chart, {data, size}, &tovangl::renderPdf, width, height);
 }
 
 tovangl_status tovangl_chart_free_picture(tovangl_chart* chart)
