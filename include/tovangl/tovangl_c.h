@@ -43,7 +43,7 @@ typedef enum tovangl_status
     TOVANGL_OK = 0,              ///< as it should
     TOVANGL_NULL_ARGUMENT = 1,   ///< a pointer is null that must not be
     TOVANGL_BAD_ARGUMENT = 2,    ///< an argument is out of its range
-    TOVANGL_NOT_UTF8 = 3,        ///< a caption is not UTF-8
+    TOVANGL_NOT_UTF8 = 3,        ///< a caption or an address is not UTF-8
     TOVANGL_UNKNOWN_SETTING = 4, ///< a chart of this kind has no setting of that name
     TOVANGL_BAD_VALUE = 5,       ///< the setting does not accept the value
     TOVANGL_WRONG_KIND = 6,      ///< a chart of this kind has no such thing
@@ -261,6 +261,18 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, si
 /// @param address  empty for no link; not null
 TOVANGL_EXPORT tovangl_status tovangl_chart_set_link(tovangl_chart* chart, size_t item,
                                                      const char* address);
+
+/// Gives addresses to the first items, or to none of them where one is wrong; tovangl_chart_error()
+/// says which. The addresses stand in one text, as the captions of tovangl_chart_add_columns() do.
+///
+/// @param chart    not null
+/// @param count    number of addresses, at most that of items
+/// @param text     all addresses, each as in tovangl_chart_set_link(). May be null if size is 0
+/// @param size     number of bytes of the text
+/// @param offsets  count + 1 numbers, as in tovangl_chart_add_columns()
+TOVANGL_EXPORT tovangl_status tovangl_chart_set_links(tovangl_chart* chart, size_t count,
+                                                      const char* text, size_t size,
+                                                      const size_t* offsets);
 
 /// Removes all items. Settings, and the bytes of the last picture, are kept.
 TOVANGL_EXPORT tovangl_status tovangl_chart_clear(tovangl_chart* chart);

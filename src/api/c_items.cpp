@@ -3,6 +3,7 @@
 #include "api/CGraph1dBase.h"
 #include "api/c_chart.h"
 #include "input/CGraph1dInput.h"
+#include "input/link_address.h"
 #include "input/setting_values.h"
 
 #include <iterator>
@@ -86,14 +87,60 @@ std::string_view toView(const char* text)
     return text ? std::string_view(text) : std::string_view();
 }
 
-// Whether the offsets cut a text of that size into count pieces.
-bool areOffsets(const std::size_t* offsets, std::size_t count, std::size_t textSize)
+// Texts that stand in one text, one behind the other, as the host has them.
+struct CTextColumn
+{
+    const char* text;
+    std::size_t size;
+    const std::size_t* offsets;
+
+    std::string_view operator()(std::size_t i) const
+    {
+        return {(text ? text : "") + offsets[i], offsets[i + 1] - offsets[i]};
+    }
+};
+
+// Whether the offsets cut the text into count pieces.
+bool isCut(const CTextColumn& column, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i) {
-        if (offsets[i] > offsets[i + 1])
+        if (column.offsets[i] > column.offsets[i + 1])
             return false;
     }
-    return offsets[count] <= textSize;
+    return column.offsets[count] <= column.size;
+}
+
+COutcome checkColumn(const CTextColumn& column, std::size_t count)
+{
+    if ((count > 0 && !column.offsets) || (column.size > 0 && !column.text))
+        return {TOVANGL_NULL_ARGUMENT};
+    if (count > 0 && !isCut(column, count))
+        return {TOVANGL_BAD_ARGUMENT, "the offsets do not cut the text into pieces"};
+    return {};
+}
+
+COutcome checkLink(std::size_t item, std::string_view address)
+{
+    if (!parseText(address))
+        return wrongItem(item, TOVANGL_NOT_UTF8, "the address is not UTF-8");
+    if (!address.empty() && !isLinkAddress(address))
+        return wrongItem(item, TOVANGL_BAD_ARGUMENT, "the address is none that a link can have");
+    return {};
+}
+
+// Gives the first items their addresses or, where one is wrong, none of them.
+COutcome setLinks(CGraph1dInput& input, std::size_t count, const CTextColumn& addresses)
+{
+    if (count > input.items.size())
+        return {TOVANGL_BAD_ARGUMENT, "there are more addresses than items"};
+    for (std::size_t i = 0; i < count; ++i) {
+        COutcome outcome = checkLink(i, addresses(i));
+        if (outcome.status != TOVANGL_OK)
+            return outcome;
+    }
+    for (std::size_t i = 0; i < count; ++i)
+        input.setLink(i, addresses(i));
+    return {};
 }
 
 } // namespace
@@ -123,15 +170,13 @@ tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, size_t count, con
                                          const uint32_t* fills, const uint32_t* outlines)
 {
     return tovangl::callChart(chart, [=](tovangl_chart& target) -> tovangl::COutcome {
-        if ((count > 0 && (!values || !offsets)) || (size > 0 && !text))
+        if (count > 0 && !values)
             return {TOVANGL_NULL_ARGUMENT};
-        if (count > 0 && !tovangl::areOffsets(offsets, count, size))
-            return {TOVANGL_BAD_ARGUMENT, "the offsets do not cut the text into captions"};
-        const char* const begin = text ? text : "";
-        return tovangl::addItems(target, {count, values, fills, outlines},
-                                 [=](std::size_t i) -> std::string_view {
-                                     return {begin + offsets[i], offsets[i + 1] - offsets[i]};
-                                 });
+        const tovangl::CTextColumn captions{text, size, offsets};
+        tovangl::COutcome outcome = tovangl::checkColumn(captions, count);
+        if (outcome.status != TOVANGL_OK)
+            return outcome;
+        return tovangl::addItems(target, {count, values, fills, outlines}, captions);
     });
 }
 
@@ -144,5 +189,17 @@ tovangl_status tovangl_chart_set_link(tovangl_chart* chart, size_t item, const c
             return {TOVANGL_BAD_ARGUMENT,
                     "there is no such item, or the address is none that a link can have"};
         return {};
+    });
+}
+
+tovangl_status tovangl_chart_set_links(tovangl_chart* chart, size_t count, const char* text,
+                                       size_t size, const size_t* offsets)
+{
+    return tovangl::callChart(chart, [=](tovangl_chart& target) -> tovangl::COutcome {
+        const tovangl::CTextColumn addresses{text, size, offsets};
+        tovangl::COutcome outcome = tovangl::checkColumn(addresses, count);
+        if (outcome.status != TOVANGL_OK)
+            return outcome;
+        return tovangl::setLinks(target.graph.input(), count, addresses);
     });
 }

@@ -133,6 +133,65 @@ static void columns_that_are_null_are_refused_unless_they_are_empty(void)
     tovangl_chart_destroy(chart);
 }
 
+// Whether the chart as SVG holds the text.
+static int shows(tovangl_chart* chart, const char* text)
+{
+    const unsigned char* data = NULL;
+    size_t size = 0;
+    size_t at = 0;
+    const size_t length = strlen(text);
+    CHECK(tovangl_chart_render_svg(chart, 300, 200, &data, &size) == TOVANGL_OK);
+    while (at + length <= size && memcmp(data + at, text, length) != 0)
+        ++at;
+    return at + length <= size;
+}
+
+static void links_may_come_one_by_one_or_together(void)
+{
+    const size_t offsets[] = {0, 6, 6, 12};
+    tovangl_chart* chart = make_filled_chart(TOVANGL_PIE);
+    CHECK(!shows(chart, "href="));
+    CHECK(tovangl_chart_set_link(chart, 1, "food") == TOVANGL_OK);
+    CHECK(shows(chart, "href=\"food\""));
+    CHECK(tovangl_chart_set_links(chart, 3, "#rent,#books", 12, offsets) == TOVANGL_OK);
+    CHECK(shows(chart, "href=\"#rent,\""));
+    CHECK(shows(chart, "href=\"#books\""));
+    CHECK(!shows(chart, "href=\"food\""));
+    tovangl_chart_destroy(chart);
+}
+
+static void one_wrong_link_keeps_all_others_out(void)
+{
+    const size_t cut[] = {0, 4, 8};
+    const size_t falling[] = {0, 4, 3};
+    tovangl_chart* chart = make_filled_chart(TOVANGL_BARS);
+    CHECK(tovangl_chart_set_links(chart, 2, "rentjs:x", 8, cut) == TOVANGL_BAD_ARGUMENT);
+    CHECK_TEXT(tovangl_chart_error(chart), "item 1: the address is none that a link can have");
+    CHECK(tovangl_chart_set_links(chart, 2, "renta\0bc", 8, cut) == TOVANGL_BAD_ARGUMENT);
+    CHECK(tovangl_chart_set_links(chart, 2, "rent\xff\xfe//", 8, cut) == TOVANGL_NOT_UTF8);
+    CHECK_TEXT(tovangl_chart_error(chart), "item 1: the address is not UTF-8");
+    CHECK(tovangl_chart_set_links(chart, 2, "rentfood", 8, falling) == TOVANGL_BAD_ARGUMENT);
+    CHECK(tovangl_chart_set_links(chart, 2, "rentfood", 7, cut) == TOVANGL_BAD_ARGUMENT);
+    CHECK(tovangl_chart_set_link(chart, 1, "js:x") == TOVANGL_BAD_ARGUMENT);
+    CHECK(!shows(chart, "href="));
+    tovangl_chart_destroy(chart);
+}
+
+static void there_are_no_more_links_than_items(void)
+{
+    const size_t offsets[] = {0, 1, 2, 3, 4};
+    tovangl_chart* chart = make_filled_chart(TOVANGL_HBARS);
+    CHECK(tovangl_chart_set_links(chart, 4, "abcd", 4, offsets) == TOVANGL_BAD_ARGUMENT);
+    CHECK_TEXT(tovangl_chart_error(chart), "there are more addresses than items");
+    CHECK(tovangl_chart_set_link(chart, 3, "d") == TOVANGL_BAD_ARGUMENT);
+    CHECK(tovangl_chart_set_links(chart, 3, NULL, 3, offsets) == TOVANGL_NULL_ARGUMENT);
+    CHECK(tovangl_chart_set_links(chart, 3, "abc", 3, NULL) == TOVANGL_NULL_ARGUMENT);
+    CHECK(tovangl_chart_set_link(chart, 0, NULL) == TOVANGL_NULL_ARGUMENT);
+    CHECK(tovangl_chart_set_links(chart, 0, NULL, 0, NULL) == TOVANGL_OK);
+    CHECK(tovangl_chart_set_links(NULL, 0, NULL, 0, NULL) == TOVANGL_NULL_ARGUMENT);
+    tovangl_chart_destroy(chart);
+}
+
 static void clearing_leaves_no_item(void)
 {
     tovangl_chart* chart = make_filled_chart(TOVANGL_PIE);
@@ -152,5 +211,8 @@ const struct c_test item_tests[] = {
     {"offsets that do not cut the text are refused", offsets_that_do_not_cut_the_text_are_refused},
     {"columns that are null are refused unless they are empty",
      columns_that_are_null_are_refused_unless_they_are_empty},
+    {"links may come one by one or together", links_may_come_one_by_one_or_together},
+    {"one wrong link keeps all others out", one_wrong_link_keeps_all_others_out},
+    {"there are no more links than items", there_are_no_more_links_than_items},
     {"clearing leaves no item", clearing_leaves_no_item},
     END_OF_TESTS};

@@ -179,6 +179,18 @@ void addItems(HostileTable& table)
                                           offsets.data(), nullptr, nullptr) == TOVANGL_NOT_UTF8,
                 "half a character is no caption");
     });
+    addForKinds(table, "links that run scripts, of broken UTF-8, and of NULs",
+                [](const CHandle& chart) {
+                    for (const std::string& address :
+                         {std::string("javascript:alert(1)"), std::string("\xff\xed\xa0\x80"),
+                          std::string("a.html\0javascript:x", 19)}) {
+                        const std::array<std::size_t, 2> offsets = {0, address.size()};
+                        const tovangl_status status = tovangl_chart_set_links(
+                            chart.get(), 1, address.data(), address.size(), offsets.data());
+                        require(status != TOVANGL_OK, "no link leads there");
+                        checkError(chart, status);
+                    }
+                });
     addForKinds(table, "values at the ends of 64 bits", [](const CHandle& chart) {
         for (const std::int64_t value :
              {std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()})

@@ -66,7 +66,7 @@ void CChartLifeInC::live()
     addItems();
     render(PictureKind::Screen);
     render(PictureKind::Print);
-    call([this] { return tovangl_chart_set_link(m_chart, 0, "usr.html"); });
+    setLinks();
     render(PictureKind::Svg);
     render(PictureKind::Pdf);
     call([this] { return tovangl_chart_clear(m_chart); });
@@ -102,6 +102,17 @@ void CChartLifeInC::addItems()
     call([&] {
         return tovangl_chart_add_columns(m_chart, offsets.size() - 1, values.data(), text.data(),
                                          text.size(), offsets.data(), nullptr, fills.data());
+    });
+}
+
+void CChartLifeInC::setLinks()
+{
+    const std::string text = "https://example.org/usrhome.html";
+    const std::array<std::size_t, 4> offsets = {0, 23, 23, text.size()};
+    call([this] { return tovangl_chart_set_link(m_chart, 0, "usr.html"); });
+    call([&] {
+        return tovangl_chart_set_links(m_chart, offsets.size() - 1, text.data(), text.size(),
+                                       offsets.data());
     });
 }
 

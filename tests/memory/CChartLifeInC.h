@@ -56,6 +56,7 @@ private:
     static void requireSuccess(tovangl_status status);
     void applySettings();
     void addItems();
+    void setLinks();
     void render(PictureKind kind);
     tovangl_status exportPicture(PictureKind kind, std::string& png);
     void copyRegions(CRenderedChart& rendering);
