@@ -7,6 +7,7 @@
 #include "seeded_fault.h"
 #include "tovangl-chart/described_chart.h"
 
+#include <array>
 #include <nlohmann/json.hpp>
 #include <optional>
 
@@ -16,6 +17,7 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr PictureSize kSize = {80, 60};
+constexpr std::array kFormats = {PictureFormat::Png, PictureFormat::Svg, PictureFormat::Pdf};
 
 void requireSameItems(const ChartItems& items, const Json& described)
 {
@@ -23,6 +25,7 @@ void requireSameItems(const ChartItems& items, const Json& described)
     for (std::size_t i = 0; i < items.size(); ++i) {
         require(described[i]["value"] == items[i].value, "values are exact");
         require(described[i].value("caption", "") == items[i].caption, "captions are whole");
+        require(described[i].value("link", "") == items[i].link, "links are whole");
     }
 }
 
@@ -45,12 +48,12 @@ std::optional<ChartDescription> read(std::string_view json)
 }
 
 // Large pictures would only take time: they have a target of their own.
-void drawSmall(ChartDescription chart)
+void drawSmall(ChartDescription chart, PictureFormat format)
 {
     chart.size = kSize;
     chart.printFactor.reset();
     try {
-        require(!drawDescription(chart, "").png.empty(), "what is drawn has bytes");
+        require(!drawDescription(chart, format, "").picture.empty(), "what is drawn has bytes");
     } catch (const CFailure& failure) {
         require(makePrintable(failure.what()) == failure.what(), "a refusal is safe to print");
     }
@@ -66,7 +69,7 @@ void useDescription(std::string_view json)
     const Json described = Json::parse(json, nullptr, false);
     require(described.is_object(), "only a JSON object is a chart");
     requireSameItems(chart->items, described["items"]);
-    drawSmall(std::move(*chart));
+    drawSmall(std::move(*chart), kFormats[json.size() % kFormats.size()]);
 }
 
 } // namespace

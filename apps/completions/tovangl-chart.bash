@@ -8,8 +8,8 @@ _tovangl_chart() {
         --axis-title-color'
     local value='--value-axis --value-title --grid-color'
     local pie='--bold --shorten-left --keep-overlaps --without-sizes --unit --line-color'
-    local batch='-o --output --tar --frames --maps --resume --errors --jobs --longest-line --font-file
-        --help'
+    local batch='-o --output --tar --format --frames --maps --resume --errors --jobs --longest-line
+        --font-file --help'
     local axis='line labels title bold-labels bold-title prefixes hide-overlapped shift-last none'
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local words files=

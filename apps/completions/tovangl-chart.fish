@@ -51,6 +51,7 @@ complete -c tovangl-chart -n $any -l fast -d 'Save faster, in a larger file'
 
 complete -c tovangl-chart -n $batch -s o -l output -x -a '(__fish_complete_directories)' -d 'Write the pictures into this folder'
 complete -c tovangl-chart -n $batch -l tar -r -F -d 'Write one tar archive'
+complete -c tovangl-chart -n $batch -l format -x -a 'png svg pdf' -d 'Format of the pictures'
 complete -c tovangl-chart -n $batch -l frames -d 'Write to standard output, each with a header'
 complete -c tovangl-chart -n $batch -l maps -d 'Write beside each picture where each item was drawn'
 complete -c tovangl-chart -n $batch -l resume -d 'Pass over charts whose files are there'

@@ -45,7 +45,7 @@ const Setting* findSetting(std::string_view name)
 constexpr std::array kChartKeys = {chart_key::kChart,  chart_key::kId,    chart_key::kWidth,
                                    chart_key::kHeight, chart_key::kPrint, chart_key::kItems};
 constexpr std::array kItemKeys = {item_key::kValue, item_key::kCaption, item_key::kColor,
-                                  item_key::kOutline};
+                                  item_key::kOutline, item_key::kLink};
 
 template <typename Keys>
 bool isOneOf(const Keys& keys, std::string_view key)
@@ -140,7 +140,8 @@ void CDescriptionBuilder::enterItemField(std::string_view key)
     if (!m_itemKeys.emplace(key).second)
         throw CFailure(place() + ": stands there twice");
     if (!isOneOf(kItemKeys, key))
-        throw CFailure(place() + ": an item has a value, a caption, a color and an outline");
+        throw CFailure(place() +
+                       ": an item has a value, a caption, a color, an outline and a link");
 }
 
 void CDescriptionBuilder::setItemField(const FieldValue& value)
@@ -152,6 +153,8 @@ void CDescriptionBuilder::setItemField(const FieldValue& value)
         item.fill = color(value);
     else if (m_itemKey == item_key::kOutline)
         item.outline = color(value);
+    else if (m_itemKey == item_key::kLink)
+        item.link = text(value);
     else if (value.type == FieldValue::Whole)
         item.value = value.whole;
     else

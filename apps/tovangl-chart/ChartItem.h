@@ -18,6 +18,7 @@ struct ChartItem
     std::string caption;
     std::optional<Color> fill;
     std::optional<Color> outline; // only beside a fill
+    std::string link = {};        // an address that the item leads to; empty: none
 };
 
 using ChartItems = std::vector<ChartItem>;

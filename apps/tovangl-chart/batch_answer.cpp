@@ -22,9 +22,9 @@ std::string mapOf(const ChartDescription& chart, const DrawnChart& drawn, MapFor
 
 void draw(const ChartDescription& chart, const AnswerRules& rules, BatchAnswer& answer)
 {
-    DrawnChart drawn = drawDescription(chart, rules.family);
+    DrawnChart drawn = drawDescription(chart, rules.format, rules.family);
     answer.map = mapOf(chart, drawn, rules.map);
-    answer.png = std::move(drawn.png);
+    answer.picture = std::move(drawn.picture);
     answer.description = std::move(drawn.regions.description);
     answer.problem = std::move(drawn.problem);
 }

@@ -5,6 +5,7 @@
 #define TOVANGL_CHART_BATCH_ANSWER_H
 
 #include "tovangl-chart/CBoundedLines.h"
+#include "tovangl-chart/picture_format.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -25,6 +26,7 @@ enum class MapForm
 struct AnswerRules
 {
     std::string family; ///< the font's, where a chart names none; empty for the default
+    PictureFormat format = PictureFormat::Png;
     MapForm map = MapForm::None;
     bool needsId = false;
     std::size_t longestLine = 0; ///< bytes
@@ -39,7 +41,7 @@ struct BatchAnswer
     std::string id;         ///< empty: none
     std::string failure;    ///< empty, or why there is no picture
     bool isThere = false;   ///< passed over, because its files are there
-    std::string png;
+    std::string picture;
     std::string map;
     std::string description;
     std::string problem; ///< of the picture; empty where all is well

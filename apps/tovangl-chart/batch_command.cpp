@@ -27,14 +27,15 @@ constexpr const char* kExamples =
   {"chart": "bars", "id": "may", "items": [{"value": 1200, "caption": "Rent"}], "title": "May"}
 
 chart is pie, bars or hbars; id names the files; width, height and print are whole numbers. An item
-has a value, and may have a caption, a color and an outline. Every setting is a key, as in the table
-of settings. A line that is no chart gives a record on standard error, the others are drawn, and the
-exit status is 1.
+has a value, and may have a caption, a color, an outline and a link. Every setting is a key, as in the
+table of settings. A line that is no chart gives a record on standard error, the others are drawn, and
+the exit status is 1.
 
 Examples:
   tovangl-chart batch charts.jsonl -o pictures
   zcat charts.jsonl.gz | tovangl-chart batch --tar - | ssh server tar -x -C /srv/pictures
   tovangl-chart batch charts.jsonl -o pictures --maps --resume
+  tovangl-chart batch charts.jsonl -o pages --format svg
   tovangl-chart batch --frames    (for a host that writes lines and reads pictures over pipes))";
 
 constexpr int kExitErrors = 1;
@@ -46,6 +47,7 @@ struct BatchOptions
     std::string input = kStandardInput;
     std::optional<std::string> folder;
     std::optional<std::string> tar;
+    PictureFormat format = PictureFormat::Png;
     bool isFramed = false;
     bool hasMaps = false;
     bool isResumed = false;
@@ -80,25 +82,19 @@ std::size_t parseBytes(const std::string& text)
     return static_cast<std::size_t>(bytes);
 }
 
-std::string parsePath(const std::string& text)
-{
-    if (text.empty())
-        throw CFailure("the file has no name");
-    return text;
-}
-
 void addOutputOptions(CLI::App& command, BatchOptions& options)
 {
     CLI::Option* folder = addOption(command, "-o,--output", options.folder, parsePath,
                                     "Write a picture for each id into this folder")
                               ->type_name("DIR");
-    CLI::Option* tar = addOption(command, "--tar", options.tar, parsePath,
-                                 "Write the pictures into one tar archive; - is standard output")
-                           ->type_name("FILE")
-                           ->excludes(folder);
+    CLI::Option* tar =
+        addFileOption(command, "--tar", options.tar,
+                      "Write the pictures into one tar archive; - is standard output")
+            ->excludes(folder);
     CLI::Option* frames = command.add_flag(
         "--frames", options.isFramed, "Answer each line at once: a line of JSON and the picture");
     frames->excludes(folder)->excludes(tar);
+    addFormatOption(command, options.format, "Format of the pictures: png, svg or pdf [png]");
     command
         .add_flag("--maps", options.hasMaps,
                   "Write beside each picture, as JSON, where each item was drawn")
@@ -109,9 +105,8 @@ void addOutputOptions(CLI::App& command, BatchOptions& options)
 
 void addRunOptions(CLI::App& command, BatchOptions& options)
 {
-    addOption(command, "--errors", options.errors, parsePath,
-              "Write the records of lines without a picture here; - is standard output")
-        ->type_name("FILE");
+    addFileOption(command, "--errors", options.errors,
+                  "Write the records of lines without a picture here; - is standard output");
     addOption(command, "--jobs", options.jobs, parseJobs,
               "Threads that draw; by default as many as there are processors")
         ->type_name("N");
@@ -126,8 +121,8 @@ std::unique_ptr<CBatchSink> makeSink(const BatchOptions& options, AnswerRules& r
     if (options.isFramed)
         return std::make_unique<CFrameSink>();
     if (options.tar)
-        return makeTarSink(*options.tar);
-    auto folder = std::make_unique<CFolderSink>(*options.folder);
+        return makeTarSink(*options.tar, options.format);
+    auto folder = std::make_unique<CFolderSink>(*options.folder, options.format);
     if (options.isResumed)
         rules.isThere = [&sink = *folder, map = rules.map](const std::string& id) {
             return sink.has(id, map);
@@ -141,6 +136,7 @@ AnswerRules rulesOf(const BatchOptions& options)
     const std::vector<std::string> families = addFontFiles(options.fontFiles);
     if (!families.empty())
         rules.family = families.front();
+    rules.format = options.format;
     if (options.isFramed)
         rules.map = MapForm::Line;
     else if (options.hasMaps)
@@ -185,9 +181,7 @@ void addBatchCommand(CLI::App& program, int& status)
 {
     const auto options = std::make_shared<BatchOptions>();
     CLI::App* command = addChartCommand(program, kName, kDescription, kExamples);
-    addOption(*command, "FILE", options->input, parsePath,
-              "Charts, one per line; without it, standard input")
-        ->type_name("");
+    addInput(*command, options->input, "Charts, one per line; without it, standard input");
     addOutputOptions(*command, *options);
     addRunOptions(*command, *options);
     command->callback([options, &status] { status = runBatch(*options); });

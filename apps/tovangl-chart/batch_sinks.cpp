@@ -25,9 +25,25 @@ std::string makeFolder(const std::string& path)
     return path + '/';
 }
 
-// What every whole PNG file ends in: its last chunk, which is empty.
-constexpr std::string_view kPictureEnd("\0\0\0\0IEND\xae\x42\x60\x82", 12);
+// The last chunk of a PNG file, which is empty.
+constexpr std::string_view kPngEnd("\0\0\0\0IEND\xae\x42\x60\x82", 12);
+constexpr std::string_view kSvgEnd("</svg>");
+constexpr std::string_view kPdfEnd("\n%%EOF\n");
 constexpr std::string_view kMapEnd("\n}\n");
+
+// What every whole file of a format ends in.
+std::string_view pictureEnd(PictureFormat format)
+{
+    switch (format) {
+    case PictureFormat::Svg:
+        return kSvgEnd;
+    case PictureFormat::Pdf:
+        return kPdfEnd;
+    case PictureFormat::Png:
+        break;
+    }
+    return kPngEnd;
+}
 
 // After a failure of the machine, a file can be there without its bytes.
 bool endsIn(const std::string& path, std::string_view end)
@@ -49,7 +65,7 @@ std::string frameHeader(const BatchAnswer& answer)
 {
     const std::string& problem = answer.failure.empty() ? answer.problem : answer.failure;
     return "{\"line\":" + std::to_string(answer.line) + ",\"id\":" + textOrNull(answer.id) +
-           ",\"bytes\":" + std::to_string(answer.png.size()) +
+           ",\"bytes\":" + std::to_string(answer.picture.size()) +
            ",\"regions\":" + (answer.map.empty() ? "null" : answer.map) +
            ",\"description\":" + textOrNull(answer.description) +
            ",\"problem\":" + textOrNull(problem) + "}\n";
@@ -57,9 +73,9 @@ std::string frameHeader(const BatchAnswer& answer)
 
 } // namespace
 
-std::string pictureName(const std::string& id)
+std::string pictureName(const std::string& id, PictureFormat format)
 {
-    return id + ".png";
+    return id + '.' + formatName(format);
 }
 
 std::string mapName(const std::string& id)
@@ -67,8 +83,9 @@ std::string mapName(const std::string& id)
     return id + ".json";
 }
 
-CFolderSink::CFolderSink(const std::string& path)
+CFolderSink::CFolderSink(const std::string& path, PictureFormat format)
     : m_path(makeFolder(path))
+    , m_format(format)
 {
     if (::access(m_path.c_str(), W_OK | X_OK) != 0)
         throw systemFailure(path);
@@ -81,7 +98,7 @@ void CFolderSink::put(const BatchAnswer& answer)
         return;
     if (!answer.map.empty())
         write(mapName(answer.id), answer.map);
-    write(pictureName(answer.id), answer.png);
+    write(pictureName(answer.id, m_format), answer.picture);
 }
 
 void CFolderSink::finish()
@@ -92,7 +109,7 @@ void CFolderSink::finish()
 
 bool CFolderSink::has(const std::string& id, MapForm map) const
 {
-    return endsIn(m_path + pictureName(id), kPictureEnd) &&
+    return endsIn(m_path + pictureName(id, m_format), pictureEnd(m_format)) &&
            (map == MapForm::None || endsIn(m_path + mapName(id), kMapEnd));
 }
 
@@ -112,7 +129,7 @@ CFrameSink::CFrameSink()
 // In one piece, which a host can read at once.
 void CFrameSink::put(const BatchAnswer& answer)
 {
-    m_output.write(frameHeader(answer) + answer.png);
+    m_output.write(frameHeader(answer) + answer.picture);
 }
 
 void CFrameSink::finish()

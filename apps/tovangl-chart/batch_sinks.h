@@ -13,7 +13,7 @@
 namespace tovangl::program {
 
 /// The names of a chart's files.
-[[nodiscard]] std::string pictureName(const std::string& id);
+[[nodiscard]] std::string pictureName(const std::string& id, PictureFormat format);
 [[nodiscard]] std::string mapName(const std::string& id);
 
 /// A folder with a file for each picture and map, each there as a whole or not at all.
@@ -21,7 +21,7 @@ class CFolderSink : public CBatchSink
 {
 public:
     /// @param path  is made if it is not there
-    explicit CFolderSink(const std::string& path);
+    CFolderSink(const std::string& path, PictureFormat format);
 
     void put(const BatchAnswer& answer) override;
     /// Waits until all files survive a failure of the machine. Once at the end, because each file
@@ -35,6 +35,7 @@ private:
     void write(const std::string& name, const std::string& bytes) const;
 
     std::string m_path; // ends in a slash
+    PictureFormat m_format;
 };
 
 /// Standard output: for each line a header in one line of JSON, and the bytes of the picture.
@@ -53,7 +54,8 @@ private:
 /// A tar archive with the files that a folder would have.
 ///
 /// @param path  "-" is standard output
-[[nodiscard]] std::unique_ptr<CBatchSink> makeTarSink(const std::string& path);
+[[nodiscard]] std::unique_ptr<CBatchSink> makeTarSink(const std::string& path,
+                                                      PictureFormat format);
 
 } // namespace tovangl::program
 

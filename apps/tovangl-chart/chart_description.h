@@ -41,6 +41,7 @@ inline constexpr const char* kValue = "value";
 inline constexpr const char* kCaption = "caption";
 inline constexpr const char* kColor = "color";
 inline constexpr const char* kOutline = "outline";
+inline constexpr const char* kLink = "link";
 } // namespace item_key
 
 /// The longest side of a picture, and the greatest factor for print.
@@ -65,9 +66,9 @@ struct ChartDescription
 /// Reads a chart: {"chart": "pie", "items": [{"value": 1200, "caption": "Rent"}], "title": "May"}.
 ///
 /// Every setting of the library's table is a key: true or false for a Boolean, a number for a Whole
-/// and a Real, and text for all others. What a text may be is the chart's affair. Throws CFailure
-/// with the place as a JSON pointer, and the reason: /items/3/value: 1.5 is not a whole number of
-/// 64 bits.
+/// and a Real, and text for all others. What a text or a link may be is the chart's affair. Throws
+/// CFailure with the place as a JSON pointer, and the reason: /items/3/value: 1.5 is not a whole
+/// number of 64 bits.
 [[nodiscard]] ChartDescription parseDescription(std::string_view json);
 
 } // namespace tovangl::program

@@ -5,6 +5,7 @@
 #include "common/font_files.h"
 #include "common/output_files.h"
 #include "tovangl-chart/chart_page.h"
+#include "tovangl-chart/picture_rendering.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -14,7 +15,6 @@ namespace tovangl::program {
 
 namespace {
 
-constexpr int kPixelsPerPoint = 4; // of a PDF page, in which its regions are given
 constexpr int kUsualDensity = 2; // picture pixels for each pixel of a page, on most dense displays
 
 /// The pictures of a run.
@@ -110,22 +110,11 @@ void checkFormats(const CommonOptions& options)
 }
 
 /// Empty if there is no picture.
-std::string renderPicture(Graph& chart, const CommonOptions& options, PictureFormat format,
-                          int scale)
+std::string renderScaled(Graph& chart, const CommonOptions& options, PictureFormat format,
+                         int scale)
 {
-    unsigned char* bytes = nullptr;
-    int size = 0;
     chart.setScale(scale);
-    if (format == PictureFormat::Svg)
-        chart.createSvg(options.size.width, options.size.height, &bytes, &size);
-    else if (format == PictureFormat::Pdf)
-        chart.createPdf(options.size.width, options.size.height, &bytes, &size);
-    else if (options.printFactor)
-        chart.createPixmapForPrinter(options.size.width, options.size.height, *options.printFactor,
-                                     &bytes, &size);
-    else
-        chart.createPixmap(options.size.width, options.size.height, &bytes, &size);
-    return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
+    return renderPicture(chart, format, options.size, options.printFactor);
 }
 
 /// The picture that a page shows on dense displays. Nobody misses one that was not asked for: a
@@ -135,7 +124,7 @@ std::optional<DensePicture> renderDense(Graph& chart, const CommonOptions& optio
     const int scale = givenScale(options).value_or(kUsualDensity);
     if (!makesPage(options) || options.isPageSvg || options.printFactor || scale == 1)
         return std::nullopt;
-    std::string png = renderPicture(chart, options, PictureFormat::Png, scale);
+    std::string png = renderScaled(chart, options, PictureFormat::Png, scale);
     if (png.empty() && givenScale(options))
         throw noPicture(chart, options);
     return png.empty() ? std::nullopt : std::optional(DensePicture{std::move(png), scale});
@@ -149,7 +138,7 @@ std::string renderSeparate(Graph& chart, const CommonOptions& options)
     if (pictureOutput(options).empty() || !isAnother)
         return {};
     std::string picture =
-        renderPicture(chart, options, givenFormat(options), givenScale(options).value_or(1));
+        renderScaled(chart, options, givenFormat(options), givenScale(options).value_or(1));
     if (picture.empty())
         throw noPicture(chart, options);
     return picture;
@@ -173,26 +162,17 @@ Pictures renderPictures(Graph& chart, std::size_t items, const CommonOptions& op
         options.isPageSvg && givenValue(options.settings, "follow_display") == "true";
     if (options.isPageSvg)
         linkItems(chart, items);
-    pictures.shown = renderPicture(chart, options, pictures.shownFormat, shownScale(options));
+    pictures.shown = renderScaled(chart, options, pictures.shownFormat, shownScale(options));
     if (pictures.shown.empty())
         throw noPicture(chart, options);
     return pictures;
 }
 
-ChartRegions captionRegions(Graph& chart, const char* kind, const CommonOptions& options)
+/// In pixels of the shown picture.
+PictureSize shownSize(const CommonOptions& options)
 {
-    ChartRegions regions;
-    regions.kind = kind;
-    regions.description = chart.describe();
-    regions.size.width = options.size.width * shownScale(options);
-    regions.size.height = options.size.height * shownScale(options);
-    regions.title = givenValue(options.settings, "title").value_or("");
-    regions.titleRectangle = chart.titleRectangle();
-    regions.captions = *chart.getRectangle();
-    const std::string others = givenValue(options.settings, "others").value_or("");
-    if (!others.empty())
-        regions.others = OthersItem{others, chart.othersCount(), chart.othersValue()};
-    return regions;
+    const int scale = shownScale(options);
+    return {options.size.width * scale, options.size.height * scale};
 }
 
 std::string pageTitle(const ChartRegions& regions, const CommonOptions& options)
@@ -260,7 +240,7 @@ void drawChart(Graph& chart, const char* kind, const ChartItems& items,
                const CommonOptions& options, const AddShapes& addShapes)
 {
     const Pictures pictures = renderPictures(chart, items.size(), options);
-    ChartRegions regions = captionRegions(chart, kind, options);
+    ChartRegions regions = captionRegions(chart, kind, shownSize(options), options.settings);
     addShapes(regions);
     writeChart(pictures, items, regions, options);
     tellProblem(chart, options);

@@ -9,29 +9,18 @@ namespace tovangl::program {
 
 namespace {
 
-std::string parsePath(const std::string& text)
-{
-    if (text.empty())
-        throw CFailure("the file has no name");
-    return text;
-}
-
 void addFileOptions(CLI::App& command, CommonOptions& options)
 {
-    addOption(command, "FILE", options.input.path, parsePath,
-              "Items, one per line; without it, standard input")
-        ->type_name("");
+    addInput(command, options.input.path, "Items, one per line; without it, standard input");
     addCsvOptions(command, options.input);
-    addOption(command, "-o,--output", options.output, parsePath,
-              "Write the picture here; without it, to standard output or into the page of --map")
-        ->type_name("FILE");
-    addOption(command, "--format", options.format, parsePictureFormat,
-              "Format of the picture: png, svg or pdf [by the name of FILE, or png]")
-        ->type_name("NAME");
-    addOption(command, "--map", options.map, parsePath,
-              "Write where each item was drawn: a page with the picture and its regions "
-              "if FILE ends in .html, JSON otherwise")
-        ->type_name("FILE");
+    addFileOption(
+        command, "-o,--output", options.output,
+        "Write the picture here; without it, to standard output or into the page of --map");
+    addFormatOption(command, options.format,
+                    "Format of the picture: png, svg or pdf [by the name of FILE, or png]");
+    addFileOption(command, "--map", options.map,
+                  "Write where each item was drawn: a page with the picture and its regions "
+                  "if FILE ends in .html, JSON otherwise");
     command.add_flag("--svg", options.isPageSvg, "Put the picture into the page of --map as SVG");
 }
 

@@ -54,6 +54,28 @@ CLI::Option* addOption(CLI::App& command, const std::string& name, Target& targe
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
 }
 
+/// The file that the command reads.
+template <typename Path>
+void addInput(CLI::App& command, Path& path, const std::string& help)
+{
+    addOption(command, "FILE", path, parsePath, help)->type_name("");
+}
+
+/// An option with the name of a file.
+template <typename Path>
+CLI::Option* addFileOption(CLI::App& command, const std::string& name, Path& path,
+                           const std::string& help)
+{
+    return addOption(command, name, path, parsePath, help)->type_name("FILE");
+}
+
+/// The option --format.
+template <typename Format>
+void addFormatOption(CLI::App& command, Format& format, const std::string& help)
+{
+    addOption(command, "--format", format, parsePictureFormat, help)->type_name("NAME");
+}
+
 } // namespace tovangl::program
 
 #endif

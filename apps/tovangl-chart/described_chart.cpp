@@ -3,18 +3,15 @@
 #include "tovangl-chart/described_chart.h"
 
 #include "common/CFailure.h"
+#include "common/text_checks.h"
 #include "tovangl-chart/chart_items.h"
+#include "tovangl-chart/picture_rendering.h"
 #include <tovangl/HorizontalBarGraph.h>
 #include <tovangl/VerticalBarGraph.h>
 
 namespace tovangl::program {
 
 namespace {
-
-std::string settingOf(const ChartDescription& description, const char* name)
-{
-    return givenValue(description.settings, name).value_or("");
-}
 
 void applyDescribed(Graph& chart, const GivenSettings& given)
 {
@@ -25,44 +22,45 @@ void applyDescribed(Graph& chart, const GivenSettings& given)
     }
 }
 
-std::string renderPng(Graph& chart, const ChartDescription& description)
+std::string linkPlace(std::size_t item)
 {
-    const PictureSize size = description.size;
-    unsigned char* bytes = nullptr;
-    int count = 0;
-    if (description.printFactor)
-        chart.createPixmapForPrinter(size.width, size.height, *description.printFactor, &bytes,
-                                     &count);
-    else
-        chart.createPixmap(size.width, size.height, &bytes, &count);
-    if (count == 0)
-        throw CFailure("no picture: " + chart.problemText());
-    return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(count)};
+    return std::string("/") + chart_key::kItems + '/' + std::to_string(item) + '/' +
+           item_key::kLink;
 }
 
-// How many pixels of the picture there are for each pixel of the size.
-int pictureScale(const ChartDescription& description)
+void setLinks(Graph& chart, const ChartItems& items)
 {
-    if (description.printFactor)
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (!items[i].link.empty() && !chart.setLink(i, items[i].link))
+            throw CFailure(linkPlace(i) + ": " + quote(items[i].link) +
+                           " is not an address of http:, https: or mailto:, or of a place "
+                           "relative to the page");
+    }
+}
+
+std::string render(Graph& chart, const ChartDescription& description, PictureFormat format)
+{
+    std::string picture = renderPicture(chart, format, description.size, description.printFactor);
+    if (picture.empty())
+        throw CFailure("no picture: " + chart.problemText());
+    return picture;
+}
+
+// How many pixels of the regions there are for each pixel or point of the size.
+int regionScale(const ChartDescription& description, PictureFormat format)
+{
+    if (format == PictureFormat::Pdf)
+        return kPixelsPerPoint;
+    if (format == PictureFormat::Png && description.printFactor)
         return *description.printFactor;
     const std::optional<std::string> scale = givenValue(description.settings, "scale");
     return scale ? parseWhole(*scale) : 1;
 }
 
-ChartRegions commonRegions(Graph& chart, const ChartDescription& description)
+PictureSize regionSize(const ChartDescription& description, PictureFormat format)
 {
-    const int scale = pictureScale(description);
-    ChartRegions regions;
-    regions.kind = description.kind.name;
-    regions.description = chart.describe();
-    regions.size = {description.size.width * scale, description.size.height * scale};
-    regions.title = settingOf(description, "title");
-    regions.titleRectangle = chart.titleRectangle();
-    regions.captions = *chart.getRectangle();
-    const std::string others = settingOf(description, "others");
-    if (!others.empty())
-        regions.others = OthersItem{others, chart.othersCount(), chart.othersValue()};
-    return regions;
+    const int scale = regionScale(description, format);
+    return {description.size.width * scale, description.size.height * scale};
 }
 
 void addShapes(PieGraph& chart, ChartRegions& regions)
@@ -77,16 +75,19 @@ void addShapes(BarChart& chart, ChartRegions& regions)
 }
 
 template <typename Chart>
-DrawnChart draw(const ChartDescription& description, const std::string& family)
+DrawnChart draw(const ChartDescription& description, PictureFormat format,
+                const std::string& family)
 {
     Chart chart(false);
     if (!family.empty())
         chart.setByName("font", family);
     applyDescribed(chart, description.settings);
     addItems(chart, description.items);
+    setLinks(chart, description.items);
     DrawnChart drawn;
-    drawn.png = renderPng(chart, description);
-    drawn.regions = commonRegions(chart, description);
+    drawn.picture = render(chart, description, format);
+    drawn.regions = captionRegions(chart, description.kind.name, regionSize(description, format),
+                                   description.settings);
     addShapes(chart, drawn.regions);
     drawn.problem = chart.problemText();
     return drawn;
@@ -94,13 +95,14 @@ DrawnChart draw(const ChartDescription& description, const std::string& family)
 
 } // namespace
 
-DrawnChart drawDescription(const ChartDescription& description, const std::string& family)
+DrawnChart drawDescription(const ChartDescription& description, PictureFormat format,
+                           const std::string& family)
 {
     if (description.kind.bit == Setting::VerticalBars)
-        return draw<VerticalBarGraph>(description, family);
+        return draw<VerticalBarGraph>(description, format, family);
     if (description.kind.bit == Setting::HorizontalBars)
-        return draw<HorizontalBarGraph>(description, family);
-    return draw<PieGraph>(description, family);
+        return draw<HorizontalBarGraph>(description, format, family);
+    return draw<PieGraph>(description, format, family);
 }
 
 } // namespace tovangl::program

@@ -17,6 +17,9 @@ using Json = nlohmann::ordered_json;
 constexpr int kIndent = 2;
 constexpr const char* kColorPattern = "^#[0-9a-fA-F]{6}$";
 constexpr const char* kColorOrDefaultPattern = "^(#[0-9a-fA-F]{6}|default)$";
+// As far as a pattern can tell: one of three schemes, or none; not two slashes, nor white space.
+constexpr const char* kLinkPattern =
+    R"(^(?![/\\]{2})([hH][tT][tT][pP][sS]?:|[mM][aA][iI][lL][tT][oO]:|(?![^:/\\?#]*:))\S*$)";
 constexpr const char* kPictureColorPattern = "^(#[0-9a-fA-F]{6}|transparent|default)$";
 
 Json textSchema(const char* description)
@@ -28,6 +31,13 @@ Json colorSchema(const char* description)
 {
     Json schema = textSchema(description);
     schema["pattern"] = kColorPattern;
+    return schema;
+}
+
+Json linkSchema()
+{
+    Json schema = textSchema("An address that the bar or slice leads to in an SVG picture.");
+    schema["pattern"] = kLinkPattern;
     return schema;
 }
 
@@ -73,6 +83,7 @@ Json itemSchema()
     fields[item_key::kCaption] = textSchema("Beside the bar or slice.");
     fields[item_key::kColor] = colorSchema("Of the bar or slice; by default of the palette.");
     fields[item_key::kOutline] = colorSchema("Of a bar, beside a color.");
+    fields[item_key::kLink] = linkSchema();
     schema["required"] = {item_key::kValue};
     schema["dependentRequired"] = {{item_key::kOutline, Json::array({item_key::kColor})}};
     schema["additionalProperties"] = false;

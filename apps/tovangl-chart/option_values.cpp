@@ -104,6 +104,13 @@ std::string parseText(std::string_view text)
     return std::string(text);
 }
 
+std::string parsePath(std::string_view text)
+{
+    if (text.empty())
+        throw CFailure("the file has no name");
+    return std::string(text);
+}
+
 PictureSize parseSize(std::string_view text)
 {
     const std::array<int, 2> sides = parsePair(text, 'x', "a size such as 800x600");

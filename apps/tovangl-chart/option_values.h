@@ -31,6 +31,9 @@ struct PictureSize
 /// Any text in UTF-8.
 [[nodiscard]] std::string parseText(std::string_view text);
 
+/// The name of a file, which is not empty.
+[[nodiscard]] std::string parsePath(std::string_view text);
+
 /// "800x600"
 [[nodiscard]] PictureSize parseSize(std::string_view text);
 

@@ -11,13 +11,25 @@ namespace tovangl::program {
 
 PictureFormat parsePictureFormat(std::string_view text)
 {
-    if (text == "png")
-        return PictureFormat::Png;
-    if (text == "svg")
-        return PictureFormat::Svg;
-    if (text == "pdf")
-        return PictureFormat::Pdf;
+    for (const PictureFormat format :
+         {PictureFormat::Png, PictureFormat::Svg, PictureFormat::Pdf}) {
+        if (text == formatName(format))
+            return format;
+    }
     throw CFailure("\"" + std::string(text) + "\" is not a format: png, svg or pdf");
+}
+
+const char* formatName(PictureFormat format)
+{
+    switch (format) {
+    case PictureFormat::Svg:
+        return "svg";
+    case PictureFormat::Pdf:
+        return "pdf";
+    case PictureFormat::Png:
+        break;
+    }
+    return "png";
 }
 
 PictureFormat formatOfName(std::string_view name)

@@ -15,8 +15,14 @@ enum class PictureFormat
     Pdf
 };
 
+/// The regions of a PDF page are given in pixels, of which a point has so many each way.
+inline constexpr int kPixelsPerPoint = 4;
+
 /// Reads "png", "svg" or "pdf".
 [[nodiscard]] PictureFormat parsePictureFormat(std::string_view text);
+
+/// The name that parsePictureFormat() reads, which is also the ending of such files.
+[[nodiscard]] const char* formatName(PictureFormat format);
 
 /// The format that a file of that name has: SVG or PDF if it ends in ".svg" or ".pdf", in upper or
 /// lower case.

@@ -59,8 +59,9 @@ private:
 class CTarSink : public CBatchSink
 {
 public:
-    explicit CTarSink(const std::string& path)
+    CTarSink(const std::string& path, PictureFormat format)
         : m_name(path)
+        , m_format(format)
         , m_file(path)
         , m_archive(::archive_write_new(), &::archive_write_free)
         , m_entry(::archive_entry_new(), &::archive_entry_free)
@@ -81,7 +82,7 @@ public:
     {
         if (!answer.failure.empty())
             return;
-        add(pictureName(answer.id), answer.png);
+        add(pictureName(answer.id, m_format), answer.picture);
         if (!answer.map.empty())
             add(mapName(answer.id), answer.map);
     }
@@ -130,6 +131,7 @@ private:
     }
 
     std::string m_name;
+    PictureFormat m_format;
     CArchiveFile m_file;
     std::exception_ptr m_failure;
     bool m_isBrokenOff = false;
@@ -139,10 +141,10 @@ private:
 
 } // namespace
 
-std::unique_ptr<CBatchSink> makeTarSink(const std::string& path)
+std::unique_ptr<CBatchSink> makeTarSink(const std::string& path, PictureFormat format)
 {
     refuseTerminal(path);
-    return std::make_unique<CTarSink>(path);
+    return std::make_unique<CTarSink>(path, format);
 }
 
 } // namespace tovangl::program

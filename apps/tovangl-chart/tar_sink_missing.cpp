@@ -5,7 +5,7 @@
 
 namespace tovangl::program {
 
-std::unique_ptr<CBatchSink> makeTarSink(const std::string& /*path*/)
+std::unique_ptr<CBatchSink> makeTarSink(const std::string& /*path*/, PictureFormat /*format*/)
 {
     throw CFailure("--tar: this program was built without libarchive; install the package "
                    "libarchive-dev and build it again");

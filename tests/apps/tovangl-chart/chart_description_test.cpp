@@ -88,6 +88,12 @@ TEST(ChartDescription, HasColorsOfItems)
     EXPECT_EQ(chart.items[0].outline->blue, 3);
 }
 
+TEST(ChartDescription, HasLinksOfItems)
+{
+    EXPECT_EQ(onlyItem(R"({"value": 1, "link": "a.html"})").link, "a.html");
+    EXPECT_THAT(onlyItem(R"({"value": 1})").link, IsEmpty());
+}
+
 TEST(ChartDescription, KeepsSettingsAsTheLibraryReadsThem)
 {
     const ChartDescription chart = parseDescription(pieWith(
@@ -205,6 +211,8 @@ INSTANTIATE_TEST_SUITE_P(
                        "/items/0/value: an array is not a whole number"},
         BadDescription{"Caption", pieOf(R"({"value": 1, "caption": 1})"),
                        "/items/0/caption: 1 is not a text"},
+        BadDescription{"Link", pieOf(R"({"value": 1, "link": null})"),
+                       "/items/0/link: null is not a text"},
         BadDescription{"Color", pieOf(R"({"value": 1, "color": "red"})"),
                        "/items/0/color: \"red\" is not a colour"},
         BadDescription{"UnknownKey", pieOf(R"({"value": 1, "name": "x"})"),

@@ -11,13 +11,14 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 using ::testing::ThrowsMessage;
 
-DrawnChart drawn(const std::string& json)
+DrawnChart drawn(const std::string& json, PictureFormat format = PictureFormat::Png)
 {
-    return drawDescription(parseDescription(json), "");
+    return drawDescription(parseDescription(json), format, "");
 }
 
 TEST(DescribedChart, IsThePictureOfTheLibrary)
@@ -34,7 +35,7 @@ TEST(DescribedChart, IsThePictureOfTheLibrary)
     EXPECT_EQ(drawn(R"({"chart": "pie", "width": 300, "height": 200, "threshold": 5, "items": [
                         {"value": 3, "caption": "three"},
                         {"value": 2, "caption": "two", "color": "#010203"}]})")
-                  .png,
+                  .picture,
               expected);
 }
 
@@ -59,11 +60,52 @@ TEST(DescribedChart, IsMeasuredInPixelsOfThePicture)
     EXPECT_EQ(printed.regions.size.height, 600);
 }
 
+TEST(DescribedChart, IsMeasuredInPixelsOfItsFormat)
+{
+    constexpr const char* kChart = R"({"chart": "bars", "width": 300, "height": 200, "scale": 2,
+                                       "print": 3, "items": []})";
+    EXPECT_EQ(drawn(kChart, PictureFormat::Png).regions.size.width, 900);
+    EXPECT_EQ(drawn(kChart, PictureFormat::Svg).regions.size.width, 600);
+    EXPECT_EQ(drawn(kChart, PictureFormat::Pdf).regions.size.width, 1200);
+}
+
+TEST(DescribedChart, HasTheFormatThatIsAskedFor)
+{
+    constexpr const char* kChart = R"({"chart": "pie", "items": [{"value": 1, "caption": "x"}]})";
+    EXPECT_THAT(drawn(kChart, PictureFormat::Png).picture, StartsWith("\x89PNG"));
+    EXPECT_THAT(drawn(kChart, PictureFormat::Svg).picture, StartsWith("<svg "));
+    EXPECT_THAT(drawn(kChart, PictureFormat::Pdf).picture, StartsWith("%PDF-"));
+}
+
+TEST(DescribedChart, LeadsFromItsItemsToTheirLinks)
+{
+    const std::string svg = drawn(R"({"chart": "pie", "items": [
+        {"value": 1, "link": "https://example.org/?a=1&b=2"},
+        {"value": 2, "link": ""},
+        {"value": 3, "link": "#three"}]})",
+                                  PictureFormat::Svg)
+                                .picture;
+    EXPECT_THAT(svg, HasSubstr("href=\"https://example.org/?a=1&amp;b=2\""));
+    EXPECT_THAT(svg, HasSubstr("href=\"#three\""));
+    EXPECT_THAT(svg, Not(HasSubstr("href=\"\"")));
+}
+
+TEST(DescribedChart, NamesTheItemWhoseLinkIsRefused)
+{
+    for (const char* link : {"javascript:alert(1)", "//example.org", "a b", "a\\u0000b"}) {
+        const std::string chart =
+            R"({"chart": "bars", "items": [{"value": 1}, {"value": 1, "link": ")" +
+            std::string(link) + "\"}]}";
+        EXPECT_THAT([&] { drawn(chart); }, ThrowsMessage<CFailure>(StartsWith("/items/1/link: \"")))
+            << link;
+    }
+}
+
 TEST(DescribedChart, AppliesAThemeBeforeTheColorsBesideIt)
 {
     constexpr const char* kItems = R"("chart": "pie", "items": [{"value": 1, "caption": "x"}])";
     const auto chart = [&](const char* fields) {
-        return drawn(std::string("{") + kItems + ", " + fields + "}").png;
+        return drawn(std::string("{") + kItems + ", " + fields + "}").picture;
     };
     EXPECT_EQ(chart(R"("text_color": "#ff0000", "theme": "dark")"),
               chart(R"("theme": "dark", "text_color": "#ff0000")"));

@@ -27,6 +27,11 @@ const Json& schema()
     return result;
 }
 
+DrawnChart drawn(const std::string& json)
+{
+    return drawDescription(parseDescription(json), PictureFormat::Png, "");
+}
+
 TEST(DescriptionSchema, HasEverySettingAndNoOtherKeyThanTheChartsOwn)
 {
     Keys expected = {chart_key::kChart,  chart_key::kId,    chart_key::kWidth,
@@ -66,9 +71,7 @@ TEST(DescriptionSchema, HasDefaultsThatChangeNoPicture)
             if ((setting.charts & kind.bit) != 0)
                 full[setting.name] = schema()["properties"][setting.name]["default"];
         }
-        EXPECT_EQ(drawDescription(parseDescription(full.dump()), "").png,
-                  drawDescription(parseDescription(plain.dump()), "").png)
-            << kind.name;
+        EXPECT_EQ(drawn(full.dump()).picture, drawn(plain.dump()).picture) << kind.name;
     }
 }
 
@@ -86,15 +89,14 @@ TEST(DescriptionSchema, AcceptsWhatIsDrawn)
 {
     EXPECT_THAT(examples("good.jsonl"), Not(IsEmpty()));
     for (const std::string& line : examples("good.jsonl"))
-        EXPECT_NO_THROW(static_cast<void>(drawDescription(parseDescription(line), ""))) << line;
+        EXPECT_NO_THROW(static_cast<void>(drawn(line))) << line;
 }
 
 TEST(DescriptionSchema, RefusesWhatIsNotDrawn)
 {
     EXPECT_THAT(examples("bad.jsonl"), Not(IsEmpty()));
     for (const std::string& line : examples("bad.jsonl"))
-        EXPECT_THROW(static_cast<void>(drawDescription(parseDescription(line), "")), CFailure)
-            << line;
+        EXPECT_THROW(static_cast<void>(drawn(line)), CFailure) << line;
 }
 
 } // namespace

@@ -42,6 +42,12 @@ TEST(OptionValues, WholeNumbersAreDecimal)
     EXPECT_THROW((void)parseWhole("0x10"), CFailure);
 }
 
+TEST(OptionValues, AFileHasAName)
+{
+    EXPECT_EQ(parsePath(" "), " ");
+    EXPECT_THAT([] { (void)parsePath(""); }, ThrowsMessage<CFailure>("the file has no name"));
+}
+
 TEST(OptionValues, TextsAreUtf8)
 {
     EXPECT_EQ(parseText("\xc3\xa9"), "\xc3\xa9");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Batches that go wrong, and inputs that mean harm.
 #include "apps/support/batch_lines.h"
+#include "apps/support/failing_commands.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -14,24 +15,11 @@ using ::testing::Eq;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
-using ::testing::StartsWith;
 
 constexpr const char* kLine =
     R"({"chart": "pie", "id": "a", "width": 400, "height": 300, "items": [{"value": 7}]})";
 
-struct BrokenBatch
-{
-    const char* name;
-    const char* command;
-    const char* message;
-};
-
-void PrintTo(const BrokenBatch& batch, std::ostream* out)
-{
-    *out << batch.command;
-}
-
-class BrokenOff : public ::testing::TestWithParam<BrokenBatch>
+class BrokenOff : public ::testing::TestWithParam<FailingCommand>
 {};
 
 TEST_P(BrokenOff, SaysWhyInOneLine)
@@ -39,45 +27,45 @@ TEST_P(BrokenOff, SaysWhyInOneLine)
     const CTemporaryFolder folder;
     folder.write("line", kLine);
     folder.write("file", "");
-    const ShellResult result = runShell(folder, GetParam().command);
-    EXPECT_EQ(result.status, 2);
-    EXPECT_THAT(result.errors, StartsWith("tovangl-chart: "));
-    EXPECT_THAT(result.errors, HasSubstr(GetParam().message));
-    EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << result.errors;
+    expectOneLine(runShell(folder, GetParam().command), GetParam().message);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Batch, BrokenOff,
     ::testing::Values(
-        BrokenBatch{"NoPlace", "tovangl-chart batch line", "say where the pictures go"},
-        BrokenBatch{"TwoPlaces", "tovangl-chart batch line -o p --tar p.tar", "--output excludes"},
-        BrokenBatch{"ResumedTar", "tovangl-chart batch line --tar p.tar --resume",
-                    "--resume requires --output"},
-        BrokenBatch{"NoInput", "tovangl-chart batch nowhere -o p", "nowhere: No such file"},
-        BrokenBatch{"InputIsAFolder", "tovangl-chart batch . -o p", ".: Is a directory"},
-        BrokenBatch{"OutputIsAFile", "tovangl-chart batch line -o file", "file: "},
-        BrokenBatch{"PictureIsAFolder", "mkdir -p p/a.png; tovangl-chart batch line -o p",
-                    "p/a.png: Is a directory"},
-        BrokenBatch{"NoFolderOfTheErrors", "tovangl-chart batch line -o p --errors q/e",
-                    "q/e: No "},
-        BrokenBatch{"RecordsOverCharts", "tovangl-chart batch line -o p --errors ./line",
-                    "the records of --errors would replace the charts"},
-        BrokenBatch{"RecordsAmongFrames", "tovangl-chart batch line --frames --errors -",
-                    "the pictures and the records of --errors cannot go to one place"},
-        BrokenBatch{"ClosedInput", "timeout 20 tovangl-chart batch -o p <&-",
-                    "standard input: Bad file descriptor"},
-        BrokenBatch{"NoTemporaryFolder", "TMPDIR=/no tovangl-chart batch line -o p",
-                    "folder for temporary files: "},
-        BrokenBatch{"FullOutput", "tovangl-chart batch line --frames >/dev/full",
-                    "standard output: No space left"},
-        BrokenBatch{"FullErrors", "echo x | tovangl-chart batch -o p --errors /dev/full",
-                    "/dev/full: No space left"},
-        BrokenBatch{"FileSizeLimit", "ulimit -f 1; tovangl-chart batch line -o p",
-                    ": File too large"},
-        BrokenBatch{"Jobs", "tovangl-chart batch line -o p --jobs 0", "--jobs: 0 is not a number "},
-        BrokenBatch{"LongestLine", "tovangl-chart batch line -o p --longest-line x",
-                    "--longest-line: \"x\" is not a whole number"}),
-    [](const auto& info) { return info.param.name; });
+        FailingCommand{"NoPlace", "tovangl-chart batch line", "say where the pictures go"},
+        FailingCommand{"TwoPlaces", "tovangl-chart batch line -o p --tar p.tar",
+                       "--output excludes"},
+        FailingCommand{"ResumedTar", "tovangl-chart batch line --tar p.tar --resume",
+                       "--resume requires --output"},
+        FailingCommand{"NoInput", "tovangl-chart batch nowhere -o p", "nowhere: No such file"},
+        FailingCommand{"InputIsAFolder", "tovangl-chart batch . -o p", ".: Is a directory"},
+        FailingCommand{"OutputIsAFile", "tovangl-chart batch line -o file", "file: "},
+        FailingCommand{"PictureIsAFolder", "mkdir -p p/a.png; tovangl-chart batch line -o p",
+                       "p/a.png: Is a directory"},
+        FailingCommand{"NoFolderOfTheErrors", "tovangl-chart batch line -o p --errors q/e",
+                       "q/e: No "},
+        FailingCommand{"RecordsOverCharts", "tovangl-chart batch line -o p --errors ./line",
+                       "the records of --errors would replace the charts"},
+        FailingCommand{"RecordsAmongFrames", "tovangl-chart batch line --frames --errors -",
+                       "the pictures and the records of --errors cannot go to one place"},
+        FailingCommand{"ClosedInput", "timeout 20 tovangl-chart batch -o p <&-",
+                       "standard input: Bad file descriptor"},
+        FailingCommand{"NoTemporaryFolder", "TMPDIR=/no tovangl-chart batch line -o p",
+                       "folder for temporary files: "},
+        FailingCommand{"FullOutput", "tovangl-chart batch line --frames >/dev/full",
+                       "standard output: No space left"},
+        FailingCommand{"FullErrors", "echo x | tovangl-chart batch -o p --errors /dev/full",
+                       "/dev/full: No space left"},
+        FailingCommand{"FileSizeLimit", "ulimit -f 1; tovangl-chart batch line -o p",
+                       ": File too large"},
+        FailingCommand{"Jobs", "tovangl-chart batch line -o p --jobs 0",
+                       "--jobs: 0 is not a number "},
+        FailingCommand{"LongestLine", "tovangl-chart batch line -o p --longest-line x",
+                       "--longest-line: \"x\" is not a whole number"},
+        FailingCommand{"Format", "tovangl-chart batch line -o p --format gif",
+                       "--format: \"gif\" is not a format: png, svg or pdf"}),
+    caseName);
 
 TEST(BrokenBatches, AClosedPipeIsOneError)
 {

@@ -105,6 +105,19 @@ INSTANTIATE_TEST_SUITE_P(
                     "/palette: "},
         HostileLine{"ZeroInACaption",
                     [] { return pieOf(R"({"value": 1, "caption": "a\u0000b\u001b[2J"})"); }, ""},
+        HostileLine{
+            "LongLink",
+            [] { return pieOf("{\"value\": 1, \"link\": \"" + repeat("x", kMillion) + "\"}"); },
+            "/items/0/link: \\\"xxxx"},
+        HostileLine{"LinkOfAScript",
+                    [] { return pieOf(R"({"value": 1, "link": " \njavascript:x"})"); },
+                    "/items/0/link: "},
+        HostileLine{"ManyLinks",
+                    [] {
+                        const std::string item = R"({"value":1,"link":"#x"})";
+                        return pieOf(repeat(item + ',', kMillion / 10) + item);
+                    },
+                    ""},
         HostileLine{"ManyItems",
                     [] { return pieOf(repeat("{\"value\":1},", kMillion / 10) + "{\"value\":1}"); },
                     ""},

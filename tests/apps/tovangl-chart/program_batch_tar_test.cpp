@@ -21,6 +21,19 @@ TEST(TarBatch, HasTheFilesOfTheFolder)
     EXPECT_EQ(folder.read("s.tar"), folder.read("p.tar"));
 }
 
+TEST(TarBatch, HasPicturesOfTheFormat)
+{
+    const CTemporaryFolder folder;
+    for (const std::string format : {"svg", "pdf"}) {
+        runLines(folder, manyLines(3), "--format " + format + " -o " + format);
+        runLines(folder, manyLines(3), "--format " + format + " --tar p.tar");
+        EXPECT_EQ(runShell(folder, "rm -rf t; mkdir t && tar -C t -xf p.tar && diff -r t " + format)
+                      .status,
+                  0)
+            << format;
+    }
+}
+
 TEST(TarBatch, IsTheSameWithAnyNumberOfThreads)
 {
     const CTemporaryFolder folder;

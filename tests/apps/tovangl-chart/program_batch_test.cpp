@@ -22,6 +22,7 @@ using ::testing::SizeIs;
 using ::testing::StartsWith;
 
 using Json = nlohmann::json;
+
 /// All records of a text, one for each line.
 std::vector<Json> records(const std::string& text)
 {
@@ -31,6 +32,14 @@ std::vector<Json> records(const std::string& text)
         result.push_back(Json::parse(line));
     return result;
 }
+
+/// A host that keeps the program running; ask sends it the chart in "line", and waits for the
+/// answer's header.
+constexpr const char* kRunningHost =
+    "mkfifo in out\n"
+    "tovangl-chart batch --frames --jobs 4 <in >out &\n"
+    "exec 3>in 4<out\n"
+    "ask() { cat line >&3; timeout 20 head -n 1 <&4 >/dev/null; }\n";
 
 TEST(Batch, WritesAPictureForEachIdIntoANewFolder)
 {
@@ -149,12 +158,9 @@ TEST(Batch, FramesComeAtOnceWhileThePipeStaysOpen)
 {
     const CTemporaryFolder folder;
     folder.write("line", chartLine("a"));
-    const ShellResult result = runShell(
-        folder, "mkfifo in out\n"
-                "tovangl-chart batch --frames --jobs 4 <in >out &\n"
-                "exec 3>in 4<out\n"
-                "for i in 1 2 3; do cat line >&3; timeout 20 head -n 1 <&4 >/dev/null || exit 1; "
-                "echo answer; done");
+    const ShellResult result =
+        runShell(folder, std::string(kRunningHost) +
+                             "for i in 1 2 3; do ask && echo answer || exit 1; done");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output, "answer\nanswer\nanswer\n");
 }
@@ -171,15 +177,86 @@ TEST(Batch, ResumesWithoutDrawingWhatIsThere)
     EXPECT_EQ(runShell(folder, "rm */c0.png; diff -r p whole").status, 0);
 }
 
-TEST(Batch, ResumesWithFilesThatLostTheirEnd)
+class BatchFormat : public ::testing::TestWithParam<const char*>
+{};
+
+INSTANTIATE_TEST_SUITE_P(Batch, BatchFormat, ::testing::Values("png", "svg", "pdf"),
+                         [](const auto& info) { return info.param; });
+
+TEST_P(BatchFormat, IsThatOfTheCommandOfTheChart)
 {
     const CTemporaryFolder folder;
-    const std::string lines = manyLines(3);
-    runLines(folder, lines, "--maps -o whole");
-    runLines(folder, lines, "--maps -o p");
-    runShell(folder, ": >p/c0.png; truncate -s -1 p/c1.png; truncate -s -4 p/c2.json");
-    EXPECT_EQ(runLines(folder, lines, "--maps -o p --resume").status, 0);
+    const std::string format = GetParam();
+    runLines(folder, chartLine("a", R"(, "scale": 2)"), "-o p --maps --format " + format);
+    runShell(folder,
+             "echo 7 x | tovangl-chart bars --size 120x90 --scale 2 --map a.json -o a." + format);
+    EXPECT_EQ(namesIn(folder, "p"), (Names{"a." + format, "a.json"}));
+    EXPECT_EQ(folder.read("p/a." + format), folder.read("a." + format));
+    EXPECT_EQ(folder.read("p/a.json"), folder.read("a.json"));
+}
+
+TEST_P(BatchFormat, IsTheSameInFramesAndWithAnyNumberOfThreads)
+{
+    const CTemporaryFolder folder;
+    const std::string option = " --format " + std::string(GetParam());
+    const std::string lines = manyLines(20) + "oops\n";
+    runLines(folder, lines, "-o p --jobs 1" + option);
+    const std::string frames = runLines(folder, lines, "--frames --jobs 3" + option).output;
+    for (const std::string& name : namesIn(folder, "p"))
+        EXPECT_THAT(frames, HasSubstr("}\n" + folder.read("p/" + name))) << name;
+    EXPECT_THAT(namesIn(folder, "p"), SizeIs(20));
+}
+
+TEST_P(BatchFormat, IsResumedWithFilesThatLostTheirEnd)
+{
+    const CTemporaryFolder folder;
+    const std::string options = "--maps --format " + std::string(GetParam());
+    const std::string lines = manyLines(4);
+    runLines(folder, lines, options + " -o whole");
+    runLines(folder, lines, options + " -o p");
+    runShell(folder,
+             "truncate -s 0 p/c0.*[gf]; truncate -s -1 p/c1.*[gf]; truncate -s -4 p/c2.json\n"
+             "sed -i 1i. p/c3.*[gf] && cp p/c3.*[gf] whole");
+    EXPECT_EQ(runLines(folder, lines, options + " -o p --resume").status, 0);
     EXPECT_EQ(runShell(folder, "diff -r p whole").status, 0);
+}
+
+TEST(Batch, ResumesInAnotherFormatBesideTheFirst)
+{
+    const CTemporaryFolder folder;
+    runLines(folder, manyLines(2));
+    runLines(folder, manyLines(2), "-o p --resume --format svg");
+    EXPECT_EQ(namesIn(folder, "p"), (Names{"c0.png", "c0.svg", "c1.png", "c1.svg"}));
+}
+
+TEST(Batch, DrawsChartsForPrintAsShapesToo)
+{
+    const CTemporaryFolder folder;
+    runLines(folder, chartLine("a", R"(, "print": 4)"), "-o p --maps --format svg");
+    runLines(folder, chartLine("a"), "-o q --maps --format svg");
+    EXPECT_EQ(runShell(folder, "diff -r p q").status, 0);
+}
+
+TEST(Batch, LeadsFromItemsToTheirLinks)
+{
+    const CTemporaryFolder folder;
+    runLines(folder,
+             R"({"chart": "pie", "id": "a", "items": [{"value": 1, "link": "a.html?b&c"}]})",
+             "-o p --format svg");
+    EXPECT_THAT(folder.read("p/a.svg"), HasSubstr("href=\"a.html?b&amp;c\""));
+}
+
+TEST(Batch, ALinkThatRunsAScriptCostsOnlyItsLine)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result =
+        runLines(folder, R"({"chart": "pie", "id": "a", "items": [{"value": 1, "link": "js:x"}]})"
+                         "\n" +
+                             chartLine("b"));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(records(result.errors).at(0)["reason"].get<std::string>(),
+                StartsWith("/items/0/link: \"js:x\" is not an address"));
+    EXPECT_EQ(namesIn(folder, "p"), Names{"b.png"});
 }
 
 TEST(Batch, AKilledRunIsResumedToTheSameFiles)
@@ -205,11 +282,8 @@ TEST(Batch, EndsOnASignalWhileItWaits)
 {
     const CTemporaryFolder folder;
     folder.write("line", chartLine("a"));
-    const ShellResult result = runShell(folder, "mkfifo in out\n"
-                                                "tovangl-chart batch --frames <in >out &\n"
-                                                "exec 3>in 4<out\n"
-                                                "cat line >&3; head -n 1 <&4 >header\n"
-                                                "kill -TERM $!; wait $!");
+    const ShellResult result =
+        runShell(folder, std::string(kRunningHost) + "ask; kill -TERM $!; wait $!");
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors, "tovangl-chart: interrupted\n");
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Whatever stops the program is one line on standard error, and leaves no file behind.
-#include "apps/support/shell.h"
+#include "apps/support/failing_commands.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -11,38 +10,11 @@
 namespace tovangl::program {
 namespace {
 
-using ::testing::EndsWith;
 using ::testing::Eq;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::StartsWith;
 
 using Names = std::set<std::string>;
 
-constexpr int kFailure = 2;
 constexpr const char* kItems = "3 a\n2 b\n1 c\n";
-
-void expectOneLine(const ShellResult& result, const std::string& message)
-{
-    EXPECT_EQ(result.status, kFailure);
-    EXPECT_THAT(result.errors, StartsWith("tovangl-chart: "));
-    EXPECT_THAT(result.errors, HasSubstr(message));
-    EXPECT_THAT(result.errors, EndsWith("\n"));
-    EXPECT_EQ(std::count(result.errors.begin(), result.errors.end(), '\n'), 1) << result.errors;
-    EXPECT_THAT(result.output, IsEmpty());
-}
-
-struct FailingCommand
-{
-    const char* name;
-    const char* command;
-    const char* message;
-};
-
-void PrintTo(const FailingCommand& command, std::ostream* stream)
-{
-    *stream << command.name;
-}
 
 class Failure : public ::testing::TestWithParam<FailingCommand>
 {};
@@ -53,11 +25,6 @@ TEST_P(Failure, IsOneLineAndLeavesNoFile)
     folder.write("items", kItems);
     expectOneLine(runShell(folder, GetParam().command), GetParam().message);
     EXPECT_THAT(folder.names(), Eq(Names{"items"}));
-}
-
-std::string caseName(const ::testing::TestParamInfo<FailingCommand>& info)
-{
-    return info.param.name;
 }
 
 INSTANTIATE_TEST_SUITE_P(
