@@ -10,7 +10,7 @@ from pathlib import Path
 import pytest
 
 from setting_samples import other_value
-from tovangl import Chart, DescriptionError, bars, hbars, pie, settings
+from tovangl import Chart, DescriptionError, Item, bars, hbars, pie, settings
 
 PROGRAM = Path(os.environ["TOVANGL_BUILD"]) / "apps" / "tovangl-chart" / "tovangl-chart"
 LINES = Path(os.environ["TOVANGL_PYTHON_SOURCES"]).parents[1] / "tests" / "apps" / "descriptions"
@@ -18,7 +18,7 @@ LINES = Path(os.environ["TOVANGL_PYTHON_SOURCES"]).parents[1] / "tests" / "apps"
 
 def test_a_chart_is_one_line_with_its_settings_beside_it():
     chart = bars(
-        [("a", 1, "#ff0000", "#00ff00"), ("é\n", -2)], id="x", width=400, height=300, print=2,
+        [("a", 1, "#ff0000", "#00ff00", "#a"), ("é\n", -2)], id="x", width=400, height=300, print=2,
         title="T", background=True, scale=2, threshold=0.5, position=(60, 200),
     )  # fmt: skip
     line = chart.to_json()
@@ -30,7 +30,13 @@ def test_a_chart_is_one_line_with_its_settings_beside_it():
         "height": 300,
         "print": 2,
         "items": [
-            {"value": 1, "caption": "a", "color": "#ff0000", "outline": "#00ff00"},
+            {
+                "value": 1,
+                "caption": "a",
+                "color": "#ff0000",
+                "outline": "#00ff00",
+                "link": "#a",
+            },
             {"value": -2, "caption": "é\n"},
         ],
         "title": "T",
@@ -51,6 +57,7 @@ def test_what_is_as_in_a_new_chart_is_left_out():
         pie({}),
         hbars({"a": 2**63 - 1, "b": -(2**63), "日本": 0}, id="x", print=1),
         bars([("a", 1, "#ff0000", "#00ff00"), ("b", 2)], width=300, title='"', fast=False),
+        hbars([("a", 1, None, None, "a.html"), ("b", 2)]),
     ],
 )
 def test_a_chart_comes_back_from_its_json(chart):
@@ -126,6 +133,9 @@ def wrong_lines():
         (items('{"value": 1, "caption": 1}'), "/items/0/caption: 1 is not a text"),
         (items('{"value": 1, "color": "red"}'), "/items/0/color: the color 'red' is not #rrggbb"),
         (items('{"value": 1, "color": null}'), "/items/0/color: null is not a text"),
+        (items('{"value": 1, "link": null}'), "/items/0/link: null is not a text"),
+        (items(good, '{"value": 1, "link": "js:x"}'), "/items/1/link: the address is none "),
+        (items('{"value": 1, "link": "a\\u0000"}'), "/items/0/link: the address is none "),
         (items('{"value": 1, "outline": "#ffffff"}'), "/items/0: has an outline, but no color"),
         (
             '{"chart": "pie", "items": [{"value": 1, "color": "#ffffff", "outline": "#ffffff"}]}',
@@ -155,9 +165,10 @@ def make_answers():
     if not PROGRAM.exists():
         pytest.skip("tovangl-chart is not built")
 
-    def answers(lines):
+    def answers(lines, *options):
         text = b"".join(line.encode() + b"\n" for line in lines)
-        frames = subprocess.run([PROGRAM, "batch", "--frames"], input=text, capture_output=True)
+        command = [PROGRAM, "batch", "--frames", *options]
+        frames = subprocess.run(command, input=text, capture_output=True)
         stream = BytesIO(frames.stdout)
         while header := stream.readline():
             described = json.loads(header)
@@ -183,6 +194,15 @@ def test_a_line_of_the_program_is_the_same_chart_here(answers):
     lines = lines_of("good.jsonl")
     drawn = [png for _, png in answers(lines)]
     assert drawn == [Chart.from_json(line).render().png for line in lines]
+
+
+def test_the_program_draws_shapes_and_pages_as_they_are_here(answers):
+    lines = lines_of("good.jsonl")
+    charts = [Chart.from_json(line) for line in lines]
+    svg = [picture.decode() for _, picture in answers(lines, "--format", "svg")]
+    assert svg == [chart.render_svg().svg for chart in charts]
+    pdf = [picture for _, picture in answers(lines, "--format", "pdf")]
+    assert pdf == [chart.render_pdf().pdf for chart in charts]
 
 
 def place_in(message):
@@ -212,4 +232,4 @@ def test_the_schema_has_the_keys_of_every_chart():
     keys = json.loads(schema.read_text(encoding="utf-8"))["properties"]
     names = {setting.name for setting in settings()}
     assert set(keys) == names | {"chart", "id", "width", "height", "print", "items"}
-    assert set(keys["items"]["items"]["properties"]) == {"caption", "value", "color", "outline"}
+    assert set(keys["items"]["items"]["properties"]) == set(Item._fields)

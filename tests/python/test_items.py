@@ -35,6 +35,7 @@ class Series:
         {"a": 1, "b": 2}.items(),
         [Item("a", 1), Item("b", 2)],
         [("a", 1), ("b", 2, None)],
+        [("a", 1, None, None, None), Item("b", 2, link="")],
         Items([1, 2], ["a", "b"]),
         Items(array("q", [1, 2]), ("a", "b")),
         Items(array("i", [1, 2]), iter("ab")),
@@ -137,7 +138,7 @@ def test_a_caption_that_is_no_text_names_its_item(caption):
 
 
 @pytest.mark.parametrize(
-    "items", ["ab", b"ab", 3, None, [1, 2], ["ab"], [("a",)], [("a", 1, 2, 3, 4)]]
+    "items", ["ab", b"ab", 3, None, [1, 2], ["ab"], [("a",)], [("a", 1, None, None, None, 6)]]
 )
 def test_what_is_no_items_is_refused(items):
     with pytest.raises(TypeError):
@@ -175,17 +176,49 @@ def test_an_outline_stands_beside_a_colour_of_a_bar():
         pie([("a", 1, "#ffffff", "#ff0000")])
 
 
+def test_a_link_is_an_address_in_an_svg_picture():
+    rows = bars([Item("a", 1, link="https://example.org/?a&b"), ("b", 2)])
+    assert [item.link for item in rows.items] == ["https://example.org/?a&b", None]
+    assert 'href="https://example.org/?a&amp;b"' in rows.render_svg().svg
+    assert rows == bars(Items([1, 2], "ab", links=["https://example.org/?a&b", None]))
+    assert rows != bars({"a": 1, "b": 2})
+    assert "href=" not in bars({"a": 1, "b": 2}).render_svg().svg
+
+
+@pytest.mark.parametrize(
+    "link", ["javascript:alert(1)", "//example.org", "a b", "a.html\0", " js:x", "x" * 10_000]
+)
+def test_a_link_to_nowhere_is_refused_when_the_chart_is_drawn(link):
+    chart = bars([("a", 1), Item("b", 1, link=link)])
+    with pytest.raises(ItemError, match="item 1: the address is none that a link can have"):
+        chart.render()
+
+
+def test_a_surrogate_in_a_link_is_refused_when_the_chart_is_drawn():
+    with pytest.raises(ItemError, match="item 1: the address is not UTF-8"):
+        bars([("a", 1), Item("b", 1, link="\ud800")]).render()
+
+
+@pytest.mark.parametrize("link", [1, b"a", ["a"]])
+def test_a_link_that_is_no_text_names_its_item(link):
+    with pytest.raises(TypeError, match="item 0: the link .* is not a text"):
+        bars([Item("a", 1, link=link)])
+
+
 def test_columns_of_different_lengths_are_refused():
     with pytest.raises(ValueError, match="2 values, but a column of 3"):
         Items([1, 2], "abc")
     with pytest.raises(ValueError, match="2 values, but a column of 1"):
         Items([1, 2], "ab", ["#ffffff"])
+    with pytest.raises(ValueError, match="2 values, but a column of 1"):
+        Items([1, 2], "ab", links=["a"])
 
 
 def test_items_can_be_taken_apart_and_pickled():
     items = Items([1, 2, 3], "abc", ["#ffffff", None, None])
     assert items[-1] == Item("c", 3)
     assert items[:1] == Items([1], "a", ["#ffffff"])
+    assert Items([1, 2], "ab", links=["x", None])[:1] == Items([1], "a", links=["x"])
     assert pickle.loads(pickle.dumps(items)) == items
     assert items != [1, 2, 3]
     with pytest.raises(IndexError):

@@ -23,6 +23,19 @@ def test_results_come_in_the_order_of_the_charts(jobs):
 
 
 @pytest.mark.parametrize("jobs", JOBS)
+def test_results_have_the_format_that_is_wanted(jobs):
+    made = charts(6)
+    assert list(render_many(made, jobs, format="png")) == [chart.render() for chart in made]
+    assert list(render_many(made, jobs, format="svg")) == [chart.render_svg() for chart in made]
+    assert list(render_many(made, jobs, format="pdf")) == [chart.render_pdf() for chart in made]
+
+
+def test_another_format_is_refused_at_once():
+    with pytest.raises(ValueError, match="'gif' is not png, svg or pdf"):
+        render_many([], format="gif")
+
+
+@pytest.mark.parametrize("jobs", JOBS)
 def test_a_chart_that_fails_gives_its_error_and_the_others_go_on(jobs):
     good, bad = pie({"a": 1}), pie({"a": 1}, theme="loud")
     results = list(render_many([good, bad, "no chart", good], jobs))

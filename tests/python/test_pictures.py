@@ -123,6 +123,12 @@ def test_a_notebook_gets_an_svg_picture_with_alternative_text():
     )
 
 
+def test_a_notebook_gets_a_chart_as_svg_if_it_asks_for_that_alone():
+    chart = pie(WEEK, width=400, height=300)
+    assert chart._repr_mimebundle_({"image/svg+xml"}) == chart.render_svg()._repr_mimebundle_()
+    assert chart._repr_mimebundle_(["image/png"]) == chart.render()._repr_mimebundle_()
+
+
 def test_an_svg_picture_that_cannot_be_made_is_an_error():
     with pytest.raises(PictureError):
         pie(WEEK, width=1_000_000, height=1_000_000).render_svg()

@@ -16,6 +16,8 @@ def charts() -> List[tovangl.Chart]:
         tovangl.hbars([tovangl.Item("Rent", 1200, "#17347c")], id="may", print=4),
         tovangl.hbars(tovangl.Items(array("q", [1]), ["Rent"])),
         tovangl.pie(Counter("rent").most_common()),
+        tovangl.pie([tovangl.Item("Rent", 1200, link="rent.html"), ("Food", 430)]),
+        tovangl.pie(tovangl.Items([1, 2], ["a", "b"], links=["a.html", None])),
     ]
 
 
@@ -25,3 +27,13 @@ def areas() -> List[int]:
         if isinstance(result, tovangl.Picture):
             areas += [bar.width * bar.height for bar in result.regions.bars or [] if bar]
     return areas
+
+
+def shapes() -> List[str]:
+    results = tovangl.render_many(charts(), format="svg")
+    return [result.svg for result in results if not isinstance(result, Exception)]
+
+
+def pages() -> List[bytes]:
+    results = tovangl.render_many(charts(), jobs=1, format="pdf")
+    return [result.pdf for result in results if not isinstance(result, Exception)]

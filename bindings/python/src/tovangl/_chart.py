@@ -9,7 +9,7 @@ from typing import TYPE_CHECKING, Any, Dict, Mapping, NamedTuple, Optional, Tupl
 
 from tovangl._items import Items
 from tovangl._library import KINDS
-from tovangl._picture import PdfPicture, Picture, SvgPicture, check, new_chart
+from tovangl._picture import PNG, SVG, PdfPicture, Picture, SvgPicture, check, new_chart
 from tovangl._settings import Value, checked_settings, setting_text
 from tovangl._tovangl import ffi, lib
 
@@ -211,7 +211,9 @@ class Chart:
     def _repr_mimebundle_(
         self, include: Any = None, exclude: Any = None
     ) -> Tuple[Dict[str, Any], Dict[str, Any]]:
-        """What a notebook shows: the picture."""
+        """What a notebook shows: the picture, as SVG where that alone is wanted."""
+        if include is not None and SVG in include and PNG not in include:
+            return self.render_svg()._repr_mimebundle_(include, exclude)
         return self.render()._repr_mimebundle_(include, exclude)
 
 

@@ -9,12 +9,12 @@ from typing import Any, Callable, Dict, List, NoReturn, Optional, Tuple, Union
 
 from tovangl._chart import DEFAULT_HEIGHT, DEFAULT_WIDTH, Chart, apply_setting
 from tovangl._items import Item, Items, checked_color
-from tovangl._library import KINDS, DescriptionError
+from tovangl._library import KINDS, DescriptionError, ItemError
 from tovangl._picture import new_chart
 from tovangl._settings import checked_value, table_of
 
 _CHART_KEYS = ("chart", "id", "width", "height", "print", "items")
-_ITEM_KEYS = ("value", "caption", "color", "outline")
+_ITEM_KEYS = ("value", "caption", "color", "outline", "link")
 
 
 class _Object(Dict[str, Any]):
@@ -62,6 +62,8 @@ def _item_object(item: Item) -> Dict[str, Any]:
         entry["color"] = item.color
     if item.outline is not None:
         entry["outline"] = item.outline
+    if item.link is not None:
+        entry["link"] = item.link
     return entry
 
 
@@ -115,7 +117,7 @@ def _require_once(described: _Object, place: str) -> None:
 
 def _read_field(trial: Any, kind: str, key: str, value: Any) -> Any:
     if key == "items":
-        return _read_items(kind, value)
+        return _read_items(trial, kind, value)
     if key in _CHART_KEYS:
         return _read_chart_field(kind, key, value)
     table = table_of(kind)
@@ -145,17 +147,29 @@ def _at(place: str, make: Callable[[], Any]) -> Any:
         raise DescriptionError(f"{place}: {reason}") from None
 
 
-def _read_items(kind: str, entries: Any) -> Items:
+def _read_items(trial: Any, kind: str, entries: Any) -> Items:
     if not isinstance(entries, list):
         _refuse("/items", f"{_shown(entries)} is not an array of items")
     for place, entry in enumerate(entries):
         _require_item(kind, entry, f"/items/{place}")
-    return Items(
+    items = Items(
         [entry["value"] for entry in entries],
         [entry.get("caption", "") for entry in entries],
         [entry.get("color") for entry in entries],
         [entry.get("outline") for entry in entries],
+        [entry.get("link") for entry in entries],
     )
+    if items.has_links:
+        _require_links(trial, items)
+    return items
+
+
+def _require_links(trial: Any, items: Items) -> None:
+    try:
+        items.add_to(trial)
+    except ItemError as error:
+        item, _, reason = str(error).partition(": ")
+        _refuse(f"/items/{item.split()[-1]}/link", reason)
 
 
 def _require_item(kind: str, entry: Any, place: str) -> None:
@@ -164,12 +178,12 @@ def _require_item(kind: str, entry: Any, place: str) -> None:
     _require_once(entry, place)
     for key in entry:
         if key not in _ITEM_KEYS:
-            reason = "an item has a value, a caption, a color and an outline"
+            reason = "an item has a value, a caption, a color, an outline and a link"
             _refuse(place + _pointer_part(key), reason)
     if "value" not in entry:
         _refuse(place, "has no value")
     _require_value(entry["value"], place + "/value")
-    for key in ("caption", "color", "outline"):
+    for key in ("caption", "color", "outline", "link"):
         if key in entry and not isinstance(entry[key], str):
             _refuse(f"{place}/{key}", f"{_shown(entry[key])} is not a text")
     _require_colors(kind, entry, place)

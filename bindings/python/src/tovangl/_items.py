@@ -29,6 +29,7 @@ if TYPE_CHECKING:
         Tuple[str, SupportsIndex],
         Tuple[str, SupportsIndex, Optional[str]],
         Tuple[str, SupportsIndex, Optional[str], Optional[str]],
+        Tuple[str, SupportsIndex, Optional[str], Optional[str], Optional[str]],
     ]
     ItemsLike = Union["Items", Mapping[str, SupportsIndex], Iterable[Pair], SeriesLike]
 
@@ -38,6 +39,9 @@ _VALUE_FORMATS = ("q", "l")
 _VALUE_SIZE = 8  # bytes
 _WHOLE_FORMATS = "bBhHiIlLqQ"
 _BYTE_ORDERS = "@=<>!"
+_ROW = "(caption, value[, color[, outline[, link]]])"
+_LEAST_FIELDS = 2
+_MOST_FIELDS = 5
 _COLOR = re.compile(r"#[0-9a-fA-F]{6}")
 
 
@@ -50,6 +54,8 @@ class Item(NamedTuple):
     """Such as ``#4070c0``; None for the palette's next colour."""
     outline: Optional[str] = None
     """The same for a bar's outline, beside a color; None for one that is darker than the bar."""
+    link: Optional[str] = None
+    """An address that the item leads to in an SVG picture."""
 
 
 class Items(Sequence[Item]):
@@ -61,15 +67,17 @@ class Items(Sequence[Item]):
 
     >>> from array import array
     >>> Items(array("q", [3, 1]), ["three", "one"])[1]
-    Item(caption='one', value=1, color=None, outline=None)
+    Item(caption='one', value=1, color=None, outline=None, link=None)
 
     :param values: whole numbers from -2**63 to 2**63 - 1
     :param captions: one for each value
     :param colors: one for each value, such as ``#4070c0`` or None; or None: no colours
     :param outlines: the same for the outlines of bars
+    :param links: one for each value: an address of http:, https: or mailto:, or one that is relative
+        to the page of an SVG picture; or None
     """
 
-    __slots__ = ("_values", "_captions", "_colors", "_outlines")
+    __slots__ = ("_values", "_captions", "_colors", "_outlines", "_links")
 
     def __init__(
         self,
@@ -77,12 +85,14 @@ class Items(Sequence[Item]):
         captions: Iterable[str],
         colors: Optional[Iterable[Optional[str]]] = None,
         outlines: Optional[Iterable[Optional[str]]] = None,
+        links: Optional[Iterable[Optional[str]]] = None,
     ) -> None:
         self._values = _value_column(values)
         self._captions = _caption_column(captions)
         self._colors = None if colors is None else _color_column(colors, "color")
         self._outlines = None if outlines is None else _color_column(outlines, "outline")
-        for column in (self._captions, self._colors, self._outlines):
+        self._links = None if links is None else _link_column(links)
+        for column in (self._captions, self._colors, self._outlines, self._links):
             if column is not None and len(column) != len(self._values):
                 raise ValueError(f"{len(self._values)} values, but a column of {len(column)}")
         if self._outlines is not None:
@@ -112,15 +122,20 @@ class Items(Sequence[Item]):
             columns = tuple(zip(*rows, strict=True))
         except ValueError:
             columns = tuple(zip(*map(_full_row, rows)))
-        if rows and not 2 <= len(columns) <= 4:
-            raise TypeError(f"{rows[0]!r} is not (caption, value[, color[, outline]])")
-        captions, values, *colors = columns or ((), ())
-        return cls(values, captions, *colors)
+        if rows and not _LEAST_FIELDS <= len(columns) <= _MOST_FIELDS:
+            raise TypeError(f"{rows[0]!r} is not {_ROW}")
+        captions, values, *others = columns or ((), ())
+        return cls(values, captions, *others)
 
     @property
     def has_outlines(self) -> bool:
         """Whether an item has an outline of its own."""
         return self._outlines is not None
+
+    @property
+    def has_links(self) -> bool:
+        """Whether an item leads to an address."""
+        return self._links is not None
 
     def __len__(self) -> int:
         return len(self._captions)
@@ -134,12 +149,12 @@ class Items(Sequence[Item]):
         ...
 
     def __getitem__(self, place: Union[int, slice]) -> Union[Item, Items]:
-        columns = (self._values, self._captions, self._colors, self._outlines)
+        columns = (self._values, self._captions, self._colors, self._outlines, self._links)
         parts: List[Any] = [None if column is None else column[place] for column in columns]
         if isinstance(place, slice):
             return Items(*parts)
-        value, caption, color, outline = parts
-        return Item(caption, int(value), color, outline)
+        value, caption, *others = parts
+        return Item(caption, int(value), *others)
 
     def __iter__(self) -> Iterator[Item]:
         return map(self.__getitem__, range(len(self)))
@@ -152,14 +167,14 @@ class Items(Sequence[Item]):
     __hash__ = None  # type: ignore[assignment]
 
     def __repr__(self) -> str:
-        return f"Items.of({[tuple(item) for item in self]!r})"
+        return f"Items.of({list(map(_shortest_row, self))!r})"
 
     def __reduce__(self) -> Tuple[Any, ...]:
         return Items, self._plain()
 
     def _plain(self) -> Tuple[Any, ...]:
         values = array(_VALUE_TYPE, bytes(self._values))
-        return values, self._captions, self._colors, self._outlines
+        return values, self._captions, self._colors, self._outlines, self._links
 
     def add_to(self, chart: Any) -> None:
         """Adds the items to a chart of the library."""
@@ -174,6 +189,11 @@ class Items(Sequence[Item]):
             ffi.NULL if self._colors is None else _color_numbers(self._colors),
             ffi.NULL if self._outlines is None else _color_numbers(self._outlines),
         )
+        if status == lib.TOVANGL_OK and self._links is not None:
+            text, lengths = _joined([link or "" for link in self._links])
+            status = lib.tovangl_chart_set_links(
+                chart, len(lengths), text, len(text), [0, *accumulate(lengths)]
+            )
         if status != lib.TOVANGL_OK:
             fail(status, text_of(lib.tovangl_chart_error(chart)))
 
@@ -226,9 +246,9 @@ def _refuse_caption(captions: Sequence[Any]) -> NoReturn:
 
 
 def _full_row(row: Any) -> Tuple[Any, ...]:
-    if not 2 <= len(row) <= 4:
-        raise TypeError(f"{row!r} is not (caption, value[, color[, outline]])")
-    return (*row, None, None)[:4]
+    if not _LEAST_FIELDS <= len(row) <= _MOST_FIELDS:
+        raise TypeError(f"{row!r} is not {_ROW}")
+    return (*row, None, None, None)[:_MOST_FIELDS]
 
 
 def _color_column(
@@ -238,6 +258,24 @@ def _color_column(
     if not any(column):
         return None
     return tuple(checked_color(color, name, place) for place, color in enumerate(column))
+
+
+def _shortest_row(item: Item) -> Tuple[Any, ...]:
+    """The row without what it lacks at its end."""
+    fields = list(item)
+    while fields[-1] is None:
+        fields.pop()
+    return tuple(fields)
+
+
+def _link_column(links: Iterable[Optional[str]]) -> Optional[Tuple[Optional[str], ...]]:
+    column = tuple(links)
+    if not any(column):
+        return None
+    for place, link in enumerate(column):
+        if link is not None and not isinstance(link, str):
+            raise TypeError(f"item {place}: the link {link!r} is not a text")
+    return tuple(link or None for link in column)
 
 
 def checked_color(color: Optional[str], name: str, place: int) -> Optional[str]:

@@ -38,7 +38,7 @@ class SettingError(Error, ValueError):
 
 
 class ItemError(Error, ValueError):
-    """An item cannot be drawn: its caption cannot be written as UTF-8."""
+    """An item cannot be drawn: its caption cannot be written as UTF-8, or its link leads nowhere."""
 
 
 class PictureError(Error):
@@ -57,6 +57,7 @@ _EXCEPTIONS: Dict[int, Type[Exception]] = {
     lib.TOVANGL_NO_MEMORY: MemoryError,
     lib.TOVANGL_UNKNOWN_SETTING: SettingError,
     lib.TOVANGL_BAD_VALUE: SettingError,
+    lib.TOVANGL_BAD_ARGUMENT: ItemError,
     lib.TOVANGL_NOT_UTF8: ItemError,
     lib.TOVANGL_NO_PICTURE: PictureError,
     lib.TOVANGL_NO_FONT: FontError,

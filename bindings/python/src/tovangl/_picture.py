@@ -15,6 +15,9 @@ if TYPE_CHECKING:
 
 Record = TypeVar("Record")
 
+PNG = "image/png"
+SVG = "image/svg+xml"
+
 _CHART = ffi.typeof("tovangl_chart **")
 
 
@@ -166,7 +169,7 @@ class Picture(_Rendering):
     def _repr_mimebundle_(
         self, include: Any = None, exclude: Any = None
     ) -> Tuple[Dict[str, Any], Dict[str, Any]]:
-        return self._bundle("image/png", self.png)
+        return self._bundle(PNG, self.png)
 
 
 class SvgPicture(_Rendering):
@@ -185,7 +188,7 @@ class SvgPicture(_Rendering):
     def _repr_mimebundle_(
         self, include: Any = None, exclude: Any = None
     ) -> Tuple[Dict[str, Any], Dict[str, Any]]:
-        return self._bundle("image/svg+xml", self.svg)
+        return self._bundle(SVG, self.svg)
 
 
 class PdfPicture(_Rendering):

@@ -6,21 +6,54 @@ from __future__ import annotations
 import os
 from collections import deque
 from collections.abc import Generator, Iterable, Iterator
-from typing import TYPE_CHECKING, Deque, List, Optional, Union
+from functools import partial
+from operator import methodcaller
+from typing import TYPE_CHECKING, Any, Deque, List, Literal, Optional, Union, overload
 
 from tovangl._chart import Chart
-from tovangl._picture import Picture
+from tovangl._picture import PdfPicture, Picture, SvgPicture
 
 if TYPE_CHECKING:
+    from collections.abc import Callable
     from concurrent.futures import Future
 
-Result = Union[Picture, Exception]
-Results = Generator[Result, None, None]
+    Result = Union[Picture, SvgPicture, PdfPicture, Exception]
+    Results = Generator[Result, None, None]
+    Render = Callable[[Chart], Result]
 
 _CHARTS_AHEAD = 4  # of each thread: enough that none waits for the caller
 
+_RENDERERS = {
+    "png": methodcaller("render"),
+    "svg": methodcaller("render_svg"),
+    "pdf": methodcaller("render_pdf"),
+}
 
-def render_many(charts: Iterable[Chart], jobs: Optional[int] = None) -> Results:
+
+@overload
+def render_many(
+    charts: Iterable[Chart], jobs: Optional[int] = None, *, format: Literal["png"] = ...
+) -> Generator[Union[Picture, Exception], None, None]:
+    ...
+
+
+@overload
+def render_many(
+    charts: Iterable[Chart], jobs: Optional[int] = None, *, format: Literal["svg"]
+) -> Generator[Union[SvgPicture, Exception], None, None]:
+    ...
+
+
+@overload
+def render_many(
+    charts: Iterable[Chart], jobs: Optional[int] = None, *, format: Literal["pdf"]
+) -> Generator[Union[PdfPicture, Exception], None, None]:
+    ...
+
+
+def render_many(
+    charts: Iterable[Chart], jobs: Optional[int] = None, *, format: str = "png"
+) -> Generator[Any, None, None]:
     """Draws charts in several threads, and gives the results in the order of the charts.
 
     The result of a chart that fails is its exception, and the others go on:
@@ -36,24 +69,28 @@ def render_many(charts: Iterable[Chart], jobs: Optional[int] = None) -> Results:
     or when the iterator is closed.
 
     :param jobs: the number of threads; None: the number of processors that the process may use
+    :param format: ``png``, or ``svg`` or ``pdf`` for what Chart.render_svg() or Chart.render_pdf() gives
     """
+    if format not in _RENDERERS:
+        raise ValueError(f"{format!r} is not png, svg or pdf")
+    render = partial(_render, _RENDERERS[format])
     if jobs is None:
         jobs = len(os.sched_getaffinity(0))
     if jobs < 1:
         raise ValueError(f"{jobs} jobs draw nothing")
     if jobs == 1:
-        return (_render(chart) for chart in charts)
-    return _render_in_threads(charts, jobs)
+        return (render(chart) for chart in charts)
+    return _render_in_threads(charts, jobs, render)
 
 
-def _render(chart: Chart) -> Result:
+def _render(draw: Render, chart: Chart) -> Result:
     try:
-        return chart.render()
+        return draw(chart)
     except Exception as error:
         return error
 
 
-def _render_in_threads(charts: Iterable[Chart], jobs: int) -> Results:
+def _render_in_threads(charts: Iterable[Chart], jobs: int, render: Render) -> Results:
     from concurrent.futures import ThreadPoolExecutor
 
     pending: Deque[Future[Result]] = deque()
@@ -61,7 +98,7 @@ def _render_in_threads(charts: Iterable[Chart], jobs: int) -> Results:
     with ThreadPoolExecutor(jobs, "tovangl") as threads:
         try:
             for chart in _until_failure(charts, failures):
-                pending.append(threads.submit(_render, chart))
+                pending.append(threads.submit(render, chart))
                 if len(pending) == jobs * _CHARTS_AHEAD:
                     yield pending.popleft().result()
             while pending:
