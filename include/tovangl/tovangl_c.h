@@ -241,7 +241,8 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_add_items(tovangl_chart* chart, size
 /// @param text     all captions; a NUL inside is a character. May be null if size is 0
 /// @param size     number of bytes of the text
 /// @param offsets  count + 1 numbers: caption i reaches from offsets[i] up to, and without,
-///                 offsets[i + 1]. None is smaller than the one before, or greater than size
+///                 offsets[i + 1]. None is smaller than the one before, or greater than size. Or
+///                 null: a NUL stands between two captions, and none inside
 /// @param count, values, fills, outlines  as in tovangl_chart_add_items()
 TOVANGL_EXPORT tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, size_t count,
                                                         const int64_t* values, const char* text,
@@ -269,7 +270,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_set_link(tovangl_chart* chart, size_
 /// @param count    number of addresses, at most that of items
 /// @param text     all addresses, each as in tovangl_chart_set_link(). May be null if size is 0
 /// @param size     number of bytes of the text
-/// @param offsets  count + 1 numbers, as in tovangl_chart_add_columns()
+/// @param offsets  count + 1 numbers or null, as in tovangl_chart_add_columns()
 TOVANGL_EXPORT tovangl_status tovangl_chart_set_links(tovangl_chart* chart, size_t count,
                                                       const char* text, size_t size,
                                                       const size_t* offsets);

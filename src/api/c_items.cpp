@@ -6,6 +6,7 @@
 #include "input/link_address.h"
 #include "input/setting_values.h"
 
+#include <algorithm>
 #include <iterator>
 #include <optional>
 #include <string_view>
@@ -87,36 +88,75 @@ std::string_view toView(const char* text)
     return text ? std::string_view(text) : std::string_view();
 }
 
-// Texts that stand in one text, one behind the other, as the host has them.
-struct CTextColumn
+using TextColumn = std::vector<std::string_view>;
+
+// A text of texts, as the host has it.
+struct CJoinedTexts
 {
     const char* text;
     std::size_t size;
-    const std::size_t* offsets;
-
-    std::string_view operator()(std::size_t i) const
-    {
-        return {(text ? text : "") + offsets[i], offsets[i + 1] - offsets[i]};
-    }
+    const std::size_t* offsets; // null where a NUL stands between two texts
 };
 
 // Whether the offsets cut the text into count pieces.
-bool isCut(const CTextColumn& column, std::size_t count)
+bool areOffsets(const CJoinedTexts& joined, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i) {
-        if (column.offsets[i] > column.offsets[i + 1])
+        if (joined.offsets[i] > joined.offsets[i + 1])
             return false;
     }
-    return column.offsets[count] <= column.size;
+    return joined.offsets[count] <= joined.size;
 }
 
-COutcome checkColumn(const CTextColumn& column, std::size_t count)
+std::string_view textOf(const CJoinedTexts& joined)
 {
-    if ((count > 0 && !column.offsets) || (column.size > 0 && !column.text))
+    return {joined.text ? joined.text : "", joined.size};
+}
+
+bool areAtNuls(std::string_view text, std::size_t count)
+{
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\0')) + 1 == count;
+}
+
+// Whether there are no more and no less than count texts.
+COutcome checkCut(const CJoinedTexts& joined, std::size_t count)
+{
+    if (joined.size > 0 && !joined.text)
         return {TOVANGL_NULL_ARGUMENT};
-    if (count > 0 && !isCut(column, count))
-        return {TOVANGL_BAD_ARGUMENT, "the offsets do not cut the text into pieces"};
-    return {};
+    if (count == 0 ||
+        (joined.offsets ? areOffsets(joined, count) : areAtNuls(textOf(joined), count)))
+        return {};
+    return {TOVANGL_BAD_ARGUMENT, joined.offsets
+                                      ? "the offsets do not cut the text into pieces"
+                                      : "the NULs do not cut the text into so many pieces"};
+}
+
+TextColumn cutAtOffsets(const CJoinedTexts& joined, std::size_t count)
+{
+    TextColumn texts;
+    texts.reserve(count);
+    for (std::size_t i = 0; i < count; ++i)
+        texts.push_back(
+            textOf(joined).substr(joined.offsets[i], joined.offsets[i + 1] - joined.offsets[i]));
+    return texts;
+}
+
+TextColumn cutAtNuls(std::string_view rest, std::size_t count)
+{
+    TextColumn texts;
+    texts.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t end = std::min(rest.find('\0'), rest.size());
+        texts.push_back(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return texts;
+}
+
+// Only what checkCut() has found good is cut.
+TextColumn cut(const CJoinedTexts& joined, std::size_t count)
+{
+    return joined.offsets ? cutAtOffsets(joined, count) : cutAtNuls(textOf(joined), count);
 }
 
 COutcome checkLink(std::size_t item, std::string_view address)
@@ -129,17 +169,17 @@ COutcome checkLink(std::size_t item, std::string_view address)
 }
 
 // Gives the first items their addresses or, where one is wrong, none of them.
-COutcome setLinks(CGraph1dInput& input, std::size_t count, const CTextColumn& addresses)
+COutcome setLinks(CGraph1dInput& input, const TextColumn& addresses)
 {
-    if (count > input.items.size())
+    if (addresses.size() > input.items.size())
         return {TOVANGL_BAD_ARGUMENT, "there are more addresses than items"};
-    for (std::size_t i = 0; i < count; ++i) {
-        COutcome outcome = checkLink(i, addresses(i));
+    for (std::size_t i = 0; i < addresses.size(); ++i) {
+        COutcome outcome = checkLink(i, addresses[i]);
         if (outcome.status != TOVANGL_OK)
             return outcome;
     }
-    for (std::size_t i = 0; i < count; ++i)
-        input.setLink(i, addresses(i));
+    for (std::size_t i = 0; i < addresses.size(); ++i)
+        input.setLink(i, addresses[i]);
     return {};
 }
 
@@ -172,11 +212,13 @@ tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, size_t count, con
     return tovangl::callChart(chart, [=](tovangl_chart& target) -> tovangl::COutcome {
         if (count > 0 && !values)
             return {TOVANGL_NULL_ARGUMENT};
-        const tovangl::CTextColumn captions{text, size, offsets};
-        tovangl::COutcome outcome = tovangl::checkColumn(captions, count);
+        const tovangl::CJoinedTexts joined{text, size, offsets};
+        tovangl::COutcome outcome = tovangl::checkCut(joined, count);
         if (outcome.status != TOVANGL_OK)
             return outcome;
-        return tovangl::addItems(target, {count, values, fills, outlines}, captions);
+        const tovangl::TextColumn captions = tovangl::cut(joined, count);
+        return tovangl::addItems(target, {count, values, fills, outlines},
+                                 [&](std::size_t i) { return captions[i]; });
     });
 }
 
@@ -196,10 +238,10 @@ tovangl_status tovangl_chart_set_links(tovangl_chart* chart, size_t count, const
                                        size_t size, const size_t* offsets)
 {
     return tovangl::callChart(chart, [=](tovangl_chart& target) -> tovangl::COutcome {
-        const tovangl::CTextColumn addresses{text, size, offsets};
-        tovangl::COutcome outcome = tovangl::checkColumn(addresses, count);
+        const tovangl::CJoinedTexts joined{text, size, offsets};
+        tovangl::COutcome outcome = tovangl::checkCut(joined, count);
         if (outcome.status != TOVANGL_OK)
             return outcome;
-        return tovangl::setLinks(target.graph.input(), count, addresses);
+        return tovangl::setLinks(target.graph.input(), tovangl::cut(joined, count));
     });
 }

@@ -48,6 +48,32 @@ static void captions_may_be_cut_from_one_text(void)
     tovangl_chart_destroy(listed);
 }
 
+static void captions_may_have_a_nul_between_them(void)
+{
+    tovangl_chart* listed = make_filled_chart(TOVANGL_BARS);
+    tovangl_chart* cut = make_chart(TOVANGL_BARS);
+    CHECK(tovangl_chart_add_columns(cut, 3, values, "rent\0food\0books", 15, NULL, NULL, NULL) ==
+          TOVANGL_OK);
+    CHECK(draw_the_same(listed, cut));
+    tovangl_chart_destroy(cut);
+    tovangl_chart_destroy(listed);
+}
+
+static void other_numbers_of_nuls_are_refused(void)
+{
+    tovangl_chart* chart = make_chart(TOVANGL_PIE);
+    CHECK(tovangl_chart_add_columns(chart, 3, values, "a\0b", 3, NULL, NULL, NULL) ==
+          TOVANGL_BAD_ARGUMENT);
+    CHECK_TEXT(tovangl_chart_error(chart), "the NULs do not cut the text into so many pieces");
+    CHECK(tovangl_chart_add_columns(chart, 3, values, "a\0b\0c", 6, NULL, NULL, NULL) ==
+          TOVANGL_BAD_ARGUMENT);
+    CHECK(item_count(chart) == 0);
+    CHECK(tovangl_chart_add_columns(chart, 3, values, "\0", 2, NULL, NULL, NULL) == TOVANGL_OK);
+    CHECK(tovangl_chart_set_links(chart, 3, "\0#b", 4, NULL) == TOVANGL_OK);
+    CHECK(item_count(chart) == 3);
+    tovangl_chart_destroy(chart);
+}
+
 static void captions_of_no_text_are_empty(void)
 {
     const size_t offsets[] = {0, 0, 0, 0};
@@ -122,7 +148,7 @@ static void columns_that_are_null_are_refused_unless_they_are_empty(void)
     CHECK(tovangl_chart_add_items(chart, 3, NULL, captions, NULL, NULL) == TOVANGL_NULL_ARGUMENT);
     CHECK(tovangl_chart_add_items(chart, 3, values, NULL, NULL, NULL) == TOVANGL_NULL_ARGUMENT);
     CHECK(tovangl_chart_add_columns(chart, 3, values, "abc", 3, NULL, NULL, NULL) ==
-          TOVANGL_NULL_ARGUMENT);
+          TOVANGL_BAD_ARGUMENT);
     CHECK(tovangl_chart_add_columns(chart, 3, NULL, "abc", 3, offsets, NULL, NULL) ==
           TOVANGL_NULL_ARGUMENT);
     CHECK(tovangl_chart_add_columns(chart, 3, values, NULL, 3, offsets, NULL, NULL) ==
@@ -185,7 +211,7 @@ static void there_are_no_more_links_than_items(void)
     CHECK_TEXT(tovangl_chart_error(chart), "there are more addresses than items");
     CHECK(tovangl_chart_set_link(chart, 3, "d") == TOVANGL_BAD_ARGUMENT);
     CHECK(tovangl_chart_set_links(chart, 3, NULL, 3, offsets) == TOVANGL_NULL_ARGUMENT);
-    CHECK(tovangl_chart_set_links(chart, 3, "abc", 3, NULL) == TOVANGL_NULL_ARGUMENT);
+    CHECK(tovangl_chart_set_links(chart, 3, "abc", 3, NULL) == TOVANGL_BAD_ARGUMENT);
     CHECK(tovangl_chart_set_link(chart, 0, NULL) == TOVANGL_NULL_ARGUMENT);
     CHECK(tovangl_chart_set_links(chart, 0, NULL, 0, NULL) == TOVANGL_OK);
     CHECK(tovangl_chart_set_links(NULL, 0, NULL, 0, NULL) == TOVANGL_NULL_ARGUMENT);
@@ -204,6 +230,8 @@ static void clearing_leaves_no_item(void)
 const struct c_test item_tests[] = {
     {"items may come one by one or together", items_may_come_one_by_one_or_together},
     {"captions may be cut from one text", captions_may_be_cut_from_one_text},
+    {"captions may have a NUL between them", captions_may_have_a_nul_between_them},
+    {"other numbers of NULs are refused", other_numbers_of_nuls_are_refused},
     {"captions of no text are empty", captions_of_no_text_are_empty},
     {"an item has a colour of its own or that of the palette",
      an_item_has_a_colour_of_its_own_or_that_of_the_palette},

@@ -5,7 +5,7 @@ from __future__ import annotations
 
 import re
 from types import MappingProxyType
-from typing import TYPE_CHECKING, Any, Dict, Mapping, NamedTuple, Optional, Tuple, Union
+from typing import TYPE_CHECKING, Any, Dict, Mapping, Optional, Tuple, Union
 
 from tovangl._items import Items
 from tovangl._library import KINDS
@@ -27,14 +27,10 @@ _DATA = ffi.typeof("unsigned char **")
 _SIZE = ffi.typeof("size_t *")
 
 
-class _Fields(NamedTuple):
-    kind: str
-    items: Items
-    id: Optional[str]
-    width: int
-    height: int
-    print: Optional[int]
-    settings: Dict[str, Value]
+# A tuple with names would take a call to be made.
+_FIELDS = ("kind", "items", "id", "width", "height", "print", "settings")
+if TYPE_CHECKING:
+    _Fields = Tuple[str, Items, Optional[str], int, int, Optional[int], Dict[str, Value]]
 
 
 class Chart:
@@ -78,42 +74,42 @@ class Chart:
         if kind == "pie" and columns.has_outlines:
             raise ValueError("slices have no outlines of their own; set outline_color")
         given = checked_settings(kind, settings) if settings else settings
-        self._fields = _Fields(kind, columns, id, width, height, print, given)
+        self._fields: _Fields = (kind, columns, id, width, height, print, given)
 
     @property
     def kind(self) -> str:
         """``pie``, ``bars`` or ``hbars``."""
-        return self._fields.kind
+        return self._fields[0]
 
     @property
     def items(self) -> Items:
         """The bars or slices."""
-        return self._fields.items
+        return self._fields[1]
 
     @property
     def id(self) -> Optional[str]:
         """A name for the picture's file."""
-        return self._fields.id
+        return self._fields[2]
 
     @property
     def width(self) -> int:
         """The picture's width in pixels, before ``scale`` or ``print`` are applied."""
-        return self._fields.width
+        return self._fields[3]
 
     @property
     def height(self) -> int:
         """The same for its height."""
-        return self._fields.height
+        return self._fields[4]
 
     @property
     def print(self) -> Optional[int]:
         """For print: so many times as many pixels each way, and slices in paler colours."""
-        return self._fields.print
+        return self._fields[5]
 
     @property
     def settings(self) -> Mapping[str, Value]:
         """The settings that were given, in the order in which they are applied."""
-        return MappingProxyType(self._fields.settings)
+        return MappingProxyType(self._fields[6])
 
     def render(self) -> Picture:
         """Draws the chart.
@@ -204,9 +200,9 @@ class Chart:
 
     def _arguments(self) -> Dict[str, Any]:
         """What the constructor makes the same chart of."""
-        fields = self._fields._asdict()
-        settings = fields.pop("settings")
-        return {**fields, **settings}
+        fields = dict(zip(_FIELDS, self._fields))
+        fields.pop("settings")
+        return {**fields, **self.settings}
 
     def _repr_mimebundle_(
         self, include: Any = None, exclude: Any = None
@@ -238,7 +234,7 @@ def _draw(chart: Any, render: Any, *arguments: int) -> bytes:
     status = render(chart, *arguments, data, size)
     if status:
         check(chart, status)
-    picture = bytes(ffi.buffer(data[0], size[0]))
+    picture: bytes = ffi.buffer(data[0], size[0])[:]
     lib.tovangl_chart_free_picture(chart)
     return picture
 

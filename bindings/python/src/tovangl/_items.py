@@ -77,7 +77,7 @@ class Items(Sequence[Item]):
         to the page of an SVG picture; or None
     """
 
-    __slots__ = ("_values", "_captions", "_colors", "_outlines", "_links")
+    __slots__ = ("_values", "_captions", "_text", "_colors", "_outlines", "_links")
 
     def __init__(
         self,
@@ -88,7 +88,8 @@ class Items(Sequence[Item]):
         links: Optional[Iterable[Optional[str]]] = None,
     ) -> None:
         self._values = _value_column(values)
-        self._captions = _caption_column(captions)
+        self._captions = tuple(captions)
+        self._text = _joined(self._captions)
         self._colors = None if colors is None else _color_column(colors, "color")
         self._outlines = None if outlines is None else _color_column(outlines, "outline")
         self._links = None if links is None else _link_column(links)
@@ -101,11 +102,12 @@ class Items(Sequence[Item]):
     @classmethod
     def of(cls, items: ItemsLike) -> Items:
         """Items from anything that a chart takes them as."""
-        # The most common forms come first: to ask for an abstract type takes longer.
-        if isinstance(items, Items):
-            return items
+        # The most common form comes first: to ask for an abstract type, such as Items is one, takes
+        # longer.
         if isinstance(items, list):
             return cls._of_rows(items)
+        if isinstance(items, Items):
+            return items
         if isinstance(items, Mapping):
             return cls(list(items.values()), items)
         if hasattr(items, "to_numpy") and hasattr(items, "index"):
@@ -178,22 +180,22 @@ class Items(Sequence[Item]):
 
     def add_to(self, chart: Any) -> None:
         """Adds the items to a chart of the library."""
-        text, lengths = _joined(self._captions)
+        count = len(self._captions)
+        text, offsets = _column_text(self._captions, self._text)
         status = lib.tovangl_chart_add_columns(
             chart,
-            len(lengths),
+            count,
             ffi.from_buffer(_VALUES, self._values),
             text,
             len(text),
-            [0, *accumulate(lengths)],
+            offsets,
             ffi.NULL if self._colors is None else _color_numbers(self._colors),
             ffi.NULL if self._outlines is None else _color_numbers(self._outlines),
         )
         if status == lib.TOVANGL_OK and self._links is not None:
-            text, lengths = _joined([link or "" for link in self._links])
-            status = lib.tovangl_chart_set_links(
-                chart, len(lengths), text, len(text), [0, *accumulate(lengths)]
-            )
+            links = [link or "" for link in self._links]
+            text, offsets = _column_text(links, "\0".join(links))
+            status = lib.tovangl_chart_set_links(chart, count, text, len(text), offsets)
         if status != lib.TOVANGL_OK:
             fail(status, text_of(lib.tovangl_chart_error(chart)))
 
@@ -229,13 +231,11 @@ def _packed_values(values: Sequence[Any]) -> array[int]:
     return array(_VALUE_TYPE)
 
 
-def _caption_column(captions: Iterable[str]) -> Tuple[str, ...]:
-    column = tuple(captions)
+def _joined(captions: Sequence[str]) -> str:
     try:
-        "".join(column)
+        return "\0".join(captions)
     except TypeError:
-        _refuse_caption(column)
-    return column
+        _refuse_caption(captions)
 
 
 def _refuse_caption(captions: Sequence[Any]) -> NoReturn:
@@ -289,12 +289,12 @@ def checked_color(color: Optional[str], name: str, place: int) -> Optional[str]:
     return color.lower()
 
 
-def _joined(captions: Sequence[str]) -> Tuple[bytes, List[int]]:
-    text = "".join(captions)
-    if text.isascii():
-        return text.encode(), list(map(len, captions))
-    encoded = [caption.encode("utf-8", "surrogatepass") for caption in captions]
-    return b"".join(encoded), list(map(len, encoded))
+def _column_text(texts: Sequence[str], joined: str) -> Tuple[bytes, Any]:
+    """The texts as the library takes them: with offsets only where a text has a NUL itself."""
+    if joined.count("\0") < len(texts):
+        return joined.encode("utf-8", "surrogatepass"), ffi.NULL
+    encoded = [text.encode("utf-8", "surrogatepass") for text in texts]
+    return b"".join(encoded), [0, *accumulate(map(len, encoded))]
 
 
 def _require_colors(
