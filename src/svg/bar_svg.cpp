@@ -20,12 +20,22 @@ void beginGroup(CSvgScene& scene, std::string_view name)
     scene.markup.begin("g").attribute("class", name).open();
 }
 
+CSvgSpan fadeOf(const QRect& plot)
+{
+    return {double(plot.top()), double(plot.bottom())};
+}
+
+CSvgSpan extentOf(const QRect& pixels)
+{
+    return {double(pixels.top()), double(pixels.top() + pixels.height())};
+}
+
 void writeBackground(CSvgScene& scene, const CBarLayout& layout)
 {
     if (!layout.background)
         return;
     const QRect& plot = layout.plotRect;
-    writePixels(scene, plot, CSvgFade(scene, *layout.background, plot.top(), plot.bottom()));
+    writePixels(scene, plot, CSvgFade(scene, *layout.background, fadeOf(plot), extentOf(plot)));
 }
 
 // The right border is as wide as a line, and like one it ends in square caps.
@@ -41,8 +51,9 @@ void writeBorder(CSvgScene& scene, const CBarLayout& layout)
     if (!layout.border)
         return;
     const QRect& plot = layout.plotRect;
-    writePixels(scene, borderPixels(plot, layout.lineWidth),
-                CSvgFade(scene, layout.border->right, plot.top(), plot.bottom()));
+    const QRect pixels = borderPixels(plot, layout.lineWidth);
+    writePixels(scene, pixels,
+                CSvgFade(scene, layout.border->right, fadeOf(plot), extentOf(pixels)));
     if (layout.border->bottom)
         writeLine(scene, *layout.border->bottom);
 }

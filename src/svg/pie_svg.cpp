@@ -152,9 +152,10 @@ void writeBackground(CSvgScene& scene, const CPieLayout& layout)
     if (!layout.background)
         return;
     const double inset = layout.outlineWidth * kHalf;
-    const double bottom = scene.frame.height - 1 + inset;
-    const CSvgFade fill(scene, layout.background->fill, inset, bottom);
-    const CSvgFade border(scene, layout.background->border, inset, bottom);
+    const CSvgSpan span{inset, scene.frame.height - 1 + inset};
+    const CSvgSpan shape{inset, scene.frame.height - inset};
+    const CSvgFade fill(scene, layout.background->fill, span, shape);
+    const CSvgFade border(scene, layout.background->border, span, shape);
     scene.markup.begin("rect");
     writeExtent(
         scene.markup,

@@ -40,6 +40,18 @@ std::string pathOf(const CStraightLine& line)
     return CSvgPath().move(left + offset, top + offset - cap).down(bottom + offset + cap).text();
 }
 
+// Shorter where the gradient is as high as its shape.
+void writeSpan(CSvgMarkup& markup, const CSvgSpan& span, const CSvgSpan& shape)
+{
+    markup.attribute("x2", 0);
+    if (span.top == shape.top && span.bottom == shape.bottom)
+        markup.attribute("y2", 1);
+    else
+        markup.attribute("y1", span.top)
+            .attribute("y2", span.bottom)
+            .attribute("gradientUnits", "userSpaceOnUse");
+}
+
 } // namespace
 
 void writeExtent(CSvgMarkup& markup, const QRectF& rect)
@@ -76,20 +88,17 @@ void writeBar(CSvgScene& scene, const CBar& bar, int outlineWidth)
 }
 
 // In two themes, one of the two fades can be of equal colours.
-CSvgFade::CSvgFade(CSvgScene& scene, const CVerticalFade& fade, double top, double bottom)
+CSvgFade::CSvgFade(CSvgScene& scene, const CVerticalFade& fade, const CSvgSpan& span,
+                   const CSvgSpan& shape)
     : m_color(fade.top)
 {
     if (fade.top == fade.bottom && !scene.frame.isOneOfTwo)
         return;
     const std::string id = pictureId() + static_cast<char>('a' + scene.fades++);
     m_address = "url(#" + id + ')';
-    scene.markup.begin("linearGradient")
-        .attribute("id", id)
-        .attribute("gradientUnits", "userSpaceOnUse")
-        .attribute("x2", 0)
-        .attribute("y1", top)
-        .attribute("y2", bottom)
-        .open();
+    scene.markup.begin("linearGradient").attribute("id", id);
+    writeSpan(scene.markup, span, shape);
+    scene.markup.open();
     scene.markup.begin("stop");
     scene.colors.paint(scene.markup, {{"stop-color", fade.top}});
     scene.markup.end();

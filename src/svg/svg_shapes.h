@@ -26,12 +26,23 @@ void writeStrokeWidth(CSvgMarkup& markup, double width);
 void writeLine(CSvgScene& scene, const CStraightLine& line);
 void writeBar(CSvgScene& scene, const CBar& bar, int outlineWidth);
 
+/// Two heights of the picture.
+struct CSvgSpan
+{
+    double top = 0;
+    double bottom = 0;
+};
+
 /// A fade from one height of the picture to another as a shape's fill or stroke.
 class CSvgFade
 {
 public:
     /// Defines the gradient, if there is one. It must stand before the shape begins.
-    CSvgFade(CSvgScene& scene, const CVerticalFade& fade, double top, double bottom);
+    ///
+    /// @param span   where it begins and ends
+    /// @param shape  where the shape begins and ends
+    CSvgFade(CSvgScene& scene, const CVerticalFade& fade, const CSvgSpan& span,
+             const CSvgSpan& shape);
 
     /// @param property  "fill" or "stroke"
     void paint(CSvgScene& scene, std::string_view property) const;

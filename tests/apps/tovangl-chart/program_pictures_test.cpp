@@ -210,8 +210,8 @@ TEST_P(EveryChart, HasTheSameBytesFromEveryProcess)
     folder.write("items", kItems);
     for (const std::string format : {"png", "svg", "pdf"}) {
         const std::string command = "tovangl-chart " + chart() + " items -o ";
-        runWell(folder, "QT_HASH_SEED=1 " + command + "a." + format);
-        runWell(folder, "QT_HASH_SEED=2 " + command + "b." + format);
+        runWell(folder, command + "a." + format);
+        runWell(folder, command + "b." + format);
         EXPECT_EQ(folder.read("a." + format), folder.read("b." + format)) << format;
     }
 }

@@ -13,7 +13,7 @@ using ::testing::ThrowsMessage;
 
 TEST(WithoutTar, TheMissingPackageIsNamed)
 {
-    EXPECT_THAT([] { static_cast<void>(makeTarSink("x.tar")); },
+    EXPECT_THAT([] { static_cast<void>(makeTarSink("x.tar", PictureFormat::Png)); },
                 ThrowsMessage<CFailure>(HasSubstr("install the package libarchive-dev")));
 }
 
