@@ -274,6 +274,22 @@ TEST_P(ThemePalette, IsSeenApartFromTheOthers)
     }
 }
 
+// Lines a pixel thin that readers are to see, but not before the bars.
+TEST_P(ThemePalette, HasAGridAndABorderThatAreSeenOnThePlot)
+{
+    constexpr double kSeen = 5; // CIEDE2000
+    CBarChart chart(BarKind::Standing, true);
+    chart.addMany(kPaletteSize);
+    apply(CSettingTarget(chart.input), "theme", GetParam());
+    const CBarLayout layout = chart.layout(onScreen(500, 400));
+    const QColor plot = layout.background->top;
+    ASSERT_FALSE(layout.gridLines.empty());
+    for (const CStraightLine& line : layout.gridLines)
+        EXPECT_GE(colorDistance(line.color, plot, Sight::Full), kSeen);
+    EXPECT_GE(colorDistance(layout.border->right.top, plot, Sight::Full), kSeen);
+    EXPECT_GE(colorDistance(layout.border->right.bottom, plot, Sight::Full), kSeen);
+}
+
 class Others : public ::testing::TestWithParam<const char*>
 {};
 
@@ -301,18 +317,27 @@ INSTANTIATE_TEST_SUITE_P(Looks, Others,
                              return nameOfTheme(info.param);
                          });
 
+void expectNoneAlike(const std::vector<QColor>& colors, Sight sight)
+{
+    ASSERT_EQ(colors.size(), kPaletteSize);
+    for (std::size_t a = 0; a < kPaletteSize; ++a) {
+        for (std::size_t b = a + 1; b < kPaletteSize; ++b)
+            EXPECT_GE(colorDistance(colors[a], colors[b], sight), kClearlyDifferent)
+                << a << " and " << b;
+    }
+}
+
+TEST_P(ThemePalette, HasNoTwoColoursThatLookAlikeInFullSight)
+{
+    expectNoneAlike(sliceFillings(GetParam()).colors, Sight::Full);
+}
+
 class ColorBlindPalette : public ::testing::TestWithParam<Sight>
 {};
 
 TEST_P(ColorBlindPalette, HasNoTwoColoursThatLookAlike)
 {
-    const std::vector<QColor> colors = sliceFillings("colour-blind").colors;
-    ASSERT_EQ(colors.size(), kPaletteSize);
-    for (std::size_t a = 0; a < kPaletteSize; ++a) {
-        for (std::size_t b = a + 1; b < kPaletteSize; ++b)
-            EXPECT_GE(colorDistance(colors[a], colors[b], GetParam()), kClearlyDifferent)
-                << a << " and " << b;
-    }
+    expectNoneAlike(sliceFillings("colour-blind").colors, GetParam());
 }
 
 const char* nameOfSight(const ::testing::TestParamInfo<Sight>& info)

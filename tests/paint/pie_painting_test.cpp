@@ -198,6 +198,19 @@ TEST(PiePainting, TheBackgroundShiftsThePieByHalfAPixel)
     EXPECT_GT(moved, 5);
 }
 
+TEST(PiePainting, TheBackgroundLeavesTheTitleWhereItIs)
+{
+    CTestPie plain;
+    plain.settings.title = QString("A title");
+    CTestPie white(true);
+    white.settings.title = plain.settings.title;
+    white.settings.colors.plot = Qt::white;
+    white.settings.colors.border = Qt::white;
+    const CPaintedPie titled(plain);
+    const QRect title = titled.layout.title->rect;
+    EXPECT_EQ(CPaintedPie(white).image.copy(title), titled.image.copy(title));
+}
+
 TEST(PiePainting, BeamsAndLinesTakeTheLineColour)
 {
     CTestPie green = disc(kColors[0]);

@@ -24,10 +24,11 @@ TEST_P(FontPermission, IsReadFromTheTable)
     EXPECT_EQ(allowsEmbedding(table), GetParam().isAllowed);
 }
 
-// Anything; restricted; preview and print; editing; no subsetting; bitmaps only.
+// Anything; restricted; preview and print, also beside the restriction; editing; bitmaps only.
 INSTANTIATE_TEST_SUITE_P(Flags, FontPermission,
                          testing::Values(CPermissionCase{0, 0, true}, CPermissionCase{0, 2, false},
-                                         CPermissionCase{0, 4, true}, CPermissionCase{0, 8, true},
+                                         CPermissionCase{0, 4, true}, CPermissionCase{0, 6, true},
+                                         CPermissionCase{0, 8, true},
                                          CPermissionCase{2, 0, false}));
 
 TEST(FontPermission, IsThereWhereAFontDoesNotSay)

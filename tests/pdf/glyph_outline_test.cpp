@@ -38,10 +38,13 @@ TEST(GlyphOutline, ACurveOfTheSecondDegreeKeepsItsPoints)
     EXPECT_EQ(contours[0][2].x, 200);
 }
 
-// Where a curve of the second degree is in its middle.
-QPointF middleOf(const COutlinePoint& from, const COutlinePoint& control, const COutlinePoint& to)
+// A place on a curve of the second degree, from 0 at its begin to 1 at its end.
+QPointF placeOn(const COutlinePoint& from, const COutlinePoint& control, const COutlinePoint& to,
+                double t)
 {
-    return QPointF(from.x + 2 * control.x + to.x, from.y + 2 * control.y + to.y) / 4;
+    const double s = 1 - t;
+    return QPointF(s * s * from.x + 2 * s * t * control.x + t * t * to.x,
+                   s * s * from.y + 2 * s * t * control.y + t * t * to.y);
 }
 
 TEST(GlyphOutline, ACircleStaysRound)
@@ -53,8 +56,10 @@ TEST(GlyphOutline, ACircleStaysRound)
     ASSERT_EQ(contours.size(), 1u);
     const CContour& contour = contours[0];
     for (std::size_t i = 0; i + 2 < contour.size(); i += 2) {
-        const QPointF middle = middleOf(contour[i], contour[i + 1], contour[i + 2]);
-        EXPECT_NEAR(std::hypot(middle.x(), middle.y()), kRadius, 1.5);
+        for (const double t : {0.2, 0.5, 0.8}) { // in between, curves differ the most
+            const QPointF place = placeOn(contour[i], contour[i + 1], contour[i + 2], t);
+            EXPECT_NEAR(std::hypot(place.x(), place.y()), kRadius, 1.5);
+        }
     }
 }
 

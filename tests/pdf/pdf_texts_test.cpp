@@ -3,6 +3,7 @@
 #include "support/CAnyChart.h"
 
 #include <QRect>
+#include <QString>
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -61,6 +62,40 @@ INSTANTIATE_TEST_SUITE_P(Captions, PdfTextInScripts,
 INSTANTIATE_TEST_SUITE_P(FromRightToLeft, PdfTextInScripts,
                          testing::Values("سلام", "لا", "الإسلام", "الآن", "كلأ لأ", "لا (الآن)",
                                          "[שלום] (לא)"));
+
+// Where glyphs do not tell the letters, a text is there a second time, and can only be marked as a
+// whole. The third caption has two letters that share a glyph.
+TEST(PdfTexts, LettersAreToldByTheirGlyphsInScriptsThatJoinThem)
+{
+    for (const char* caption : {"Größe", "العربية", "سلام", "שלום"}) {
+        CAnyChart chart = bars(caption);
+        EXPECT_THAT(readPdf(chart.createPdf(kWidth, kHeight).bytes(), "qpdf --qdf picture.pdf -"),
+                    Not(HasSubstr("ActualText")))
+            << caption;
+    }
+}
+
+// Cyrillic, eight letters a caption.
+TEST(PdfTexts, MoreThanAHundredLettersOfAFontAreFound)
+{
+    constexpr ushort kFirst = 0x0400;
+    constexpr ushort kEnd = 0x0480;
+    constexpr ushort kLetters = 8;
+    std::vector<std::string> captions;
+    for (ushort first = kFirst; first < kEnd; first += kLetters) {
+        QString caption;
+        for (ushort unit = first; unit < first + kLetters; ++unit)
+            caption += QChar(unit);
+        captions.push_back(caption.toStdString());
+    }
+    CAnyChart chart(ChartKind::HorizontalBars);
+    chart.graph().setFont("DejaVu Sans", 11);
+    for (const std::string& caption : captions)
+        chart.addItem(1, caption);
+    const std::string text = textOf(chart);
+    for (const std::string& caption : captions)
+        EXPECT_THAT(text, HasSubstr(caption));
+}
 
 TEST(PdfTexts, CaptionsOfBarsThatReadUpwardAreFound)
 {

@@ -3,6 +3,7 @@
 #include "svg/picture_id.h"
 
 #include <gmock/gmock.h>
+#include <set>
 
 namespace tovangl {
 namespace {
@@ -31,6 +32,16 @@ TEST(PictureId, DiffersWhereverPicturesDo)
 {
     EXPECT_NE(withId("a" + pictureId()).substr(1), withId("b" + pictureId()).substr(1));
     EXPECT_NE(withId(pictureId() + "a").substr(0, 9), withId(pictureId() + "b").substr(0, 9));
+}
+
+// A page can hold thousands of pictures.
+TEST(PictureId, OfTenThousandPicturesIsTenThousandIds)
+{
+    constexpr std::size_t kPictures = 10000;
+    std::set<std::string> ids;
+    for (std::size_t i = 0; i < kPictures; ++i)
+        ids.insert(withId(pictureId() + std::to_string(i)).substr(0, pictureId().size()));
+    EXPECT_EQ(ids.size(), kPictures);
 }
 
 } // namespace

@@ -80,6 +80,19 @@ TEST(SvgPixelsOfAWholeDisc, AreThoseOfThePngButForSmoothing)
         EXPECT_GE(compare(pie, width, 3 * width / 4 + width % 7).share(), kMostPies) << width;
 }
 
+TEST(SvgPixelsOfOrdinaryBars, AreAllThoseOfThePng)
+{
+    for (const ChartKind kind : {ChartKind::VerticalBars, ChartKind::HorizontalBars}) {
+        for (const int scale : {1, 2, 3}) {
+            CAnyChart bars(kind, true);
+            bars.graph().setScale(scale);
+            for (const long value : {734L, 524L, 943L})
+                bars.addItem(value, "");
+            EXPECT_EQ(compare(bars, 300, 200).different, 0) << nameOf(kind) << ' ' << scale;
+        }
+    }
+}
+
 TEST(SvgPixelsOfAnOrdinaryPie, AreNearlyAllThoseOfThePng)
 {
     CAnyChart pie(ChartKind::Pie, true);

@@ -3,6 +3,8 @@
 #include "support/CAnyChart.h"
 #include "svg/parsed_svg.h"
 
+#include <QStringList>
+
 #include <gmock/gmock.h>
 
 namespace tovangl {
@@ -31,14 +33,22 @@ std::string styleOf(const std::string& svg)
     return styles.empty() ? std::string() : styles.front().text.toStdString();
 }
 
-// The fill that the style sheet gives to the picture's ground.
+// What the style sheet gives to a property of an element, which can have several classes.
+std::string darkColor(const std::string& svg, const CSvgElement& element, const char* property)
+{
+    const std::string style = styleOf(svg);
+    for (const QString& name : element["class"].split(QLatin1Char(' '))) {
+        const std::string rule = '.' + name.toStdString() + '{' + property + ':';
+        const std::size_t begin = style.find(rule);
+        if (begin != std::string::npos)
+            return style.substr(begin + rule.size(), 7);
+    }
+    return "";
+}
+
 std::string darkGround(const std::string& svg)
 {
-    const std::string name = CParsedSvg(svg).all("rect").at(0)["class"].toStdString();
-    const std::string style = styleOf(svg);
-    const std::string rule = '.' + name + "{fill:";
-    const std::size_t begin = style.find(rule);
-    return begin == std::string::npos ? "" : style.substr(begin + rule.size(), 7);
+    return darkColor(svg, CParsedSvg(svg).all("rect").at(0), "fill");
 }
 
 TEST(SvgThemes, HaveNoStyleSheetUnlessAskedFor)
@@ -59,6 +69,18 @@ TEST(SvgThemes, FollowTheDisplayWhereAskedFor)
             << nameOf(kind);
         EXPECT_EQ(darkGround(svg), "#1b1f27") << nameOf(kind);
     }
+}
+
+// On dark displays, outlines have the colour of the picture's ground.
+TEST(SvgThemes, ColourOutlinesAndFillingsEachInTheirOwnWay)
+{
+    CAnyChart chart = chartOf(ChartKind::Pie);
+    ASSERT_EQ(chart.graph().setByName("follow_display", "true"), "");
+    const std::string bytes = bytesOf(chart);
+    const CParsedSvg svg(bytes);
+    const CSvgElement slice = svg.children(svg.items().at(0), "path").at(0);
+    EXPECT_EQ(darkColor(bytes, slice, "fill"), "#6cace4");
+    EXPECT_EQ(darkColor(bytes, slice, "stroke"), darkGround(bytes));
 }
 
 TEST(SvgThemes, KeepTheirOwnColoursOnLightDisplays)
