@@ -266,5 +266,24 @@ TEST(HandlerExchange, StillPutsAFilterInFrontAfterThousandsOfExchangesAndInterru
     EXPECT_NE(process.inForce(), process.topHandler());
 }
 
+// Filters of which there are no more.
+TEST(HandlerExchange, KeepsTheOrderOfHandlersWhenItHasUsedUpItsFilters)
+{
+    constexpr int kMostFiltersOfACall = 4;
+    for (int rests = 0; rests < kMostFiltersOfACall; ++rests) {
+        CProcess process;
+        for (int i = 0; i < rests; ++i) {
+            process.interrupt(0, {});
+            process.putFilterInFront();
+        }
+        for (std::size_t i = 0; i < CMessageFilters::kCount; ++i) {
+            process.interrupt(1, kPushTwo);
+            process.putFilterInFront();
+            ASSERT_TRUE(process.isInOrder()) << rests << ' ' << i;
+            process.popAll();
+        }
+    }
+}
+
 } // namespace
 } // namespace tovangl

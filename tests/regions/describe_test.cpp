@@ -164,6 +164,11 @@ TEST(Description, CutsAHugeCaption)
     EXPECT_THAT(sentence, Not(HasSubstr(std::string(257, 'x'))));
 }
 
+TEST(Description, LeavesACaptionOfTheGreatestLengthWhole)
+{
+    EXPECT_THAT(describeAlone(std::string(256, 'x')), HasSubstr(std::string(256, 'x') + "”"));
+}
+
 TEST(Description, NeverCutsACharacterInTwo)
 {
     const std::string sentence = describeAlone("x" + std::string(255, 'y') + "😀😀");

@@ -11,6 +11,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::SizeIs;
 
 constexpr unsigned kFamily = 1;
 
@@ -83,6 +84,15 @@ TEST(FamiliesInFile, AreNoneWhereOneFontOfACollectionIsBroken)
 {
     const std::string broken = replaced(smallFont("B"), "glyf", "flyg");
     EXPECT_THAT(familiesInFile(smallCollection({smallFont("A"), broken})), IsEmpty());
+}
+
+TEST(FamiliesInFile, AreNoneInACollectionOfTooManyFonts)
+{
+    const std::vector<std::string> fonts(256, smallFont("A"));
+    EXPECT_THAT(familiesInFile(smallCollection(fonts)), SizeIs(256));
+    std::vector<std::string> more = fonts;
+    more.push_back(smallFont("B"));
+    EXPECT_THAT(familiesInFile(smallCollection(more)), IsEmpty());
 }
 
 TEST(FamiliesInFile, AreNoneInACollectionOfNothing)
