@@ -2,12 +2,13 @@
 // The line that tells how far a batch has come.
 #include "tovangl-chart/batch_progress.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace tovangl::program {
 namespace {
 
 using std::chrono::seconds;
+using ::testing::EndsWith;
 
 TEST(BatchProgress, TellsChartsSpeedAndErrors)
 {
@@ -23,6 +24,18 @@ TEST(BatchProgress, TellsTheTimeThatIsLeftWhereTheSizeIsKnown)
               "8 charts, 2 a second, 0 errors, 0:36 left");
     EXPECT_EQ(progressText({8, 0, 0, 1}, seconds(8), 1000),
               "8 charts, 1 a second, 0 errors, 2:13:12 left");
+}
+
+TEST(BatchProgress, TellsWholeMinutesAndHours)
+{
+    constexpr std::uintmax_t kSize = 100;
+    const auto halfDoneAfter = [=](seconds time) {
+        return progressText({0, 1, 0, kSize / 2}, time, kSize);
+    };
+    EXPECT_THAT(halfDoneAfter(seconds(10)), EndsWith("1 there already, 0 errors, 0:10 left"));
+    EXPECT_THAT(halfDoneAfter(seconds(60)), EndsWith(" 1:00 left"));
+    EXPECT_THAT(halfDoneAfter(seconds(3600)), EndsWith(" 1:00:00 left"));
+    EXPECT_THAT(progressText({1, 0, 0, kSize}, seconds(1), kSize), EndsWith(" 0:00 left"));
 }
 
 TEST(BatchProgress, KnowsNoSpeedBeforeTheFirstMoment)

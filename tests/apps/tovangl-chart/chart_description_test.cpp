@@ -149,6 +149,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadDescription{"UnknownKey", pieWith(R"("colour": 1)"), "/colour: no chart has such a "},
         BadDescription{"KeyOfPointers", pieWith(R"("a/b~": 1)"), "/a~1b~0: no chart has "},
         BadDescription{"KeyThatControls", pieWith(R"("\u001b[2J": 1)"), "/?[2J: no chart has "},
+        BadDescription{"KeyShownWhole", pieWith("\"" + std::string(100, 'k') + "\": 1"),
+                       "/" + std::string(100, 'k') + ": no chart has such a setting"},
         BadDescription{"LongKey", pieWith("\"" + std::string(1000000, 'k') + "\": 1"),
                        "/" + std::string(100, 'k') + "...: no chart has such a setting"},
         BadDescription{"TwoKeys", pieWith(R"("width": 1, "width": 1)"),

@@ -67,6 +67,23 @@ TEST(TarBatch, KilledWhileItWritesLeavesNothing)
     EXPECT_THAT(folder.names(), Eq(Names{"in", "lines"}));
 }
 
+// A reader takes the zeros that every archive ends in for a sign that it is whole.
+TEST(TarBatch, BrokenOffHasNoEnd)
+{
+    const CTemporaryFolder folder;
+    folder.write("lines", manyLines(60));
+    const ShellResult result = runShell(folder, "mkfifo in\n"
+                                                "tovangl-chart batch --tar - <in >archive &\n"
+                                                "exec 3>in; cat lines >&3\n"
+                                                "until [ -s archive ]; do sleep 0.01; done\n"
+                                                "kill -TERM $!; wait $!");
+    EXPECT_EQ(result.status, 2);
+    const std::string archive = folder.read("archive");
+    constexpr std::size_t kEnd = 1024; // bytes
+    ASSERT_GT(archive.size(), kEnd);
+    EXPECT_NE(archive.substr(archive.size() - kEnd), std::string(kEnd, '\0'));
+}
+
 TEST(TarBatch, LeavesNothingWhereTheFileMayNotGrow)
 {
     const CTemporaryFolder folder;

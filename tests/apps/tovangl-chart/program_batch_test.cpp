@@ -75,7 +75,7 @@ TEST(Batch, GoesOnAfterABadLine)
 TEST(Batch, WritesItsRecordsWhereTheOptionSays)
 {
     const CTemporaryFolder folder;
-    folder.write("bad", "old\n");
+    folder.write("bad", std::string(1000, 'x')); // longer than the record
     const ShellResult result =
         runLines(folder, chartLine("a", R"(, "text_color": "red")"), "-o p --errors bad");
     EXPECT_EQ(result.status, 1);
