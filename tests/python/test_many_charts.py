@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Many charts, drawn by several threads."""
 
+import os
 import threading
 
 import pytest
@@ -64,7 +65,7 @@ def test_an_endless_iterable_is_read_only_a_few_charts_ahead(jobs):
     for _ in range(20):
         next(results)
     results.close()
-    assert len(taken) <= 20 + 4 * jobs
+    assert len(taken) <= 20 + 8 * jobs
     assert set(taken) == {threading.get_ident()}
 
 
@@ -78,6 +79,27 @@ def test_an_error_of_the_iterable_comes_after_the_results_before_it(jobs):
     assert [next(results) for _ in range(3)] == [chart.render() for chart in charts(3)]
     with pytest.raises(KeyError, match="gone"):
         next(results)
+
+
+def test_charts_that_take_long_are_shared_by_all_threads():
+    drawn_by = []
+
+    class SlowChart:
+        def render(self):
+            drawn_by.append(threading.get_ident())
+            all_draw.wait(timeout=20)
+            return None
+
+    all_draw = threading.Barrier(3)
+    assert list(render_many([SlowChart()] * 6, 3)) == [None] * 6
+    assert len(set(drawn_by)) == 3
+
+
+def test_no_thread_is_left_behind_the_last_result():
+    for _ in range(20):
+        before = set(os.listdir("/proc/self/task"))
+        list(render_many(charts(16), 8))
+        assert set(os.listdir("/proc/self/task")) <= before
 
 
 def test_threads_end_with_the_results():

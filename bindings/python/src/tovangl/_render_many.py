@@ -7,7 +7,10 @@ import os
 from collections import deque
 from collections.abc import Generator, Iterable, Iterator
 from functools import partial
+from itertools import islice
 from operator import methodcaller
+from threading import get_native_id
+from time import monotonic, perf_counter, sleep
 from typing import TYPE_CHECKING, Any, Deque, List, Literal, Optional, Union, overload
 
 from tovangl._chart import Chart
@@ -21,7 +24,11 @@ if TYPE_CHECKING:
     Results = Generator[Result, None, None]
     Render = Callable[[Chart], Result]
 
-_CHARTS_AHEAD = 4  # of each thread: enough that none waits for the caller
+_CHARTS_AHEAD = 8  # of each thread: enough that none waits for the caller
+_CHARTS_OF_A_TASK = 4
+_LONGEST_END = 1.0  # seconds
+_END_PAUSE = 0.0005  # seconds
+_FAST = 0.002  # seconds: below that, handing each chart over on its own costs too much of its time
 
 _RENDERERS = {
     "png": methodcaller("render"),
@@ -90,24 +97,69 @@ def _render(draw: Render, chart: Chart) -> Result:
         return error
 
 
+def _render_all(render: Render, charts: List[Chart]) -> List[Result]:
+    return [render(chart) for chart in charts]
+
+
 def _render_in_threads(charts: Iterable[Chart], jobs: int, render: Render) -> Results:
     from concurrent.futures import ThreadPoolExecutor
 
-    pending: Deque[Future[Result]] = deque()
+    started: List[int] = []
+    try:
+        with ThreadPoolExecutor(
+            jobs, "tovangl", initializer=lambda: started.append(get_native_id())
+        ) as threads:
+            yield from _render_tasks(
+                charts, jobs, lambda task: threads.submit(_render_all, render, task)
+            )
+    finally:
+        _wait_for_end(started)
+
+
+def _render_tasks(
+    charts: Iterable[Chart], jobs: int, submit: Callable[[List[Chart]], Future[List[Result]]]
+) -> Results:
+    pending: Deque[Future[List[Result]]] = deque()
     failures: List[Exception] = []
-    with ThreadPoolExecutor(jobs, "tovangl") as threads:
-        try:
-            for chart in _until_failure(charts, failures):
-                pending.append(threads.submit(render, chart))
-                if len(pending) == jobs * _CHARTS_AHEAD:
-                    yield pending.popleft().result()
-            while pending:
-                yield pending.popleft().result()
-        finally:
-            for future in pending:
-                future.cancel()
+    most_ahead = jobs * _CHARTS_AHEAD - _CHARTS_OF_A_TASK
+    taken = given = 0
+    begin = perf_counter()
+    source = _until_failure(charts, failures)
+    try:
+        while task := list(islice(source, _task_size(given, perf_counter() - begin))):
+            pending.append(submit(task))
+            taken += len(task)
+            while taken - given > most_ahead:
+                results = pending.popleft().result()
+                given += len(results)
+                yield from results
+        while pending:
+            yield from pending.popleft().result()
+    finally:
+        for future in pending:
+            future.cancel()
     for failure in failures:
         raise failure
+
+
+def _wait_for_end(threads: Iterable[int]) -> None:
+    """Waits until threads that Python has joined are gone for the system too.
+
+    On its way from the one to the other a thread frees what Qt keeps for it, which would crash a
+    process that ends meanwhile.
+    """
+    deadline = monotonic() + _LONGEST_END
+    for thread in threads:
+        while os.path.exists(f"/proc/self/task/{thread}") and monotonic() < deadline:
+            sleep(_END_PAUSE)
+
+
+def _task_size(given: int, seconds: float) -> int:
+    """How many charts a thread gets at a time, after so many results in that time.
+
+    Charts that take long are drawn one by one, so that no thread waits for another at the end.
+    """
+    return _CHARTS_OF_A_TASK if seconds < given * _FAST else 1
 
 
 def _until_failure(charts: Iterable[Chart], failures: List[Exception]) -> Iterator[Chart]:
