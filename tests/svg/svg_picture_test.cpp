@@ -5,6 +5,7 @@
 #include "support/public_records.h"
 #include "svg/parsed_svg.h"
 
+#include <cmath>
 #include <gmock/gmock.h>
 #include <set>
 
@@ -148,6 +149,21 @@ TEST(SvgSize, OfEightSlicesIsFiveKilobytesAtMost)
     pie.createSvg(600, 400, &data, &size);
     EXPECT_GT(size, 1000);
     EXPECT_LE(size, 5 * 1024);
+}
+
+// A stroke of an odd width then covers whole pixels, and one of an even width too.
+TEST(SvgBars, AreOutlinedAlongTheMiddleOfAnOddStroke)
+{
+    for (const int scale : {1, 2, 3}) {
+        CAnyChart chart(ChartKind::HorizontalBars);
+        chart.graph().setScale(scale);
+        chart.addItem(3, "a");
+        const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+        const CSvgElement bar = svg.children(svg.items().at(0), "rect").at(0);
+        const double beside = scale % 2 == 0 ? 0 : 0.5;
+        EXPECT_EQ(bar.number("x") - std::floor(bar.number("x")), beside) << scale;
+        EXPECT_EQ(bar.number("y") - std::floor(bar.number("y")), beside) << scale;
+    }
 }
 
 TEST(SvgNumbers, HaveAtMostTwoDecimals)
