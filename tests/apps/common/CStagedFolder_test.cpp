@@ -34,6 +34,16 @@ TEST(StagedFolder, AppearsWithAllItsFiles)
     EXPECT_EQ(temporary.read("new/b"), "second");
 }
 
+TEST(StagedFolder, CanBeNamedWithASlashAtTheEnd)
+{
+    const CTemporaryFolder temporary;
+    CStagedFolder folder(temporary.pathOf("new/"), never);
+    folder.write("a", "first");
+    folder.publish();
+    EXPECT_THAT(temporary.names(), ElementsAre("new"));
+    EXPECT_EQ(temporary.read("new/a"), "first");
+}
+
 TEST(StagedFolder, LeavesNothingWhereItIsNotPublished)
 {
     const CTemporaryFolder temporary;

@@ -41,6 +41,14 @@ TEST(WholeFile, LeavesNothingIfItIsNotPublished)
     EXPECT_EQ(folder.read("a"), "old");
 }
 
+TEST(WholeFile, LeavesNothingWhereAFolderHasItsName)
+{
+    const CTemporaryFolder folder;
+    std::filesystem::create_directory(folder.pathOf("a"));
+    EXPECT_THROW(writeWhole(folder.pathOf("a"), "text"), CFailure);
+    EXPECT_THAT(folder.names(), ElementsAre("a"));
+}
+
 TEST(WholeFile, ReplacesWhatWasThere)
 {
     const CTemporaryFolder folder;
