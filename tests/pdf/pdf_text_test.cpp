@@ -61,6 +61,8 @@ TEST(PdfText, WordsAreWrittenAsTheyAre)
 TEST(PdfText, AnyOtherTextIsNothingButDigits)
 {
     EXPECT_EQ(pdfString(QStringLiteral("A)\n")), "<FEFF00410029000A>");
+    EXPECT_EQ(pdfString(QStringLiteral("(")), "<FEFF0028>");
+    EXPECT_EQ(pdfString(QStringLiteral(")")), "<FEFF0029>");
     EXPECT_EQ(pdfString(QStringLiteral("\\")), "<FEFF005C>");
 }
 
