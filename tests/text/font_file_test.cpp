@@ -124,6 +124,10 @@ TEST(FontFile, NeedsASensibleNumberOfUnits)
         font.unitsPerEm = units;
         EXPECT_THAT(familiesInFile(smallFont(font)), IsEmpty()) << units;
     }
+    for (const int units : {16, 16384}) {
+        font.unitsPerEm = units;
+        EXPECT_THAT(familiesInFile(smallFont(font)), ElementsAre("A")) << units;
+    }
 }
 
 std::string fontMapping(const std::string& characterMap)

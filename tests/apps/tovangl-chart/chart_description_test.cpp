@@ -60,6 +60,12 @@ TEST(ChartDescription, HasItsSizeNameAndFactor)
     EXPECT_EQ(chart.id, "a-1.b");
 }
 
+TEST(ChartDescription, CanHaveAnIdOfTheGreatestLength)
+{
+    const std::string id(kLongestId, 'a');
+    EXPECT_EQ(parseDescription(pieWith("\"id\": \"" + id + '"')).id, id);
+}
+
 TEST(ChartDescription, HasItsItemsInOrder)
 {
     const ChartDescription chart = parseDescription(
