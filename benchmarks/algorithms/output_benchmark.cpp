@@ -46,7 +46,8 @@ void deflate(benchmark::State& state, Compression compression)
     QImage image = stripes(static_cast<int>(state.range(0)));
     const CPackedPicture packed = packPicture(image);
     for (auto _ : state)
-        benchmark::DoNotOptimize(CDeflater(packed.rows, compression).deflate(packed.spare));
+        benchmark::DoNotOptimize(
+            CDeflater(packed.rows, compression, packed.stillRows).deflate(packed.spare));
 }
 BENCHMARK_CAPTURE(deflate, balanced, Compression::Balanced)->ArgName("colors")->Arg(16)->Arg(65536);
 BENCHMARK_CAPTURE(deflate, fast, Compression::Fast)->ArgName("colors")->Arg(16)->Arg(65536);

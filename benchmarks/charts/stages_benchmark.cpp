@@ -79,7 +79,8 @@ void compressing(benchmark::State& state, const CChartCase& chart, Compression c
     QImage picture = drawPicture(*makeChart<Chart>(chart), chart);
     const CPackedPicture packed = packPicture(picture);
     for (auto _ : state)
-        benchmark::DoNotOptimize(CDeflater(packed.rows, compression).deflate(packed.spare));
+        benchmark::DoNotOptimize(
+            CDeflater(packed.rows, compression, packed.stillRows).deflate(packed.spare));
 }
 
 template <typename Chart>

@@ -16,7 +16,7 @@ MOST_STEPS = 16
 # The parts of a chart by the functions that do them. A part is what its functions take together,
 # without the parts named before it that run inside them.
 PARTS = {
-    "layout": r"C(Bar|LabeledBar)Graph::(createAxes|computeLayout)\(|CPieGraph::computeLayout\(",
+    "layout": r"CGraph1dBase::layOut\(",
     "painting": r"::getImage(ForPrinter)?\(",
     "packing": r"tovangl::packPicture\(",
     "compressing": r"tovangl::CDeflater::deflate\(",
