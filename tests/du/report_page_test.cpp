@@ -42,7 +42,8 @@ protected:
     std::set<std::string> targets()
     {
         std::set<std::string> targets;
-        for (const HtmlElement& element : page().elements()) {
+        const CHtmlPage written = page();
+        for (const HtmlElement& element : written.elements()) {
             if (element.tag == "area" || element["class"] == "item")
                 targets.insert(element["href"]);
         }
@@ -125,7 +126,8 @@ TEST_F(ReportPage, HasIdsOfItsOwnForEverySvgPicture)
     add("folder", 500, 7);
     m_look.isSvg = true;
     std::set<std::string> ids;
-    for (const HtmlElement& element : page().elements()) {
+    const CHtmlPage written = page();
+    for (const HtmlElement& element : written.elements()) {
         if (!element["id"].empty()) {
             EXPECT_TRUE(ids.insert(element["id"]).second) << element["id"];
         }
