@@ -51,16 +51,20 @@ public:
     void takeFilterAway() { settle(false); }
 
 private:
-    static constexpr std::size_t kReserve = 4; // filters that one call can use up
+    static constexpr std::size_t kReserve = 6; // filters that one call can use up
 
     void settle(bool isDrawing);
+    [[nodiscard]] QtMessageHandler putProbeInFront();
+    void release(std::size_t probe, QtMessageHandler found, Clock::time_point now);
     [[nodiscard]] QtMessageHandler putProbeInForce();
-    void replaceProbe(QtMessageHandler wanted);
-    void takeNewProbe() { m_probe = m_used++; }
+    void replaceProbeByFilter(std::size_t filter);
+    void replaceProbeByHost(QtMessageHandler host);
+    QtMessageHandler replaceProbe(QtMessageHandler wanted);
     void keepProbe();
-    void letProbeRest(Clock::time_point now);
+    void letRest(std::size_t filter, Clock::time_point now);
+    [[nodiscard]] std::size_t takeFilter(Clock::time_point now);
     [[nodiscard]] QtMessageHandler hostHandlerOf(QtMessageHandler handler) const;
-    [[nodiscard]] QtMessageHandler filterOf(QtMessageHandler host);
+    [[nodiscard]] std::size_t filterOf(QtMessageHandler host);
 
     struct CRestingFilter
     {
@@ -78,6 +82,7 @@ private:
     std::array<bool, CMessageFilters::kCount> m_isForGood = {}; // whether its handler is the last
     std::array<CRestingFilter, 128> m_resting = {};             // a ring
     std::size_t m_rests = 0;                                    // so far
+    std::size_t m_wakes = 0;                                    // likewise
 };
 
 } // namespace tovangl

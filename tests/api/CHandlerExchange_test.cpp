@@ -61,11 +61,13 @@ public:
     ~CProcess() { current = nullptr; }
     Q_DISABLE_COPY(CProcess)
 
-    // What the host does once, right before the exchange of that number from now on.
-    void interrupt(int exchange, Acts acts)
+    // What the host does right before the step of that number from now on, and before each that
+    // follows. A step is an exchange of handlers, or a look at the clock.
+    void interrupt(int step, std::vector<Acts> acts)
     {
-        m_exchangesUntilActs = exchange;
+        m_stepsUntilActs = step;
         m_acts = std::move(acts);
+        m_nextActs = m_acts.cbegin();
     }
     void putFilterInFront() { m_exchange.putFilterInFront(); }
     void takeFilterAway() { m_exchange.takeFilterAway(); }
@@ -99,6 +101,22 @@ public:
         }
         return true;
     }
+    // Whether a message ends, and the host's first handler sees it. It may have to wait for a
+    // filter that has no handler yet.
+    [[nodiscard]] bool reachesFirstHandler() const
+    {
+        std::array<bool, kHandlers> hasSeen = {};
+        QtMessageHandler handler = behind(m_inForce);
+        while (handler && handler != m_hostHandlers[0]) {
+            const std::size_t number = numberOf(handler);
+            if (std::exchange(hasSeen[number], true))
+                return false;
+            handler = behind(m_previous[number - 1]);
+        }
+        return true;
+    }
+    // Whether that was so at each moment at which the host acted between two steps.
+    [[nodiscard]] bool hasAlwaysReachedFirstHandler() const { return m_hasReachedFirstHandler; }
     // The host's handler that is behind a filter, or the handler itself.
     [[nodiscard]] QtMessageHandler behind(QtMessageHandler handler) const
     {
@@ -114,15 +132,29 @@ private:
     {
         return current->exchange(handler);
     }
-    static CHandlerExchange::Clock::time_point timeInCurrent() { return current->m_time; }
+    static CHandlerExchange::Clock::time_point timeInCurrent()
+    {
+        current->step();
+        return current->m_time;
+    }
 
     QtMessageHandler exchange(QtMessageHandler handler)
     {
-        if (m_exchangesUntilActs-- == 0) {
-            act(m_acts);
-            m_time += std::chrono::milliseconds(1);
-        }
+        step();
         return std::exchange(m_inForce, handler);
+    }
+    void step()
+    {
+        if (m_stepsUntilActs-- <= 0 && m_nextActs != m_acts.cend()) {
+            m_time += std::chrono::milliseconds(1);
+            act(*m_nextActs++);
+            m_hasReachedFirstHandler &= reachesFirstHandler();
+        }
+    }
+    [[nodiscard]] std::size_t numberOf(QtMessageHandler hostHandler) const
+    {
+        const auto found = std::find(m_hostHandlers.begin(), m_hostHandlers.end(), hostHandler);
+        return static_cast<std::size_t>(found - m_hostHandlers.begin());
     }
 
     static CProcess* current;
@@ -135,8 +167,10 @@ private:
     CHandlerExchange::Clock::time_point m_time;
     CMessageFilters m_filters;
     CHandlerExchange m_exchange;
-    int m_exchangesUntilActs = -1;
-    Acts m_acts;
+    int m_stepsUntilActs = -1;
+    std::vector<Acts> m_acts;
+    std::vector<Acts>::const_iterator m_nextActs = m_acts.cbegin();
+    bool m_hasReachedFirstHandler = true;
 };
 
 CProcess* CProcess::current = nullptr;
@@ -190,7 +224,7 @@ TEST(HandlerExchange, PutsAFilterInFrontOfWhateverTheHostHasInForce)
 }
 
 // The moments at which another thread can come between two steps.
-constexpr int kMoments = 4;
+constexpr int kMoments = 9;
 
 TEST(HandlerExchange, KeepsTheOrderOfHandlersThatComeInBetween)
 {
@@ -203,7 +237,7 @@ TEST(HandlerExchange, KeepsTheOrderOfHandlersThatComeInBetween)
                         contest(process);
                     else if (!isBeginning)
                         process.putFilterInFront();
-                    process.interrupt(moment, kAllActs[number]);
+                    process.interrupt(moment, {kAllActs[number]});
                     if (isBeginning)
                         process.putFilterInFront();
                     else
@@ -217,20 +251,45 @@ TEST(HandlerExchange, KeepsTheOrderOfHandlersThatComeInBetween)
     }
 }
 
+// A busy machine can stop a thread between any two of its steps.
+TEST(HandlerExchange, KeepsTheOrderOfHandlersThatComeInBetweenTwoStepsAndAgainBetweenTheNextTwo)
+{
+    for (std::size_t number = 0; number < kAllActs.size() * kAllActs.size(); ++number) {
+        for (int moment = 0; moment < kMoments; ++moment) {
+            for (const Acts& before : {Acts{}, kPushTwo}) {
+                SCOPED_TRACE(::testing::Message() << before.size() << moment << ' ' << number);
+                CProcess process;
+                contest(process);
+                process.act(before);
+                process.interrupt(moment, {kAllActs[number % kAllActs.size()],
+                                           kAllActs[number / kAllActs.size()]});
+                process.putFilterInFront();
+                EXPECT_TRUE(process.hasAlwaysReachedFirstHandler());
+                EXPECT_TRUE(process.isInOrder());
+                process.popAll();
+                EXPECT_TRUE(process.isInOrder());
+            }
+        }
+    }
+}
+
 TEST(HandlerExchange, KeepsTheOrderOfHandlersForEver)
 {
     CProcess process;
+    contest(process);
     std::mt19937 random(7);
+    const auto someActs = [&random] { return kAllActs[random() % kAllActs.size()]; };
     for (int step = 0; step < 100'000; ++step) {
-        process.act(kAllActs[random() % kAllActs.size()]);
+        process.act(someActs());
         if (random() % 1000 == 0)
             process.interrupt(static_cast<int>(random() % kMoments),
-                              kAllActs[random() % kAllActs.size()]);
+                              {someActs(), someActs(), someActs(), someActs()});
         if (random() % 2 == 0)
             process.putFilterInFront();
         else
             process.takeFilterAway();
         ASSERT_TRUE(process.isInOrder()) << step;
+        ASSERT_TRUE(process.hasAlwaysReachedFirstHandler()) << step;
     }
 }
 
@@ -242,7 +301,7 @@ TEST(HandlerExchange, KeepsTheMeaningOfAFilterThatWasGivenBackForMessagesThatAre
     const QtMessageHandler host = process.inForce();
     contest(process);
     process.popAll();
-    process.interrupt(1, kPushAndPop);
+    process.interrupt(1, {kPushAndPop});
     process.putFilterInFront();
     const QtMessageHandler previous = process.firstPrevious();
     process.act(kPushTwo);
@@ -255,7 +314,7 @@ TEST(HandlerExchange, StillPutsAFilterInFrontAfterThousandsOfExchangesAndInterru
     CProcess process;
     for (int i = 0; i < 10'000; ++i) {
         process.act(kPushTwo);
-        process.interrupt(1, kPushAndPop);
+        process.interrupt(1, {kPushAndPop});
         process.putFilterInFront();
         process.popAll();
         process.putFilterInFront();
@@ -269,15 +328,15 @@ TEST(HandlerExchange, StillPutsAFilterInFrontAfterThousandsOfExchangesAndInterru
 // Filters of which there are no more.
 TEST(HandlerExchange, KeepsTheOrderOfHandlersWhenItHasUsedUpItsFilters)
 {
-    constexpr int kMostFiltersOfACall = 4;
+    constexpr int kMostFiltersOfACall = 6;
     for (int rests = 0; rests < kMostFiltersOfACall; ++rests) {
         CProcess process;
         for (int i = 0; i < rests; ++i) {
-            process.interrupt(0, {});
+            process.interrupt(0, {Acts{}});
             process.putFilterInFront();
         }
         for (std::size_t i = 0; i < CMessageFilters::kCount; ++i) {
-            process.interrupt(1, kPushTwo);
+            process.interrupt(1, {kPushTwo});
             process.putFilterInFront();
             ASSERT_TRUE(process.isInOrder()) << rests << ' ' << i;
             process.popAll();
