@@ -3,9 +3,13 @@
 """Measures what Python adds to a chart, on a machine that does nothing else:
 
     PYTHONPATH=build/release/bindings/python python3 benchmarks/python_overhead.py
+
+With --instructions it counts them by valgrind, on any machine: all of a chart, and those inside the
+library's C functions.
 """
 
 import os
+import re
 import statistics
 import subprocess
 import sys
@@ -20,6 +24,13 @@ PAIRS = [(f"Item {i}", 1000 + 137 * i) for i in range(12)]
 ROUNDS = 2000
 CHARTS_IN_THREADS = 3000
 FRESH_PROCESSES = 20
+
+INSTRUCTION_CASES = {  # function, items, size in pixels
+    "V12": (tovangl.bars, 12, 800, 400),
+    "P8": (tovangl.pie, 8, 600, 400),
+    "V100": (tovangl.bars, 100, 1600, 600),
+}
+FEW_CHARTS, MANY_CHARTS = 20, 60  # the difference is without the start of the process
 
 FIRST_PICTURE = """
 import time
@@ -102,7 +113,50 @@ def print_overhead(name, fast):
     )
 
 
+def draw_for_counting(case, way, charts):
+    """What a process does whose instructions are counted."""
+    make, items, width, height = INSTRUCTION_CASES[case]
+    pairs = [(f"Item {i}", 1000 + 137 * i) for i in range(items)]
+    settings = {"fast": True} if way == "fast" else {}
+    for _ in range(int(charts)):
+        make(pairs, width=width, height=height, **settings).render()
+
+
+def instructions_of_a_chart(case, way, *options):
+    """Those of the whole process, or as the options of callgrind limit them."""
+    counts = []
+    for charts in (FEW_CHARTS, MANY_CHARTS):
+        command = ["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null", *options]
+        command += [sys.executable, __file__, "--draw", case, way, str(charts)]
+        told = subprocess.run(command, check=True, capture_output=True, text=True).stderr
+        counts.append(int(re.search(r"Collected : (\d+)", told)[1]))
+    return (counts[1] - counts[0]) / (MANY_CHARTS - FEW_CHARTS)
+
+
+def print_instructions():
+    """One line for each chart and way of saving."""
+    for case in INSTRUCTION_CASES:
+        for way in ("default", "fast"):
+            inside = instructions_of_a_chart(case, way, "--toggle-collect=tovangl_chart_*")
+            added = instructions_of_a_chart(case, way) - inside
+            print(
+                f"{case}, {way}: {inside / 1e6:.3f} million in the library, "
+                f"{added / 1e6:.3f} million around it: {100 * added / inside:.1f} %",
+                flush=True,
+            )
+
+
 def main():
+    if sys.argv[1:2] == ["--draw"]:
+        draw_for_counting(*sys.argv[2:])
+    elif sys.argv[1:] == ["--instructions"]:
+        print_instructions()
+    else:
+        print_times()
+
+
+def print_times():
+    """All that a clock measures."""
     print(f"load: {os.getloadavg()[0]:.1f}; lowest (median)")
     times = first_picture_times()
     print(f"import to first picture: {times[0]:.0f} ({statistics.median(times):.0f}) ms")
