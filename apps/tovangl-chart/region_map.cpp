@@ -31,11 +31,19 @@ Json regionJson(const Slice& slice)
             {"height", slice.height}, {"start", slice.start}, {"span", slice.span}};
 }
 
+Json itemJson(const ChartItem& item)
+{
+    Json json = {{"value", item.value}, {"caption", item.caption}};
+    if (!item.link.empty())
+        json["link"] = item.link;
+    return json;
+}
+
 Json itemsJson(const ChartItems& items)
 {
     Json result = Json::array();
     for (const ChartItem& item : items)
-        result.push_back({{"value", item.value}, {"caption", item.caption}});
+        result.push_back(itemJson(item));
     return result;
 }
 

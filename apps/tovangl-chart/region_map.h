@@ -40,7 +40,8 @@ struct ChartRegions
 };
 
 /// An object with the chart's kind, description, title and size, and for each item and the others
-/// the value, the caption and the regions, null where nothing was drawn.
+/// the value, the caption, the link where there is one, and the regions, null where nothing was
+/// drawn.
 [[nodiscard]] std::string regionMapJson(const ChartItems& items, const ChartRegions& regions);
 
 /// The same object without any line break.

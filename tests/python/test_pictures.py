@@ -10,7 +10,7 @@ from xml.etree import ElementTree
 
 import pytest
 
-from tovangl import Picture, PictureError, Rectangle, bars, hbars, pie
+from tovangl import Item, Picture, PictureError, Rectangle, bars, hbars, pie
 
 WEEK = {"Monday": 320, "Tuesday": 410, "Wednesday": 275, "Thursday": 180}
 
@@ -57,6 +57,20 @@ def test_what_is_not_drawn_has_no_region():
 
 def test_the_others_have_a_region_of_their_own():
     assert len(pie({"a": 99, "b": 1}, threshold=5, others="rest").render().regions.slices) == 3
+
+
+def test_the_regions_tell_where_items_lead():
+    chart = pie([Item("a", 99, link="#a"), ("b", 1), ("c", 1)], threshold=5)
+    assert chart.render().regions.links == ["#a", None, None]
+    assert chart.render_svg().regions == chart.render().regions
+    assert chart.render_pdf().regions.links == ["#a", None, None]
+    assert pickle.loads(pickle.dumps(chart.render())).regions.links == ["#a", None, None]
+    assert pie(WEEK).render().regions.links is None
+
+
+def test_the_links_have_an_entry_for_the_others():
+    chart = pie([Item("a", 99, link="#a"), ("b", 1)], threshold=5, others="rest")
+    assert chart.render().regions.links == ["#a", None, None]
 
 
 def test_the_polygon_of_a_slice_begins_at_the_centre():

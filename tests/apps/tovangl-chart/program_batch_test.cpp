@@ -246,6 +246,18 @@ TEST(Batch, LeadsFromItemsToTheirLinks)
     EXPECT_THAT(folder.read("p/a.svg"), HasSubstr("href=\"a.html?b&amp;c\""));
 }
 
+TEST(Batch, MapsAndFramesTellWhereItemsLead)
+{
+    const CTemporaryFolder folder;
+    const std::string line =
+        R"({"chart": "bars", "id": "a", "items": [{"value": 1, "link": "#a"}, {"value": 2}]})";
+    runLines(folder, line, "-o p --maps");
+    const Json items = Json::parse(folder.read("p/a.json"))["items"];
+    EXPECT_EQ(items[0]["link"], "#a");
+    EXPECT_FALSE(items[1].contains("link"));
+    EXPECT_THAT(runLines(folder, line, "--frames").output, HasSubstr(R"("link":"#a")"));
+}
+
 TEST(Batch, ALinkThatRunsAScriptCostsOnlyItsLine)
 {
     const CTemporaryFolder folder;

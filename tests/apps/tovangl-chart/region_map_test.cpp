@@ -42,6 +42,17 @@ TEST(RegionMap, HoldsEveryItemWithItsRectangles)
         ]})"));
 }
 
+TEST(RegionMap, OnlyAnItemThatLeadsToAnAddressHasALink)
+{
+    ChartItems items = itemsOf({1, 2});
+    items[1].link = "a.html?b&c#\"d\"";
+    ChartRegions regions;
+    regions.captions = {kFirst, kSecond};
+    const auto map = nlohmann::json::parse(regionMapLine(items, regions));
+    EXPECT_FALSE(map["items"][0].contains("link"));
+    EXPECT_EQ(map["items"][1]["link"], "a.html?b&c#\"d\"");
+}
+
 TEST(RegionMap, APieHasSlicesAndNoBars)
 {
     ChartRegions regions;

@@ -118,12 +118,12 @@ class Chart:
         its value, PictureError where the picture cannot be made, and MemoryError.
         """
         chart = self._library_chart()
-        _, _, _, width, height, factor, _ = self._fields
+        _, items, _, width, height, factor, _ = self._fields
         if factor is None:
             png = _draw(chart, lib.tovangl_chart_render, width, height)
         else:
             png = _draw(chart, lib.tovangl_chart_render_for_print, width, height, factor)
-        return Picture(png, width, height, chart)
+        return Picture(png, width, height, chart, items.links)
 
     def render_svg(self) -> SvgPicture:
         """Draws the chart as SVG: shapes and texts instead of pixels, with nothing for ``print``.
@@ -135,7 +135,7 @@ class Chart:
         """
         chart = self._library_chart()
         svg = _draw(chart, lib.tovangl_chart_render_svg, self.width, self.height)
-        return SvgPicture(svg, self.width, self.height, chart)
+        return SvgPicture(svg, self.width, self.height, chart, self.items.links)
 
     def render_pdf(self) -> PdfPicture:
         """Draws the chart as a PDF page for paper, whose size is ``width`` and ``height`` in points.
@@ -147,7 +147,7 @@ class Chart:
         """
         chart = self._library_chart()
         pdf = _draw(chart, lib.tovangl_chart_render_pdf, self.width, self.height)
-        return PdfPicture(pdf, self.width, self.height, chart)
+        return PdfPicture(pdf, self.width, self.height, chart, self.items.links)
 
     def _library_chart(self) -> Any:
         kind, items, _, _, _, _, settings = self._fields

@@ -159,7 +159,7 @@ def _read_items(trial: Any, kind: str, entries: Any) -> Items:
         [entry.get("outline") for entry in entries],
         [entry.get("link") for entry in entries],
     )
-    if items.has_links:
+    if items.links is not None:
         _require_links(trial, items)
     return items
 

@@ -135,9 +135,9 @@ class Items(Sequence[Item]):
         return self._outlines is not None
 
     @property
-    def has_links(self) -> bool:
-        """Whether an item leads to an address."""
-        return self._links is not None
+    def links(self) -> Optional[Tuple[Optional[str], ...]]:
+        """The address that each item leads to, with None where there is none; or None: no links."""
+        return self._links
 
     def __len__(self) -> int:
         return len(self._captions)

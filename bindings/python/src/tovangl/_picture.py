@@ -14,6 +14,7 @@ if TYPE_CHECKING:
     from collections.abc import Callable
 
 Record = TypeVar("Record")
+Links = Tuple[Optional[str], ...]
 
 PNG = "image/png"
 SVG = "image/svg+xml"
@@ -68,6 +69,8 @@ class Regions(NamedTuple):
     """None for a pie."""
     slices: Optional[List[Optional[Slice]]]
     """None for bars."""
+    links: Optional[List[Optional[str]]] = None
+    """The addresses that items lead to; None where no item has one."""
 
 
 class _Facts(NamedTuple):
@@ -79,7 +82,7 @@ class _Facts(NamedTuple):
 class _Rendering:
     """A rendered chart: the bytes of a file, and what the library tells of it."""
 
-    __slots__ = ("width", "height", "_bytes", "_source", "_lock")
+    __slots__ = ("width", "height", "_bytes", "_source", "_links", "_lock")
 
     width: int
     """The width to show it with, in points for a PDF file; a PNG has ``scale`` or ``print`` times as
@@ -87,20 +90,24 @@ class _Rendering:
     height: int
     """The same for its height."""
 
-    def __init__(self, data: bytes, width: int, height: int, source: Any) -> None:
+    def __init__(
+        self, data: bytes, width: int, height: int, source: Any, links: Optional[Links] = None
+    ) -> None:
         """Made by the functions of Chart.
 
         :param source: the library's chart, which has rendered the picture and is the picture's now
+        :param links: of its items
         """
         self.width = width
         self.height = height
         self._bytes = data
         self._source = source
+        self._links = links
         self._lock = Lock()
 
     @property
     def regions(self) -> Regions:
-        """Where the title, the captions, and the bars or slices were drawn."""
+        """Where the title, the captions, and the bars or slices were drawn, and where they lead."""
         return self._facts().regions
 
     @property
@@ -148,8 +155,9 @@ class _Rendering:
     # at a time may ask the library's chart.
     def _facts(self) -> _Facts:
         with self._lock:
-            facts = self._source if isinstance(self._source, _Facts) else _ask(self._source)
-            self._source = facts
+            if not isinstance(self._source, _Facts):
+                self._source = _ask(self._source, self._links)
+            facts: _Facts = self._source
             return facts
 
 
@@ -221,19 +229,26 @@ def check(chart: Any, status: int) -> None:
         fail(status, text_of(lib.tovangl_chart_error(chart)))
 
 
-def _ask(chart: Any) -> _Facts:
+def _ask(chart: Any, links: Optional[Links]) -> _Facts:
     description = ffi.new("const char **")
     check(chart, lib.tovangl_chart_describe(chart, description))
+    captions = _rectangles(chart, lib.tovangl_chart_caption_rectangles) or []
     return _Facts(
         Regions(
             title=_title(chart),
-            captions=_rectangles(chart, lib.tovangl_chart_caption_rectangles) or [],
+            captions=captions,
             bars=_rectangles(chart, lib.tovangl_chart_bar_rectangles),
             slices=_slices(chart),
+            links=None if links is None else _links_of_regions(links, len(captions)),
         ),
         text_of(description[0]),
         text_of(lib.tovangl_chart_problem_text(chart)),
     )
+
+
+def _links_of_regions(links: Links, regions: int) -> List[Optional[str]]:
+    """One for each item, and none for the others, which stand behind the items."""
+    return [*links, *[None] * (regions - len(links))]
 
 
 def _title(chart: Any) -> Optional[Rectangle]:
