@@ -68,6 +68,17 @@ TEST(PdfProperties, TheDescriptionIsThereForThoseWhoDoNotSeeThePage)
     EXPECT_THAT(objectsOf(chart), HasSubstr("/Alt"));
 }
 
+// Readers find what a figure shows by a number that it has in common with a part of the page. The
+// description does not name the item between the greatest and the least.
+TEST(PdfProperties, TheFigureIsWhatThePageShows)
+{
+    CAnyChart chart = spending();
+    chart.addItem(900, "Books");
+    EXPECT_THAT(
+        readPdf(chart.createPdf(kWidth, kHeight).bytes(), "pdfinfo -struct-text picture.pdf"),
+        HasSubstr("Books"));
+}
+
 TEST(PdfProperties, TheLanguageIsThatOfTheLocale)
 {
     CAnyChart chart = spending();
