@@ -25,6 +25,9 @@ constexpr double kHalf = 0.5;
 constexpr double kLongestArc = 120; // degrees
 // Pixels. A thinner line is painted as wide as this, but the paler.
 constexpr double kThinnestLine = 1;
+// Pixels. An outline that is no wider than the thinnest line is painted along chords of the rim. An
+// arc that lies this far inside of it is nearer to them, and rounder than they are in a large view.
+constexpr double kChordInset = 0.04;
 
 double degrees(int units)
 {
@@ -48,6 +51,15 @@ void addRim(CSvgPath& path, const QRectF& pie, double start, double span)
         const QPointF end = onRim(pie, start + span * i / arcs);
         path.arc(pie.width() * kHalf, pie.height() * kHalf, span < 0, end.x(), end.y());
     }
+}
+
+// The ellipse that slices are outlined along.
+QRectF outlinedPie(const CPieLayout& layout)
+{
+    const QRectF& pie = layout.drawnPieRect;
+    const double most = layout.outlineWidth > kThinnestLine ? 0 : kChordInset;
+    const double inset = std::min(most, pie.width() * kHalf);
+    return pie.adjusted(inset, inset, -inset, -inset);
 }
 
 std::string slicePath(const QRectF& pie, const CSliceAngles& angles, bool isWholeDisc)
@@ -91,7 +103,7 @@ double strokeWidth(const CPieLayout& layout, const CSliceAngles& angles)
 void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
 {
     scene.markup.begin("path").attribute(
-        "d", slicePath(layout.drawnPieRect, slice.angles, layout.isWholeDisc));
+        "d", slicePath(outlinedPie(layout), slice.angles, layout.isWholeDisc));
     scene.colors.paint(scene.markup, {{"fill", slice.color}, {"stroke", layout.outlineColor}});
     writeStrokeWidth(scene.markup, strokeWidth(layout, slice.angles));
     scene.markup.end();
@@ -115,12 +127,29 @@ void writeBeam(CSvgScene& scene, const CPieLayout& layout, const QPointF& from, 
     scene.markup.attribute("stroke-dasharray", dashes).end();
 }
 
+// How far beside its place a thin line with square ends is painted: half of what it climbs or falls
+// in a pixel, to a side that depends on the half of a pixel that it begins in.
+QPointF paintedShift(const QPointF& from, const QPointF& to)
+{
+    const QPointF way = to - from;
+    const bool isSteep = std::fabs(way.x()) < std::fabs(way.y());
+    const double along = isSteep ? way.y() : way.x();
+    if (along == 0)
+        return QPointF();
+    const double slope = (isSteep ? way.x() : way.y()) / along;
+    const double begin = isSteep ? std::min(from.y(), to.y()) : std::min(from.x(), to.x());
+    const double shift = begin - std::floor(begin) < kHalf ? kHalf * slope : -kHalf * slope;
+    return isSteep ? QPointF(shift, 0) : QPointF(0, shift);
+}
+
 // From the elbow to the text.
 void writeTextLine(CSvgScene& scene, const CPieLayout& layout, const QPointF& from,
                    const QPointF& to)
 {
-    scene.markup.begin("path").attribute("d", linePath(from, to));
-    if (layout.textLineWidth < kThinnestLine) {
+    const bool isThin = layout.textLineWidth < kThinnestLine;
+    const QPointF shift = isThin ? paintedShift(from, to) : QPointF();
+    scene.markup.begin("path").attribute("d", linePath(from + shift, to + shift));
+    if (isThin) {
         const QPointF way = to - from;
         writeStrokeWidth(scene.markup,
                          paintedWidth(qRadiansToDegrees(std::atan2(way.y(), way.x()))));
