@@ -88,13 +88,19 @@ void CPdfContent::showText(const QString& text, const std::vector<CShapedRun>& r
     if (color.alpha() == 0)
         return;
     change(m_state.fill, pdfColor(color) + "rg\n");
-    const bool isRead = runs.size() == 1 && tellLetters(runs.front());
-    if (!isRead)
-        m_bytes += "/Span<</ActualText" + pdfString(text) + ">>BDC\n";
+    const bool isOne = runs.size() == 1;
+    if (isOne && tellLetters(runs.front())) {
+        showRun(runs.front(), glyphsOf(runs.front()), toPage);
+        return;
+    }
+    if (isOne && canHaveCells(runs.front())) {
+        showRun(runs.front(), cellsOf(runs.front()), toPage);
+        return;
+    }
+    m_bytes += "/Span<</ActualText" + pdfString(text) + ">>BDC\n";
     for (const CShapedRun& run : runs)
-        showRun(run, toPage);
-    if (!isRead)
-        m_bytes += "EMC\n";
+        showRun(run, glyphsOf(run), toPage);
+    m_bytes += "EMC\n";
 }
 
 std::string CPdfContent::bytes() const
@@ -169,40 +175,72 @@ std::vector<std::uint16_t> CPdfContent::numbersOf(std::size_t font, const CShape
     return {halves.left, halves.right};
 }
 
+CPdfContent::CFileGlyphs CPdfContent::glyphsOf(const CShapedRun& run)
+{
+    CFileGlyphs glyphs{fontFor(run.face), run.positions, {}};
+    for (std::size_t i = 0; i < run.glyphs.size(); ++i)
+        glyphs.numbers.push_back(numbersOf(glyphs.font, run, i));
+    return glyphs;
+}
+
+// Readers that go by places take the text of a span for one from left to right.
+bool CPdfContent::canHaveCells(const CShapedRun& run)
+{
+    return !run.turnedLetters.empty() &&
+           m_fonts[fontFor(run.face)].hasRoomForCells(run.turnedLetters.size());
+}
+
+// As many glyphs as there are letters, though none of them looks like its letter alone.
+CPdfContent::CFileGlyphs CPdfContent::cellsOf(const CShapedRun& run)
+{
+    CFileGlyphs glyphs{fontFor(run.face), {}, {}};
+    CPdfFont& font = m_fonts[glyphs.font];
+    const CLetterCells cells = letterCells(run, run.right, run.turnedLetters.size());
+    for (std::size_t i = 0; i < cells.cells.size(); ++i) {
+        const std::uint16_t number =
+            font.addCell(cells.cells[i], cells.width, run.face.pixelSize());
+        static_cast<void>(font.tell(number, run.turnedLetters[i]));
+        glyphs.positions.emplace_back(cells.cells[i].left, 0);
+        glyphs.numbers.push_back({number});
+    }
+    return glyphs;
+}
+
 // What a font that must not be part of the file shows, shapes do. Its glyphs are there unseen, so
 // that readers find and select the text.
-void CPdfContent::showRun(const CShapedRun& run, const QTransform& toPage)
+void CPdfContent::showRun(const CShapedRun& run, const CFileGlyphs& glyphs,
+                          const QTransform& toPage)
 {
-    const std::size_t font = fontFor(run.face);
-    if (m_fonts[font].isEmbeddable()) {
-        showGlyphs(font, run, toPage);
+    const double size = run.face.pixelSize();
+    if (m_fonts[glyphs.font].isEmbeddable()) {
+        showGlyphs(glyphs, size, toPage);
         return;
     }
     fillOutlines(run, toPage);
     m_bytes += "3 Tr\n";
-    showGlyphs(font, run, toPage);
+    showGlyphs(glyphs, size, toPage);
     m_bytes += "0 Tr\n";
 }
 
 // Each glyph has the place that the layout gave it. Where the font's own widths lead elsewhere,
 // which are not those of letters fitted to pixels, the pen is moved.
-void CPdfContent::showGlyphs(std::size_t font, const CShapedRun& run, const QTransform& toPage)
+void CPdfContent::showGlyphs(const CFileGlyphs& glyphs, double size, const QTransform& toPage)
 {
-    const double size = run.face.pixelSize();
-    m_bytes += "BT\n/F" + std::to_string(font) + ' ' + pdfNumber(size) + " Tf\n";
+    const std::vector<QPointF>& positions = glyphs.positions;
+    m_bytes += "BT\n/F" + std::to_string(glyphs.font) + ' ' + pdfNumber(size) + " Tf\n";
     std::size_t i = 0;
-    while (i < run.glyphs.size()) {
-        const QPointF start = run.positions[i];
+    while (i < positions.size()) {
+        const QPointF start = positions[i];
         double pen = start.x();
         m_bytes += textMatrix(toPage, start) + "[<";
-        for (; i < run.glyphs.size() && isOnOneLine(run.positions[i], start); ++i) {
-            const long move = std::lround((pen - run.positions[i].x()) * kThousand / size);
+        for (; i < positions.size() && isOnOneLine(positions[i], start); ++i) {
+            const long move = std::lround((pen - positions[i].x()) * kThousand / size);
             if (move != 0)
                 m_bytes += '>' + std::to_string(move) + '<';
             pen -= static_cast<double>(move) * size / kThousand;
-            for (const std::uint16_t number : numbersOf(font, run, i)) {
+            for (const std::uint16_t number : glyphs.numbers[i]) {
                 m_bytes += pdfHex(number);
-                pen += m_fonts[font].advance(number) * size / kThousand;
+                pen += m_fonts[glyphs.font].advance(number) * size / kThousand;
             }
         }
         m_bytes += ">]TJ\n";

@@ -50,6 +50,14 @@ private:
         std::string pen;
     };
 
+    // What a run looks like in the file.
+    struct CFileGlyphs
+    {
+        std::size_t font = 0;
+        std::vector<QPointF> positions;
+        std::vector<std::vector<std::uint16_t>> numbers; // one after the other at each position
+    };
+
     void change(std::string& setting, const std::string& wanted);
     void fillWithGradient(const QPainterPath& path, const QGradient& gradient,
                           const QTransform& toPage);
@@ -57,8 +65,11 @@ private:
     [[nodiscard]] bool tellLetters(const CShapedRun& run);
     [[nodiscard]] std::vector<std::uint16_t> numbersOf(std::size_t font, const CShapedRun& run,
                                                        std::size_t glyph);
-    void showRun(const CShapedRun& run, const QTransform& toPage);
-    void showGlyphs(std::size_t font, const CShapedRun& run, const QTransform& toPage);
+    [[nodiscard]] CFileGlyphs glyphsOf(const CShapedRun& run);
+    [[nodiscard]] bool canHaveCells(const CShapedRun& run);
+    [[nodiscard]] CFileGlyphs cellsOf(const CShapedRun& run);
+    void showRun(const CShapedRun& run, const CFileGlyphs& glyphs, const QTransform& toPage);
+    void showGlyphs(const CFileGlyphs& glyphs, double size, const QTransform& toPage);
     void fillOutlines(const CShapedRun& run, const QTransform& toPage);
 
     std::string m_bytes;

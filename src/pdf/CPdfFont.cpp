@@ -21,6 +21,8 @@ namespace {
 constexpr int kThousand = 1000;          // parts of a font's size that lengths in PDF are given in
 constexpr int kDefaultUnitsPerEm = 1000; // of a font without outlines
 constexpr std::uint32_t kMissingGlyph = 0;
+// A font file has twice that number, of which the rest stays for the glyphs of the face.
+constexpr std::size_t kMostGlyphsWithCells = 32767;
 constexpr int kTagLetters = 6;
 constexpr std::size_t kMostMappings = 100; // in one block of a table of characters
 
@@ -114,6 +116,25 @@ CGlyphHalves CPdfFont::useInHalves(std::uint32_t glyph)
     const CGlyphHalves halves{add(std::move(left)), add(std::move(right))};
     m_halves[glyph] = halves;
     return halves;
+}
+
+bool CPdfFont::hasRoomForCells(std::size_t cells) const
+{
+    return m_glyphs.size() + cells <= kMostGlyphsWithCells;
+}
+
+std::uint16_t CPdfFont::addCell(const CLetterCell& cell, double width, double size)
+{
+    const double units = m_box.unitsPerEm / size;
+    CFontGlyph glyph;
+    glyph.advance = static_cast<int>(std::lround(width * units));
+    QPainterPath outlines;
+    outlines.setFillRule(Qt::WindingFill);
+    for (const CCellGlyph& part : cell.glyphs)
+        outlines.addPath(m_outlines.pathForGlyph(part.glyph).translated(part.place * units));
+    if (m_isEmbeddable)
+        glyph.contours = toContours(outlines);
+    return add(std::move(glyph));
 }
 
 CFontGlyph CPdfFont::outlineOf(std::uint32_t glyph)

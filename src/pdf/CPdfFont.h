@@ -4,6 +4,7 @@
 #ifndef TOVANGL_PDF_CPDFFONT_H
 #define TOVANGL_PDF_CPDFFONT_H
 
+#include "pdf/letter_cells.h"
 #include "pdf/true_type_file.h"
 
 #include <QByteArray>
@@ -42,6 +43,12 @@ public:
     /// The same for a glyph that joins two letters: each gets half of its width. Of two letters of
     /// one glyph, readers that go by places take the left one for the first, whatever the script.
     [[nodiscard]] CGlyphHalves useInHalves(std::uint32_t glyph);
+    /// Whether addCell() can be called so many times.
+    [[nodiscard]] bool hasRoomForCells(std::size_t cells) const;
+    /// A new glyph of the file, of the width of a cell and with the look of all that stands in it.
+    ///
+    /// @param size  of the font, in pixels
+    [[nodiscard]] std::uint16_t addCell(const CLetterCell& cell, double width, double size);
     /// Says what a glyph of the file stands for, which is a letter or several joined.
     ///
     /// @return false if it already stands for something else

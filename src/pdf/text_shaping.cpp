@@ -93,6 +93,13 @@ bool hasMarks(const QString& text)
     return std::any_of(text.begin(), text.end(), [](QChar unit) { return unit.isMark(); });
 }
 
+std::vector<QString> turnedLettersOf(const QString& text)
+{
+    std::vector<QString> letters = lettersOf(text);
+    std::reverse(letters.begin(), letters.end());
+    return letters;
+}
+
 // Letters that are read from right to left have other forms in a word, but keep their order. Of all
 // others, those count whose glyphs are the ones that the font has for single letters.
 std::vector<QString> lettersOf(const CShapedRun& run, const QTextItem& item)
@@ -151,10 +158,15 @@ std::vector<CShapedRun> shapeItem(const QTextItem& item)
         if (!run.isEmpty())
             runs.push_back(toRun(run, origin, item));
     }
-    if (runs.size() == 1)
+    if (runs.size() == 1) {
         runs.front().letters = lettersOf(runs.front(), item);
-    if (isRightToLeft(item))
+        runs.front().right = item.width();
+    }
+    if (isRightToLeft(item)) {
         turnAround(runs, item.width());
+        for (CShapedRun& run : runs)
+            run.turnedLetters = turnedLettersOf(item.text());
+    }
     return runs;
 }
 

@@ -23,6 +23,9 @@ struct CShapedRun
     std::vector<QPointF> positions;    ///< of the glyphs, from the left end of the baseline
     /// What each glyph stands for; empty where letters are joined, reordered or combined.
     std::vector<QString> letters;
+    /// The letters from left to right, if the text is read from right to left.
+    std::vector<QString> turnedLetters;
+    double right = 0; ///< where the run ends, if it is the only one
 };
 
 /// Whether these are the two letters of Arabic that always become one glyph.

@@ -57,6 +57,20 @@ TEST_P(PdfPixels, ShapesStandWithinOnePixelOfThePictureForPrint)
 
 INSTANTIATE_TEST_SUITE_P(MixedCharts, PdfPixels, testing::Range(0u, kChartCount));
 
+// Glyphs of several letters are there as parts of other glyphs.
+TEST(PdfPixels, VowelMarksStandWhereThePictureForPrintHasThem)
+{
+    constexpr int kFitted = 2; // pixels by which letters of the picture are moved
+    CAnyChart chart(ChartKind::HorizontalBars);
+    chart.graph().setFont("DejaVu Sans", 11);
+    for (const char* caption : {"שָׁלוֹם", "لِلْعَرَبِيَّةِ", "السَّلَامُ"})
+        chart.addItem(1, caption);
+    const QImage page = pageOf(chart.createPdf(kWidth, kHeight).bytes());
+    const QImage picture =
+        decodePng(chart.createPixmapForPrinter(kWidth, kHeight, kFactor).bytes());
+    EXPECT_LE(countStrayPixels(page, picture, kFitted), kMostStrayPixels);
+}
+
 TEST(PdfPixels, ATransparentPictureLeavesThePaperAsItIs)
 {
     CAnyChart chart(ChartKind::Pie);

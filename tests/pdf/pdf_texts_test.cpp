@@ -63,11 +63,16 @@ INSTANTIATE_TEST_SUITE_P(FromRightToLeft, PdfTextInScripts,
                          testing::Values("سلام", "لا", "الإسلام", "الآن", "كلأ لأ", "لا (الآن)",
                                          "[שלום] (לא)"));
 
+// Marks have places of their own, or one glyph with each other.
+INSTANTIATE_TEST_SUITE_P(FromRightToLeftWithMarks, PdfTextInScripts,
+                         testing::Values("שָׁלוֹם", "שָׁלוֹם עולם", "עִבְרִית (בדיקה)", "السَّلَامُ", "مُحَمَّد",
+                                         "لِلْعَرَبِيَّةِ", "شُكْرًا"));
+
 // Where glyphs do not tell the letters, a text is there a second time, and can only be marked as a
 // whole. The third caption has two letters that share a glyph.
 TEST(PdfTexts, LettersAreToldByTheirGlyphsInScriptsThatJoinThem)
 {
-    for (const char* caption : {"Größe", "العربية", "سلام", "שלום"}) {
+    for (const char* caption : {"Größe", "العربية", "سلام", "שלום", "مُحَمَّد"}) {
         CAnyChart chart = bars(caption);
         EXPECT_THAT(readPdf(chart.createPdf(kWidth, kHeight).bytes(), "qpdf --qdf picture.pdf -"),
                     Not(HasSubstr("ActualText")))
