@@ -4,6 +4,8 @@
 
 #include "common/html_text.h"
 
+#include <string_view>
+
 namespace tovangl::program {
 
 namespace {
@@ -41,6 +43,20 @@ std::string mappedPictureHtml(const MappedPicture& picture, const CImageMap& map
 std::string embeddedSvgHtml(const std::string& svg)
 {
     return pictureHtml(svg);
+}
+
+std::string withItemTitles(std::string svg, const std::vector<std::string>& titles)
+{
+    constexpr std::string_view kTitle = "<title>";
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        // Quotes are escaped in all texts of the picture.
+        const std::size_t item = svg.find('-' + std::to_string(i) + "\" class=\"item\"");
+        if (item == std::string::npos) // it is not drawn
+            continue;
+        const std::size_t begin = svg.find(kTitle, item) + kTitle.size();
+        svg.replace(begin, svg.find('<', begin) - begin, escapeHtml(titles[i]));
+    }
+    return svg;
 }
 
 } // namespace tovangl::program

@@ -7,6 +7,7 @@
 #include "common/image_map.h"
 
 #include <string>
+#include <vector>
 
 namespace tovangl::program {
 
@@ -34,6 +35,11 @@ struct MappedPicture
 
 /// An SVG picture as a part of the page: it brings its links and its description along.
 [[nodiscard]] std::string embeddedSvgHtml(const std::string& svg);
+
+/// An SVG picture with other texts for the pointer to show on its items.
+///
+/// @param titles  plain text, one for each item of the chart
+[[nodiscard]] std::string withItemTitles(std::string svg, const std::vector<std::string>& titles);
 
 } // namespace tovangl::program
 

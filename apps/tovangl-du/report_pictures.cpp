@@ -10,6 +10,7 @@
 #include <tovangl/VerticalBarGraph.h>
 
 #include <utility>
+#include <vector>
 
 namespace tovangl::program {
 
@@ -36,11 +37,15 @@ Color outlineOf(const Color& color)
     return {color.red * kTwo / kThirds, color.green * kTwo / kThirds, color.blue * kTwo / kThirds};
 }
 
+// What the pointer shows on a row's shapes.
+std::string titleOf(const ReportRow& row, long total)
+{
+    return row.name + ": " + formatBytes(row.bytes) + ", " + formatShare(row.bytes, total);
+}
+
 RegionLink linkOf(const ReportRow& row, long total)
 {
-    const std::string size = formatBytes(row.bytes);
-    return {row.link, row.name + ": " + size + ", " + formatShare(row.bytes, total),
-            row.name + ", " + size};
+    return {row.link, titleOf(row, total), row.name + ", " + formatBytes(row.bytes)};
 }
 
 // The page is in English, and so are its pictures.
@@ -62,9 +67,13 @@ std::string render(Graph& chart, int height, Create create)
 
 ReportPicture embeddedPicture(Graph& chart, int height, const PictureRequest& request)
 {
-    for (std::size_t i = 0; i < request.rows.size(); ++i)
-        chart.setLink(i, request.rows[i].link);
-    return {embeddedSvgHtml(render(chart, height, &Graph::createSvg)), {}};
+    std::vector<std::string> titles;
+    for (const ReportRow& row : request.rows) {
+        chart.setLink(titles.size(), row.link);
+        titles.push_back(titleOf(row, request.total));
+    }
+    const std::string svg = render(chart, height, &Graph::createSvg);
+    return {embeddedSvgHtml(withItemTitles(svg, titles)), {}};
 }
 
 // The picture that the page shows comes last, because a chart tells the regions of its last

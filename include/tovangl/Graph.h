@@ -240,8 +240,8 @@ public:
     /// has the title and the description of the chart. Each item is a group with an id, the class
     /// "item", and its caption and value, which browsers show while the pointer rests on it. The
     /// ids of a picture begin with a few characters that are computed from the picture: in one
-    /// page, only equal pictures share ids. It needs no script and runs none, whatever the captions
-    /// hold.
+    /// page, only equal pictures share ids. That of an item ends in a hyphen and its number, from
+    /// 0. It needs no script and runs none, whatever the captions hold.
     ///
     /// @param width, height  picture size in pixels
     /// @param data, size     as for createPixmap()
