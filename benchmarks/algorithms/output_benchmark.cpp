@@ -36,7 +36,7 @@ void pack(benchmark::State& state)
         state.PauseTiming();
         QImage image = original.copy();
         state.ResumeTiming();
-        benchmark::DoNotOptimize(packPicture(image).rows.size);
+        benchmark::DoNotOptimize(packPicture(image, Compression::Balanced).rows.size);
     }
 }
 BENCHMARK(pack)->ArgName("colors")->Arg(1)->Arg(16)->Arg(256)->Arg(65536);
@@ -44,10 +44,9 @@ BENCHMARK(pack)->ArgName("colors")->Arg(1)->Arg(16)->Arg(256)->Arg(65536);
 void deflate(benchmark::State& state, Compression compression)
 {
     QImage image = stripes(static_cast<int>(state.range(0)));
-    const CPackedPicture packed = packPicture(image);
+    const CPackedPicture packed = packPicture(image, compression);
     for (auto _ : state)
-        benchmark::DoNotOptimize(
-            CDeflater(packed.rows, compression, packed.stillRows).deflate(packed.spare));
+        benchmark::DoNotOptimize(CDeflater(packed, compression).deflate(packed.spare));
 }
 BENCHMARK_CAPTURE(deflate, balanced, Compression::Balanced)->ArgName("colors")->Arg(16)->Arg(65536);
 BENCHMARK_CAPTURE(deflate, fast, Compression::Fast)->ArgName("colors")->Arg(16)->Arg(65536);

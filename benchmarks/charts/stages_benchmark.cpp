@@ -69,7 +69,7 @@ void packing(benchmark::State& state, const CChartCase& chart)
         state.PauseTiming();
         QImage image = original.copy();
         state.ResumeTiming();
-        benchmark::DoNotOptimize(packPicture(image).rows.size);
+        benchmark::DoNotOptimize(packPicture(image, Compression::Balanced).rows.size);
     }
 }
 
@@ -77,10 +77,9 @@ template <typename Chart>
 void compressing(benchmark::State& state, const CChartCase& chart, Compression compression)
 {
     QImage picture = drawPicture(*makeChart<Chart>(chart), chart);
-    const CPackedPicture packed = packPicture(picture);
+    const CPackedPicture packed = packPicture(picture, compression);
     for (auto _ : state)
-        benchmark::DoNotOptimize(
-            CDeflater(packed.rows, compression, packed.stillRows).deflate(packed.spare));
+        benchmark::DoNotOptimize(CDeflater(packed, compression).deflate(packed.spare));
 }
 
 template <typename Chart>

@@ -43,6 +43,19 @@ void CDeflater::CFree::operator()(libdeflate_compressor* compressor) const
     libdeflate_free_compressor(compressor);
 }
 
+// Small pictures take next to no time either way, and libdeflate makes smaller files.
+bool isForDeflateFast(std::size_t bytes, Compression compression)
+{
+    return compression == Compression::Fast && bytes >= kSmallPicture && canDeflateFast();
+}
+
+CDeflater::CDeflater(const CPackedPicture& picture, Compression compression)
+    : m_bytes(picture.rows)
+    , m_compression(compression)
+    , m_still(picture.stillRows)
+    , m_reach(picture.reach)
+{}
+
 CDeflater::CDeflater(CByteRange bytes, Compression compression, CStillRows still)
     : m_bytes(bytes)
     , m_compression(compression)
@@ -51,10 +64,8 @@ CDeflater::CDeflater(CByteRange bytes, Compression compression, CStillRows still
 
 std::size_t CDeflater::deflate(CByteRoom room)
 {
-    // Small pictures take next to no time either way, and libdeflate makes smaller files.
-    const bool isFast = m_compression == Compression::Fast && m_bytes.size >= kSmallPicture;
-    if (isFast && room.size >= kLeastRoom) {
-        if (const std::size_t size = deflateFast(m_bytes, room))
+    if (isForDeflateFast(m_bytes.size, m_compression) && room.size >= kLeastRoom) {
+        if (const std::size_t size = deflateFast(m_bytes, m_reach, room))
             return size;
     }
     if (!m_still.runs.empty()) {

@@ -9,7 +9,7 @@ bool canDeflateFast()
     return false;
 }
 
-std::size_t deflateFast(CByteRange, CByteRoom)
+std::size_t deflateFast(CByteRange, Reach, CByteRoom)
 {
     return 0;
 }

@@ -4,7 +4,8 @@
 #ifndef TOVANGL_OUTPUT_PACKED_PICTURE_H
 #define TOVANGL_OUTPUT_PACKED_PICTURE_H
 
-#include "output/CByteRange.h"
+#include "output/fast_deflating.h"
+#include <tovangl/Compression.h>
 
 #include <QRgb>
 
@@ -22,13 +23,15 @@ enum class RowFilter : unsigned char
     Up = 2    ///< the differences from the bytes above
 };
 
-/// The filter that makes palette rows compress better. It depends only on their length and on how
-/// many of them repeat the row above.
+/// The filter that makes palette rows compress better. It depends only on their length, on how many
+/// of them repeat the row above, and on the compressor.
 ///
-/// @param rowBytes   length of a packed row
-/// @param repeated   rows that repeat the row above
-/// @param others     all other rows
-[[nodiscard]] RowFilter chooseFilter(std::size_t rowBytes, int repeated, int others);
+/// @param rowBytes    length of a packed row
+/// @param repeated    rows that repeat the row above
+/// @param others      all other rows
+/// @param compressor  Fast if the fastest one compresses them
+[[nodiscard]] RowFilter chooseFilter(std::size_t rowBytes, int repeated, int others,
+                                     Compression compressor);
 
 /// The smallest of 1, 2, 4 and 8 bits that can number that many colours.
 [[nodiscard]] int paletteDepth(int colors);
@@ -62,6 +65,7 @@ struct CPackedPicture
     bool hasAlpha = false;     ///< the channels are red, green, blue and alpha; else without alpha
     CByteRange rows;           ///< each one begins with its filter
     CStillRows stillRows;      ///< what findStillRows() finds; none without the filter Up
+    Reach reach = Reach::Far;  ///< how far it pays to look back
     CByteRoom spare;           ///< the part of the picture's memory that the rows do not need
     std::unique_ptr<unsigned char[]> ownMemory; ///< that of the rows where the picture's is short
 };
@@ -69,9 +73,10 @@ struct CPackedPicture
 /// Packs a picture as narrowly as its colours allow: as a palette if it has at most 256 colours,
 /// otherwise as red, green and blue, with alpha only if a pixel is not opaque.
 ///
-/// @param picture  in ARGB32. Its pixels are overwritten, because its memory takes what is made of
-///                 them, to avoid a second picture. It must outlive the result.
-[[nodiscard]] CPackedPicture packPicture(QImage& picture);
+/// @param picture      in ARGB32. Its pixels are overwritten, because its memory takes what is made
+///                     of them, to avoid a second picture. It must outlive the result.
+/// @param compression  what the rows are compressed with, which decides on their filters
+[[nodiscard]] CPackedPicture packPicture(QImage& picture, Compression compression);
 
 } // namespace tovangl
 

@@ -16,8 +16,8 @@ CPictureFile encodePng(QImage& picture, Compression compression)
 {
     if (picture.isNull())
         return noPictureFile();
-    const CPackedPicture packed = packPicture(picture);
-    CDeflater deflater(packed.rows, compression, packed.stillRows);
+    const CPackedPicture packed = packPicture(picture, compression);
+    CDeflater deflater(packed, compression);
     // For nearly every chart the compressed rows fit into the memory that packing has freed.
     if (const std::size_t size = deflater.deflate(packed.spare)) {
         CPngBuilder builder(packed, size);

@@ -46,13 +46,13 @@ TEST(PackedPicture, PutsTheFirstPixelIntoTheHighestBits)
     picture.setPixel(0, 0, qRgb(0, 0, 0));
     picture.setPixel(1, 0, qRgb(1, 1, 1));
     picture.setPixel(2, 0, qRgb(2, 2, 2));
-    EXPECT_THAT(rowsOf(packPicture(picture)), ElementsAre(0, 0b00011000));
+    EXPECT_THAT(rowsOf(packPicture(picture, Compression::Balanced)), ElementsAre(0, 0b00011000));
 }
 
 TEST(PackedPicture, HoldsRedGreenAndBlueWhereColoursAreMany)
 {
     QImage picture = pictureOfColors(257);
-    const CPackedPicture packed = packPicture(picture);
+    const CPackedPicture packed = packPicture(picture, Compression::Balanced);
     EXPECT_TRUE(packed.palette.empty());
     EXPECT_EQ(packed.rows.size, 1 + 257 * 3u);
     EXPECT_EQ(packed.rows.data[1 + 256 * 3 + 1], 1);
@@ -62,7 +62,7 @@ TEST(PackedPicture, HoldsAlphaTooWhereOneOfManyColoursIsNotOpaque)
 {
     QImage picture = pictureOfColors(257);
     picture.setPixel(256, 0, qRgba(1, 2, 3, 4));
-    const CPackedPicture packed = packPicture(picture);
+    const CPackedPicture packed = packPicture(picture, Compression::Balanced);
     EXPECT_TRUE(packed.hasAlpha);
     const std::vector<int> row = rowsOf(packed);
     EXPECT_EQ(row.size(), 1 + 257 * 4u);
@@ -74,7 +74,7 @@ TEST(PackedPicture, LiesInThePicturesOwnMemory)
     for (const int colors : {1, 3, 12, 200, 100000}) {
         QImage picture = randomPicture(1, 61, 47, colors);
         const unsigned char* const memory = picture.bits();
-        const CPackedPicture packed = packPicture(picture);
+        const CPackedPicture packed = packPicture(picture, Compression::Balanced);
         EXPECT_EQ(packed.rows.data, memory);
         EXPECT_EQ(packed.spare.data, memory + packed.rows.size);
         EXPECT_EQ(packed.rows.size + packed.spare.size, 61 * 47 * 4u);
@@ -85,7 +85,7 @@ TEST(PackedPicture, LeavesThePicturesMemoryFreeWhereItsRowsHoldAlpha)
 {
     QImage picture = translucentNoise(1, 61, 47);
     const unsigned char* const memory = picture.bits();
-    const CPackedPicture packed = packPicture(picture);
+    const CPackedPicture packed = packPicture(picture, Compression::Balanced);
     EXPECT_EQ(packed.rows.size, (1 + 61 * 4u) * 47);
     EXPECT_EQ(packed.spare.data, memory);
     EXPECT_EQ(packed.spare.size, 61 * 47 * 4u);
@@ -93,18 +93,59 @@ TEST(PackedPicture, LeavesThePicturesMemoryFreeWhereItsRowsHoldAlpha)
 
 TEST(RowFilter, IsNoneWhereNoRowRepeatsTheRowAbove)
 {
-    EXPECT_EQ(chooseFilter(1000000, 0, 600), RowFilter::None);
+    EXPECT_EQ(chooseFilter(1000000, 0, 600, Compression::Balanced), RowFilter::None);
+    EXPECT_EQ(chooseFilter(1000000, 0, 600, Compression::Fast), RowFilter::None);
 }
 
 TEST(RowFilter, IsNoneForShortRowsAndUpForLongOnesOfABarChart)
 {
-    EXPECT_EQ(chooseFilter(400, 350, 50), RowFilter::None);
-    EXPECT_EQ(chooseFilter(800, 350, 50), RowFilter::Up);
+    EXPECT_EQ(chooseFilter(400, 350, 50, Compression::Balanced), RowFilter::None);
+    EXPECT_EQ(chooseFilter(800, 350, 50, Compression::Balanced), RowFilter::Up);
 }
 
 TEST(RowFilter, IsNoneWhereFewRowsRepeatTheRowAbove)
 {
-    EXPECT_EQ(chooseFilter(800, 50, 350), RowFilter::None);
+    EXPECT_EQ(chooseFilter(800, 50, 350, Compression::Balanced), RowFilter::None);
+}
+
+TEST(RowFilter, IsUpForFewerRepeatedRowsWhereTheFastestCompressorGetsThem)
+{
+    EXPECT_EQ(chooseFilter(800, 200, 200, Compression::Balanced), RowFilter::None);
+    EXPECT_EQ(chooseFilter(800, 200, 200, Compression::Fast), RowFilter::Up);
+}
+
+constexpr QSize kLargePicture(400, 300);
+
+// Of many colours, with a background that changes from row to row, or with one of a single colour.
+QImage pictureBefore(bool isGradient)
+{
+    QImage picture = noise(1, kLargePicture.width(), kLargePicture.height());
+    for (int y = 0; y < picture.height(); ++y)
+        picture.setPixel(0, y, isGradient ? qRgb(255, 255, y / 2) : qRgb(255, 255, 255));
+    return picture;
+}
+
+RowFilter filterOf(QImage picture, Compression compression)
+{
+    return RowFilter{*packPicture(picture, compression).rows.data};
+}
+
+TEST(ChannelFilter, IsUpForTheFastestCompressorBeforeAGradient)
+{
+    const RowFilter expected = canDeflateFast() ? RowFilter::Up : RowFilter::None;
+    EXPECT_EQ(filterOf(pictureBefore(true), Compression::Fast), expected);
+    EXPECT_EQ(filterOf(pictureBefore(true), Compression::Balanced), RowFilter::None);
+}
+
+TEST(ChannelFilter, IsNoneBeforeOneColour)
+{
+    EXPECT_EQ(filterOf(pictureBefore(false), Compression::Fast), RowFilter::None);
+}
+
+TEST(ChannelFilter, IsNoneInSmallPictures)
+{
+    const QImage corner = pictureBefore(true).copy(0, 0, 100, 100);
+    EXPECT_EQ(filterOf(corner, Compression::Fast), RowFilter::None);
 }
 
 // Rows of 1000 bytes: true repeats the row above.
