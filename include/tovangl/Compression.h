@@ -12,7 +12,7 @@ namespace tovangl {
 enum class Compression
 {
     Balanced, ///< small files, which is the default
-    Fast      ///< larger files, by a fifth to twice the size, in about half the time
+    Fast      ///< files larger by a fifth to a quarter, seldom more, in about half the time
 };
 
 /// The name of the compressor that Compression::Fast uses for large pictures in this build of the
