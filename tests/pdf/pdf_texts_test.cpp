@@ -80,6 +80,21 @@ TEST(PdfTexts, LettersAreToldByTheirGlyphsInScriptsThatJoinThem)
     }
 }
 
+TEST(PdfTexts, AFileIsWholeWhereAFontHasNoRoomForAllLettersWithMarks)
+{
+    QString caption;
+    for (int i = 0; i < 20; ++i)
+        caption += QStringLiteral("שָׁלוֹם");
+    constexpr int kLettersWithRoom = 32767;
+    CAnyChart chart(ChartKind::HorizontalBars);
+    chart.graph().setFont("DejaVu Sans", 11);
+    for (int letters = 0; letters <= kLettersWithRoom; letters += static_cast<int>(caption.size()))
+        chart.addItem(1, caption.toStdString());
+    const std::string pdf = chart.createPdf(3000, 5000).bytes();
+    EXPECT_NO_THROW(static_cast<void>(readPdf(pdf, "qpdf --check picture.pdf")));
+    EXPECT_THAT(readPdf(pdf, "qpdf --qdf picture.pdf -"), HasSubstr("ActualText"));
+}
+
 // Cyrillic, eight letters a caption.
 TEST(PdfTexts, MoreThanAHundredLettersOfAFontAreFound)
 {
