@@ -87,8 +87,8 @@ class SvgReportTest(PageTest):
     def test_every_folder_has_a_slice_in_its_color(self):
         slices = self.regions(CHILDREN, "path")
         self.assertEqual([region.title for region in slices],
-                         ["music/: 650,000", HOSTILE_FOLDER + "/: 400,000",
-                          "letters & bills/: 200,000", "notes: 100,000"])
+                         ["music/: 634 KB, 48.1 %", HOSTILE_FOLDER + "/: 390 KB, 29.6 %",
+                          "letters & bills/: 195 KB, 14.8 %", "notes: 97.7 KB, 7.4 %"])
         for region in slices:
             self.assertEqual(self.reader.shown_pixel(region), self.swatch(region), region.title)
 
