@@ -10,7 +10,7 @@ namespace {
 
 // A few lines for each thread, so that one large chart does not hold up the others; a fixed number,
 // so that memory does not grow.
-constexpr int kLinesPerThread = 4;
+constexpr int kLinesPerThread = 8;
 
 constexpr std::chrono::milliseconds kInterruptionDelay{100}; // until a signal is seen
 
@@ -23,7 +23,8 @@ CBatchRun::CBatchRun(CBoundedLines& lines, const AnswerRules& rules, CBatchSink&
     , m_sink(sink)
     , m_records(records)
     , m_jobs(jobs)
-    , m_queue(static_cast<std::size_t>(jobs) * kLinesPerThread)
+    , m_queue(static_cast<std::size_t>(jobs) * kLinesPerThread,
+              [this](BatchAnswer& answer) { deliver(answer); })
 {
     if (rules.needsId)
         m_ids.emplace();
@@ -39,7 +40,6 @@ BatchCounts CBatchRun::run()
 {
     for (int i = 0; i < m_jobs; ++i)
         m_threads.emplace_back([this] { guard([this] { drawCharts(); }); });
-    m_threads.emplace_back([this] { guard([this] { deliverAnswers(); }); });
     readLines();
     m_queue.close();
     join();
@@ -70,12 +70,6 @@ void CBatchRun::drawCharts()
 {
     while (const std::optional<Queue::Task> task = m_queue.takeJob())
         m_queue.answer(task->ticket, answerLine(task->job, m_rules));
-}
-
-void CBatchRun::deliverAnswers()
-{
-    while (std::optional<BatchAnswer> answer = m_queue.takeAnswer())
-        deliver(*answer);
 }
 
 // Keeps what a thread throws for run(), which breaks off.

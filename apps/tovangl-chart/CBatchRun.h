@@ -22,8 +22,8 @@
 
 namespace tovangl::program {
 
-/// The calling thread reads, several threads draw, and one delivers what they have drawn in the
-/// order of the lines, each picture as soon as it is its turn.
+/// The calling thread reads; several threads draw, and deliver what they have drawn in the order of
+/// the lines, each picture as soon as it is its turn.
 class CBatchRun
 {
 public:
@@ -47,7 +47,6 @@ private:
     [[nodiscard]] bool put(NumberedLine line);
     void guard(const std::function<void()>& work);
     void drawCharts();
-    void deliverAnswers();
     void deliver(BatchAnswer& answer);
     void refuseKnownId(BatchAnswer& answer);
     void count(const BatchAnswer& answer);

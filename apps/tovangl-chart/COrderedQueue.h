@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Jobs for several threads, whose answers come out in the order of the jobs.
+/// Jobs for several threads, whose answers are delivered in the order of the jobs.
 #ifndef TOVANGL_CHART_CORDEREDQUEUE_H
 #define TOVANGL_CHART_CORDEREDQUEUE_H
 
@@ -8,15 +8,16 @@
 #include <condition_variable>
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <utility>
 
 namespace tovangl::program {
 
-/// One thread puts jobs in, any number of threads take and answer them, and one thread takes the
-/// answers. Each answer can be taken as soon as it and all before it are there. No more than
-/// `capacity` jobs are ever between the first thread and the last.
+/// One thread puts jobs in, and any number of threads take and answer them. Each answer is
+/// delivered as soon as it and all before it are there. No more than `capacity` jobs are ever
+/// between being put in and being delivered.
 template <typename Job, typename Answer>
 class COrderedQueue
 {
@@ -29,9 +30,15 @@ public:
         Job job;
     };
 
+    /// What is done with an answer when it is its turn. A thread that answers does it, because to
+    /// wake another one for each answer takes as long as a good part of a small chart; no two do it
+    /// at a time. Where it throws, nothing more is delivered.
+    using Deliver = std::function<void(Answer&)>;
+
     /// @param capacity  at least 1
-    explicit COrderedQueue(std::size_t capacity)
+    COrderedQueue(std::size_t capacity, Deliver deliver)
         : m_capacity(capacity)
+        , m_deliver(std::move(deliver))
     {}
 
     /// Waits for a place.
@@ -64,17 +71,15 @@ public:
         const std::lock_guard lock(m_mutex);
         m_isClosed = true;
         m_jobIsThere.notify_all();
-        m_answerIsThere.notify_all();
     }
 
-    /// Gives up: all waits end, and neither jobs nor answers come out any more.
+    /// Gives up: all waits end, and nothing is taken or delivered any more.
     void stop()
     {
         const std::lock_guard lock(m_mutex);
         m_isStopped = true;
         m_placeIsFree.notify_all();
         m_jobIsThere.notify_all();
-        m_answerIsThere.notify_all();
     }
 
     /// Waits for a job. Nothing comes after the last one.
@@ -89,39 +94,46 @@ public:
         return task;
     }
 
+    /// Hands in the answer to a job, and delivers all whose turn it is, unless another thread is
+    /// about to do so.
     void answer(Ticket ticket, Answer answer)
     {
-        const std::lock_guard lock(m_mutex);
+        std::unique_lock lock(m_mutex);
         m_answers[ticket - m_firstTicket] = std::move(answer);
-        if (ticket == m_firstTicket)
-            m_answerIsThere.notify_one();
+        if (m_isDelivering)
+            return;
+        m_isDelivering = true;
+        while (std::optional<Answer> next = takeAnswer()) {
+            lock.unlock();
+            m_deliver(*next);
+            lock.lock();
+        }
+        m_isDelivering = false;
     }
 
-    /// Waits for the next answer. Nothing comes after the last one.
+private:
+    // Whoever puts jobs in is woken when half of the places are free, not for each of them.
     [[nodiscard]] std::optional<Answer> takeAnswer()
     {
-        std::unique_lock lock(m_mutex);
-        m_answerIsThere.wait(lock, [this] {
-            return m_isStopped || (m_answers.empty() ? m_isClosed : m_answers.front().has_value());
-        });
-        if (m_isStopped || m_answers.empty())
+        if (m_isStopped || m_answers.empty() || !m_answers.front())
             return std::nullopt;
         std::optional<Answer> answer = std::move(m_answers.front());
         m_answers.pop_front();
         ++m_firstTicket;
-        m_placeIsFree.notify_one();
+        if (m_answers.size() <= m_capacity / 2)
+            m_placeIsFree.notify_one();
         return answer;
     }
 
-private:
     const std::size_t m_capacity;
+    const Deliver m_deliver;
     std::mutex m_mutex;
     std::condition_variable m_placeIsFree;
     std::condition_variable m_jobIsThere;
-    std::condition_variable m_answerIsThere;
     std::deque<Task> m_jobs;                     // not taken yet
     std::deque<std::optional<Answer>> m_answers; // of all jobs, from m_firstTicket on
     Ticket m_firstTicket = 0;
+    bool m_isDelivering = false;
     bool m_isClosed = false;
     bool m_isStopped = false;
 };
