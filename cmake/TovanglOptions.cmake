@@ -44,9 +44,9 @@ tovangl_part(Tests TOVANGL_BUILD_TESTS "Build the tests" ${tovangl_is_top_level}
 tovangl_part(Examples TOVANGL_BUILD_EXAMPLES "Build the examples" ${tovangl_is_top_level})
 tovangl_part(Benchmarks TOVANGL_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 tovangl_part("Fuzz targets" TOVANGL_BUILD_FUZZERS "Build the fuzz targets (needs clang)" OFF)
-# For builds that repeat another one, with another Qt or a sanitizer: with it, a test compiles even if
-# it forgets one of these headers. The library is always compiled as a user compiles it.
-option(TOVANGL_PRECOMPILED_HEADERS "Parse the headers that most tests include once" OFF)
+# For builds with tests: they take two thirds of the time, but a source compiles even if it forgets one
+# of these headers. Builds for users, and those through a compiler cache, parse them for each source.
+option(TOVANGL_PRECOMPILED_HEADERS "Parse the headers that most sources include only once" OFF)
 # For the same builds: a failing case then hides those after it, but most cases take less time than
 # the start of a process with a sanitizer.
 option(TOVANGL_TESTS_BY_PROGRAM "Run each test program once, instead of once for each case" OFF)

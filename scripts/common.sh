@@ -61,6 +61,13 @@ build_harness() {
     harness=build/$preset/tests/$program
 }
 
+# set_sanitizer_options: for programs that are built with the address and undefined behaviour sanitizers.
+set_sanitizer_options() {
+    export ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
+    export UBSAN_OPTIONS=print_stacktrace=1
+    export LSAN_OPTIONS=suppressions=$PWD/tests/memory/leak_suppressions.txt:print_suppressions=0
+}
+
 # must_fail WHAT COMMAND...: runs a command that must find a fault seeded on purpose.
 must_fail() {
     local what=$1
