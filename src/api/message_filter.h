@@ -18,10 +18,11 @@
 /// - A message reaches each handler through a filter once. If handlers of the host's pass messages
 ///   on in a loop, it ends there.
 ///
-/// Qt's exchange leaves one gap. If a host exchanges handlers within the fraction of a microsecond
-/// between the two exchanges by which the library restores the host's handler, and again right
-/// after them, its last handler gets the one before as the previous one, and so bypasses one. From
-/// then on filters stay in force, and such moments do no harm.
+/// Restoring the host's handler leaves one gap, in whatever order handlers are exchanged, because
+/// Qt tells which one was in force only after another one is. If a host exchanges handlers within
+/// the fraction of a microsecond between the two exchanges by which the library restores its
+/// handler, and again right after them, its last handler gets the one before as the previous one,
+/// and so bypasses one. From then on filters stay in force, and such moments do no harm.
 ///
 /// A handler that the host installs *while* a thread draws gets the rest of that rendering's
 /// messages, because it is the host's latest choice.
