@@ -69,6 +69,11 @@ const std::vector<Example>& examples()
          Setting::Pie,
          kPlain,
          {{"threshold", "5"}, {"others", "smaller folders"}}},
+        {"others_link",
+         "tovangl::Graph::setLink",
+         Setting::Pie,
+         kPlain,
+         {{"threshold", "5"}, {"others", "smaller folders"}, {"others_link", "folders.html"}}},
         {"palette",
          "tovangl::Graph::setPalette",
          Setting::VerticalBars,
@@ -276,6 +281,9 @@ std::string valueOf(const Setting& setting)
         return "two whole numbers with a comma between them, such as `60,200`";
     case SettingType::Choice:
         return "one of " + list(setting.choices);
+    case SettingType::Link:
+        return "an address that begins with `http:`, `https:` or `mailto:`, or one relative to the "
+               "page; or empty";
     }
     return {};
 }

@@ -1,7 +1,7 @@
 # bash completion for tovangl-chart
 _tovangl_chart() {
     local common='-o --output --format --map --svg --size --print --theme --title --font --font-file --font-size --locale
-        --threshold --others --palette --background --picture-color --text-color --plot-color
+        --threshold --others --others-link --palette --background --picture-color --text-color --plot-color
         --border-color --outline-color --kilo --scale --follow-display --fast --csv --caption --value --color
         --help'
     local bars='--category-axis --category-title --bar-width --position --axis-color

@@ -42,7 +42,8 @@ ChartItems rowsOf(const ChartItems& items, const ChartRegions& regions)
 {
     ChartItems rows = items;
     if (regions.others && regions.others->count > 0)
-        rows.push_back({regions.others->value, regions.others->caption, {}, {}});
+        rows.push_back(
+            {regions.others->value, regions.others->caption, {}, {}, regions.others->link});
     return rows;
 }
 
@@ -50,7 +51,7 @@ RegionLink linkOf(const ChartItems& rows, std::size_t index)
 {
     const std::string text =
         displayName(rows[index].caption) + ": " + std::to_string(rows[index].value);
-    return {'#' + itemAnchor(index), text, text};
+    return {rows[index].link.empty() ? '#' + itemAnchor(index) : rows[index].link, text, text};
 }
 
 // Where regions overlap, the first one wins, so captions come before bars and slices: that is what

@@ -144,10 +144,12 @@ std::string renderSeparate(Graph& chart, const CommonOptions& options)
     return picture;
 }
 
-/// Items of a picture that is part of a page lead to their rows there.
-void linkItems(Graph& chart, std::size_t count)
+/// Items of a picture that is part of a page lead to their rows there. So do the others, if there
+/// are any that lead nowhere else.
+void linkItems(Graph& chart, std::size_t count, const GivenSettings& settings)
 {
-    for (std::size_t i = 0; i <= count; ++i) // and the others, if there are any
+    const bool haveOthersLink = !givenValue(settings, "others_link").value_or("").empty();
+    for (std::size_t i = 0; i < count + (haveOthersLink ? 0 : 1); ++i)
         chart.setLink(i, '#' + itemAnchor(i));
 }
 
@@ -161,7 +163,7 @@ Pictures renderPictures(Graph& chart, std::size_t items, const CommonOptions& op
     pictures.followsDisplay =
         options.isPageSvg && givenValue(options.settings, "follow_display") == "true";
     if (options.isPageSvg)
-        linkItems(chart, items);
+        linkItems(chart, items, options.settings);
     pictures.shown = renderScaled(chart, options, pictures.shownFormat, shownScale(options));
     if (pictures.shown.empty())
         throw noPicture(chart, options);

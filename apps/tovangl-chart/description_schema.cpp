@@ -120,6 +120,8 @@ Json valueSchema(const Setting& setting)
         return {{"type", "string"}, {"pattern", kPictureColorPattern}};
     case SettingType::Position:
         return {{"type", "string"}, {"pattern", "^[-+]?[0-9]+,[-+]?[0-9]+$"}};
+    case SettingType::Link:
+        return {{"type", "string"}, {"pattern", kLinkPattern}};
     case SettingType::Text:
     case SettingType::Palette:
     case SettingType::Locale:

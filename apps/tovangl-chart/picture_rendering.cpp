@@ -32,7 +32,8 @@ ChartRegions captionRegions(Graph& chart, const char* kind, PictureSize size,
     regions.captions = *chart.getRectangle();
     const std::string others = givenValue(settings, "others").value_or("");
     if (!others.empty())
-        regions.others = OthersItem{others, chart.othersCount(), chart.othersValue()};
+        regions.others = OthersItem{others, chart.othersCount(), chart.othersValue(),
+                                    givenValue(settings, "others_link").value_or("")};
     return regions;
 }
 

@@ -31,11 +31,16 @@ Json regionJson(const Slice& slice)
             {"height", slice.height}, {"start", slice.start}, {"span", slice.span}};
 }
 
+void addLink(Json& item, const std::string& link)
+{
+    if (!link.empty())
+        item["link"] = link;
+}
+
 Json itemJson(const ChartItem& item)
 {
     Json json = {{"value", item.value}, {"caption", item.caption}};
-    if (!item.link.empty())
-        json["link"] = item.link;
+    addLink(json, item.link);
     return json;
 }
 
@@ -65,6 +70,7 @@ Json othersJson(const std::optional<OthersItem>& others)
     Json json = {{"count", others->count}, {"value", nullptr}, {"caption", others->caption}};
     if (others->count > 0)
         json["value"] = others->value;
+    addLink(json, others->link);
     return json;
 }
 

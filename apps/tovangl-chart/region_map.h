@@ -22,6 +22,7 @@ struct OthersItem
     std::string caption;
     std::size_t count = 0; ///< of the items that it gathers
     long value = 0;        ///< their sum
+    std::string link = {}; ///< an address that the item leads to; empty: none
 };
 
 /// What a rendered chart reports about itself. Every list has one record for each item, and then

@@ -44,6 +44,8 @@ std::string valueForm(const Setting& setting)
         return "X,Y";
     case SettingType::Choice:
         return choicesForm(setting.choices);
+    case SettingType::Link:
+        return "ADDRESS";
     }
     return {};
 }

@@ -55,6 +55,7 @@ VALUES = {
     "palette": "colours ``#rrggbb``, the name of a theme, or ``default``",
     "locale": "a language and a country, such as ``de_AT``; or ``C`` or ``default``",
     "position": "two whole numbers",
+    "link": "an address of http:, https: or mailto:, or one relative to the page",
 }
 
 COMMON_PARAMETERS = """\

@@ -21,7 +21,8 @@ enum class SettingType
     Locale,  ///< a language and a country, such as de_AT; or C, or default
     AxisProperties, ///< some of Setting::choices with commas between them, or none
     Position,       ///< two whole numbers with a comma between them
-    Choice          ///< one of Setting::choices
+    Choice,         ///< one of Setting::choices
+    Link ///< an address of http:, https: or mailto:, or one that is relative to the page; or empty
 };
 
 /// One row of the table. Its strings live as long as the process; none is null.

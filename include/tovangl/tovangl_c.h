@@ -78,7 +78,8 @@ typedef enum tovangl_setting_type
     TOVANGL_SETTING_LOCALE = 7, ///< a language and a country, such as de_AT; or C, or default
     TOVANGL_SETTING_AXIS_PROPERTIES = 8, ///< some of the choices with commas between them, or none
     TOVANGL_SETTING_POSITION = 9,        ///< two whole numbers with a comma between them
-    TOVANGL_SETTING_CHOICE = 10          ///< one of tovangl_setting.choices
+    TOVANGL_SETTING_CHOICE = 10,         ///< one of tovangl_setting.choices
+    TOVANGL_SETTING_LINK = 11            ///< an address as in tovangl_chart_set_link(), or empty
 } tovangl_setting_type;
 
 /// One setting of a chart. Its texts live as long as the process; none is null.
@@ -258,7 +259,7 @@ TOVANGL_EXPORT tovangl_status tovangl_chart_add_columns(tovangl_chart* chart, si
 ///
 /// @param chart    not null
 /// @param item     position in the order of adding, from 0; with the setting "others", the number
-///                 of items is the position of the others
+///                 of items is the position of the others, as the setting "others_link" has it
 /// @param address  empty for no link; not null
 TOVANGL_EXPORT tovangl_status tovangl_chart_set_link(tovangl_chart* chart, size_t item,
                                                      const char* address);

@@ -30,6 +30,7 @@ static_assert(int{TOVANGL_SETTING_AXIS_PROPERTIES} ==
               static_cast<int>(SettingType::AxisProperties));
 static_assert(int{TOVANGL_SETTING_POSITION} == static_cast<int>(SettingType::Position));
 static_assert(int{TOVANGL_SETTING_CHOICE} == static_cast<int>(SettingType::Choice));
+static_assert(int{TOVANGL_SETTING_LINK} == static_cast<int>(SettingType::Link));
 
 constexpr bool kWithoutBackground = false;
 

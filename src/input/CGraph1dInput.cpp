@@ -28,7 +28,7 @@ bool CGraph1dInput::setLink(std::size_t item, std::string_view address)
         return false;
     if (!address.empty() && !isLinkAddress(address))
         return false;
-    (isOthers ? othersLink : items[item].link) = toQString(address);
+    (isOthers ? settings.othersLink : items[item].link) = toQString(address);
     return true;
 }
 
@@ -56,7 +56,7 @@ std::optional<CGraph1dItem> CGraph1dInput::gatherOthers(const CLeftOut& leftOut)
     if (settings.othersCaption.isEmpty() || leftOut.count() == 0)
         return std::nullopt;
     return CGraph1dItem{leftOut.value(), settings.othersCaption, othersColor(), QColor(),
-                        othersLink};
+                        settings.othersLink};
 }
 
 } // namespace tovangl

@@ -37,7 +37,6 @@ struct CGraph1dInput
     [[nodiscard]] std::optional<CGraph1dItem> gatherOthers(const CLeftOut& leftOut) const;
 
     CGraph1dSettings settings;
-    QString othersLink;              ///< an address that the others lead to; empty: none
     std::vector<CGraph1dItem> items; ///< in the order of adding
 };
 

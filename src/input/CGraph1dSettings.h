@@ -42,6 +42,7 @@ struct CGraph1dSettings
     QLocale locale;
     QString title;         ///< above the chart; empty: none
     QString othersCaption; ///< of one item for all that the threshold leaves out; empty: none
+    QString othersLink;    ///< an address that this item leads to; empty: none
     CChartColors colors;
     bool hasBackground = false; ///< a gradient behind the chart, and a border around bars
     int scale = 1;              ///< picture pixels for each pixel of the size asked for; at least 1

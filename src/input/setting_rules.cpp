@@ -49,6 +49,11 @@ bool writeText(Target target, Text value)
     return store(target.settings.*field, parseText(value));
 }
 
+bool writeOthersLink(Target target, Text value)
+{
+    return store(target.settings.othersLink, parseLink(value));
+}
+
 template <CPieInput::Option option, bool whenTrue>
 bool writeOption(Target target, Text value)
 {
@@ -272,6 +277,8 @@ constexpr std::array kRules = {
     text("others", kAll, "",
          "Gathers what the threshold leaves out into one last item of this caption.",
          writeText<&CGraph1dSettings::othersCaption>),
+    other("others_link", SettingType::Link, kAll, "",
+          "Where the item that gathers the others leads in an SVG picture.", writeOthersLink),
     other("palette", SettingType::Palette, kAll, "default",
           "The colours of items without a colour of their own, in turn.", writePalette),
     flag("background", kAll, "Paints a gradient behind the chart, and a border around bars.",
@@ -398,6 +405,8 @@ std::string wanted(const Setting& setting)
         return "a position such as 60,200";
     case SettingType::Choice:
         return std::string("one of ") + setting.choices;
+    case SettingType::Link:
+        return "an address of http:, https: or mailto:, or of a place relative to the page";
     }
     return {};
 }

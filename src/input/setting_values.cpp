@@ -3,6 +3,7 @@
 #include "input/setting_values.h"
 
 #include "base/host_text.h"
+#include "input/link_address.h"
 
 #include <array>
 #include <charconv>
@@ -104,6 +105,11 @@ std::optional<QString> parseText(std::string_view text)
     if (std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())) != text)
         return std::nullopt;
     return decoded;
+}
+
+std::optional<QString> parseLink(std::string_view text)
+{
+    return text.empty() || isLinkAddress(text) ? parseText(text) : std::nullopt;
 }
 
 std::optional<QColor> parseColor(std::string_view text)

@@ -33,6 +33,8 @@ inline constexpr const char* kAxisPropertyNames =
 [[nodiscard]] std::optional<double> parseReal(std::string_view text);
 /// Any UTF-8.
 [[nodiscard]] std::optional<QString> parseText(std::string_view text);
+/// UTF-8 that isLinkAddress(), or nothing at all.
+[[nodiscard]] std::optional<QString> parseLink(std::string_view text);
 /// "#rrggbb" in upper or lower case, or "default": the invalid colour.
 [[nodiscard]] std::optional<QColor> parseColor(std::string_view text);
 /// "#rrggbb", "transparent", or "default": white.

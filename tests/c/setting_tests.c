@@ -28,7 +28,7 @@ static void every_row_of_the_table_is_whole(void)
         CHECK(tovangl_setting_at(index, &setting) == TOVANGL_OK);
         CHECK(setting.name[0] != '\0' && setting.summary[0] != '\0');
         CHECK(setting.charts >= TOVANGL_PIE && setting.charts <= 7);
-        CHECK(setting.type >= TOVANGL_SETTING_BOOLEAN && setting.type <= TOVANGL_SETTING_CHOICE);
+        CHECK(setting.type >= TOVANGL_SETTING_BOOLEAN && setting.type <= TOVANGL_SETTING_LINK);
         CHECK(setting.minimum <= setting.maximum);
         CHECK((setting.choices[0] != '\0') == (setting.type == TOVANGL_SETTING_CHOICE ||
                                                setting.type == TOVANGL_SETTING_AXIS_PROPERTIES));

@@ -68,13 +68,18 @@ std::string otherValue(const Setting& setting)
         return "60,200";
     case SettingType::Choice:
         return std::string(splitText(setting.choices, ',').back());
+    case SettingType::Link:
+        return "rest.html";
     }
     return {};
 }
 
-// A value that the type does not accept; none for a text, of which only broken UTF-8 is refused.
+// A value that the type does not accept. Of a text only broken UTF-8 is refused, and nearly every
+// word is an address.
 std::string badValue(const Setting& setting)
 {
+    if (setting.type == SettingType::Link)
+        return "nonsense:";
     return setting.type == SettingType::Text ? "\xff" : "nonsense";
 }
 
@@ -209,6 +214,28 @@ TEST(Setting, TellsTheChoices)
     CPieInput pie(false);
     EXPECT_EQ(applySetting(CSettingTarget(pie), "kilo", "1001"),
               "the value is not one of default,1024,1000");
+}
+
+TEST(Setting, OfALinkTakesWhatLeadsToAPageOrBeginsAMail)
+{
+    CPieInput pie(false);
+    for (const char* link : {"http://example.org", "HTTPS://example.org/?a&b", "mailto:a@b.org",
+                             "rest.html", "#rest", "?page=2", "größe.html", ""}) {
+        EXPECT_THAT(applySetting(CSettingTarget(pie), "others_link", link), IsEmpty()) << link;
+        EXPECT_EQ(pie.settings.othersLink.toStdString(), link);
+    }
+}
+
+TEST(Setting, OfALinkRefusesEveryOtherAddress)
+{
+    CPieInput pie(false);
+    for (const char* link : {"javascript:alert(1)", "//example.org", "a b", "a\xff"}) {
+        EXPECT_EQ(applySetting(CSettingTarget(pie), "others_link", link),
+                  "the value is not an address of http:, https: or mailto:, or of a place relative "
+                  "to the page")
+            << link;
+    }
+    EXPECT_TRUE(pie.settings.othersLink.isEmpty());
 }
 
 TEST(Setting, OfAPaletteTakesTheNameOfATheme)

@@ -13,6 +13,7 @@ OTHER_VALUES = {
     "locale": "de_AT",
     "axis_properties": ["labels"],
     "position": (60, 200),
+    "link": "rest.html",
 }
 
 

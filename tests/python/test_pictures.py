@@ -73,6 +73,20 @@ def test_the_links_have_an_entry_for_the_others():
     assert chart.render().regions.links == ["#a", None, None]
 
 
+def test_the_regions_tell_where_the_others_lead():
+    chart = pie({"a": 99, "b": 1}, threshold=5, others="rest", others_link="rest.html")
+    assert chart.render().regions.links == [None, None, "rest.html"]
+    assert 'href="rest.html"' in chart.render_svg().svg
+    linked = chart.replace(items=[Item("a", 99, link="#a"), ("b", 1)])
+    assert linked.render().regions.links == ["#a", None, "rest.html"]
+
+
+def test_a_chart_without_others_has_no_link_for_them():
+    chart = pie({"a": 99, "b": 1}, threshold=5, others_link="rest.html")
+    assert chart.render().regions.links is None
+    assert chart.replace(others="rest", others_link="").render().regions.links is None
+
+
 def test_the_polygon_of_a_slice_begins_at_the_centre():
     piece = pie(WEEK).render().regions.slices[0]
     polygon = piece.polygon()

@@ -77,6 +77,7 @@ def test_a_number_without_digits_is_refused(value):
         ("scale", 0),
         ("font_size", 2**40),
         ("text_color", "red"),
+        ("others_link", "javascript:alert(1)"),
         ("palette", []),
         ("title", "\ud800"),
         ("locale", "x"),

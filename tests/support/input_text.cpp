@@ -30,10 +30,10 @@ void writeSettings(std::ostream& stream, const CGraph1dSettings& settings)
     stream << "threshold " << settings.threshold << "\nfont " << settings.fontSize << ' '
            << settings.fontFamily.toStdString() << "\nlocale "
            << settings.locale.name().toStdString() << "\ntitle " << settings.title.toStdString()
-           << "\nothers " << settings.othersCaption.toStdString() << "\nbackground "
-           << settings.hasBackground << "\nscale " << settings.scale << "\nkilo "
-           << (settings.kilo ? settings.kilo->size : 0) << "\ncompression "
-           << static_cast<int>(settings.compression) << "\nfollows the display "
+           << "\nothers " << settings.othersCaption.toStdString() << "\nothers link "
+           << settings.othersLink.toStdString() << "\nbackground " << settings.hasBackground
+           << "\nscale " << settings.scale << "\nkilo " << (settings.kilo ? settings.kilo->size : 0)
+           << "\ncompression " << static_cast<int>(settings.compression) << "\nfollows the display "
            << settings.followsDisplay << '\n';
     writeColors(stream, settings.colors);
 }

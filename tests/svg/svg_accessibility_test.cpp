@@ -114,6 +114,17 @@ TEST(SvgLinks, LeadFromTheOthersToo)
     EXPECT_EQ(items[1]["href"], "#rest");
 }
 
+TEST(SvgLinks, OfTheOthersCanBeSetByNameBeforeTheirCaption)
+{
+    CAnyChart chart = chartOf(ChartKind::Pie);
+    EXPECT_EQ(chart.graph().setByName("others_link", "#rest"), "");
+    chart.graph().setThreshold(40);
+    chart.graph().setOthers("Rest");
+    const std::vector<CSvgElement> items = drawn(chart).items();
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items[1]["href"], "#rest");
+}
+
 TEST(SvgLinks, KeepTheOldAddressWhereANewOneIsRefused)
 {
     CAnyChart chart = chartOf(ChartKind::Pie);

@@ -99,6 +99,16 @@ TEST_F(ChartPage, HasARowForTheOthers)
     EXPECT_EQ(page().all("td").at(5).text, "12");
 }
 
+TEST_F(ChartPage, LeadsFromTheOthersToTheAddressThatTheyHave)
+{
+    m_regions.others = OthersItem{"rest", 3, 12, "rest.html?a&b"};
+    m_regions.captions = {kCaption, kNone, kCaption};
+    const auto areas = page().all("area");
+    ASSERT_THAT(areas, SizeIs(2));
+    EXPECT_EQ(areas[0]["href"], "#item-1");
+    EXPECT_EQ(areas[1]["href"], "rest.html?a&b");
+}
+
 TEST_F(ChartPage, HasNoRowForOthersThatGatherNothing)
 {
     m_regions.others = OthersItem{"rest", 0, 0};

@@ -90,6 +90,15 @@ TEST(DescribedChart, LeadsFromItsItemsToTheirLinks)
     EXPECT_THAT(svg, Not(HasSubstr("href=\"\"")));
 }
 
+TEST(DescribedChart, LeadsFromItsOthersToTheirLink)
+{
+    const DrawnChart pie = drawn(R"({"chart": "pie", "threshold": 50, "others": "rest",
+        "others_link": "rest.html?a&b", "items": [{"value": 3}, {"value": 1}]})",
+                                 PictureFormat::Svg);
+    EXPECT_THAT(pie.picture, HasSubstr("href=\"rest.html?a&amp;b\""));
+    EXPECT_EQ(pie.regions.others->link, "rest.html?a&b");
+}
+
 TEST(DescribedChart, NamesTheItemWhoseLinkIsRefused)
 {
     for (const char* link : {"javascript:alert(1)", "//example.org", "a b", "a\\u0000b"}) {
@@ -119,6 +128,13 @@ TEST(DescribedChart, NamesTheSettingWhoseValueIsRefused)
         ThrowsMessage<CFailure>(StartsWith("/text_color: \"red\" is not a colour such as")));
     EXPECT_THAT([] { drawn(R"({"chart": "pie", "items": [], "scale": 0})"); },
                 ThrowsMessage<CFailure>(StartsWith("/scale: \"0\" is not a whole number from 1")));
+}
+
+TEST(DescribedChart, RefusesAScriptAsTheLinkOfTheOthers)
+{
+    EXPECT_THAT([] { drawn(R"({"chart": "pie", "items": [], "others_link": "javascript:x"})"); },
+                ThrowsMessage<CFailure>(
+                    StartsWith("/others_link: \"javascript:x\" is not an address of http:")));
 }
 
 TEST(DescribedChart, ThatIsTooLargeIsAFailure)

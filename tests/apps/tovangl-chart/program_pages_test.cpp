@@ -189,6 +189,15 @@ TEST_P(ProgramPage, LinksTheOthersOfAnSvgPictureToTheirRow)
     EXPECT_EQ(page().all("bdi").at(2).text, "Rest");
 }
 
+TEST_P(ProgramPage, LeadsFromTheOthersToTheAddressThatTheyAreGiven)
+{
+    const std::string others = " --threshold 50 --others Rest --others-link 'rest.html?a&b'";
+    run("items --map x.html" + others);
+    EXPECT_EQ(page().all("area").back()["href"], "rest.html?a&b");
+    run("items --map x.html --svg" + others);
+    EXPECT_THAT(links(), ElementsAre("#item-1", "rest.html?a&b"));
+}
+
 TEST_P(ProgramPage, HasTheSameTableWithEitherPicture)
 {
     run("items --map x.html");

@@ -105,6 +105,15 @@ TEST(RegionMap, TheOthersHaveTheLastRegions)
         "barRectangle": {"x": 5, "y": 6, "width": 7, "height": 8}})"));
 }
 
+TEST(RegionMap, TheOthersHaveTheirLink)
+{
+    ChartRegions regions;
+    regions.others = OthersItem{"rest", 3, 12, "rest.html?a&b"};
+    regions.captions = {kFirst};
+    const auto map = nlohmann::json::parse(regionMapLine({}, regions));
+    EXPECT_EQ(map["others"]["link"], "rest.html?a&b");
+}
+
 TEST(RegionMap, OthersThatGatherNothingAreNull)
 {
     ChartRegions regions;

@@ -9,7 +9,7 @@ from typing import TYPE_CHECKING, Any, Dict, Mapping, Optional, Tuple, Union
 
 from tovangl._items import Items
 from tovangl._library import KINDS
-from tovangl._picture import PNG, SVG, PdfPicture, Picture, SvgPicture, check, new_chart
+from tovangl._picture import PNG, SVG, Links, PdfPicture, Picture, SvgPicture, check, new_chart
 from tovangl._settings import Value, checked_settings, setting_text
 from tovangl._tovangl import ffi, lib
 
@@ -117,13 +117,10 @@ class Chart:
         Other threads of Python run meanwhile. Raises SettingError where a setting does not accept
         its value, PictureError where the picture cannot be made, and MemoryError.
         """
-        chart = self._library_chart()
-        _, items, _, width, height, factor, _ = self._fields
+        factor = self._fields[5]
         if factor is None:
-            png = _draw(chart, lib.tovangl_chart_render, width, height)
-        else:
-            png = _draw(chart, lib.tovangl_chart_render_for_print, width, height, factor)
-        return Picture(png, width, height, chart, items.links)
+            return Picture(*self._rendered(lib.tovangl_chart_render))
+        return Picture(*self._rendered(lib.tovangl_chart_render_for_print, factor))
 
     def render_svg(self) -> SvgPicture:
         """Draws the chart as SVG: shapes and texts instead of pixels, with nothing for ``print``.
@@ -133,9 +130,7 @@ class Chart:
         >>> Chart("pie", {"Rent": 1200}).render_svg().svg.startswith("<svg ")
         True
         """
-        chart = self._library_chart()
-        svg = _draw(chart, lib.tovangl_chart_render_svg, self.width, self.height)
-        return SvgPicture(svg, self.width, self.height, chart, self.items.links)
+        return SvgPicture(*self._rendered(lib.tovangl_chart_render_svg))
 
     def render_pdf(self) -> PdfPicture:
         """Draws the chart as a PDF page for paper, whose size is ``width`` and ``height`` in points.
@@ -145,17 +140,18 @@ class Chart:
         >>> Chart("pie", {"Rent": 1200}).render_pdf().pdf.startswith(b"%PDF-")
         True
         """
-        chart = self._library_chart()
-        pdf = _draw(chart, lib.tovangl_chart_render_pdf, self.width, self.height)
-        return PdfPicture(pdf, self.width, self.height, chart, self.items.links)
+        return PdfPicture(*self._rendered(lib.tovangl_chart_render_pdf))
 
-    def _library_chart(self) -> Any:
-        kind, items, _, _, _, _, settings = self._fields
+    def _rendered(self, render: Any, *factor: int) -> Tuple[Any, ...]:
+        """What a picture is made of, by one of the library's functions."""
+        kind, items, _, width, height, _, settings = self._fields
         chart = new_chart(KINDS[kind])
         for name, value in settings.items():
             apply_setting(chart, name, value)
         items.add_to(chart)
-        return chart
+        data = _draw(chart, render, width, height, *factor)
+        links = _links_with_others(items, settings) if "others_link" in settings else items.links
+        return data, width, height, chart, links
 
     def to_json(self) -> str:
         """The chart as one line of JSON.
@@ -215,6 +211,13 @@ class Chart:
 
 def _make_chart(arguments: Dict[str, Any]) -> Chart:
     return Chart(**arguments)
+
+
+def _links_with_others(items: Items, settings: Dict[str, Value]) -> Optional[Links]:
+    """Where the items lead and, last, the others, if the chart has an item for them."""
+    if not settings.get("others") or not settings["others_link"]:
+        return items.links
+    return (*(items.links or [None] * len(items)), str(settings["others_link"]))
 
 
 def apply_setting(chart: Any, name: str, value: Value) -> None:

@@ -24,6 +24,8 @@ def pie(items, **settings):
     :param threshold: Leaves out items whose share of the total, in per cent, is smaller. Default:
         0.
     :param others: Gathers what the threshold leaves out into one last item of this caption.
+    :param others_link: Where the item that gathers the others leads in an SVG picture. An address
+        of http:, https: or mailto:, or one relative to the page.
     :param palette: The colours of items without a colour of their own, in turn. Colours
         ``#rrggbb``, the name of a theme, or ``default``. Default: default.
     :param background: Paints a gradient behind the chart, and a border around bars. Default: false.
@@ -74,6 +76,8 @@ def bars(items, **settings):
     :param threshold: Leaves out items whose share of the total, in per cent, is smaller. Default:
         0.
     :param others: Gathers what the threshold leaves out into one last item of this caption.
+    :param others_link: Where the item that gathers the others leads in an SVG picture. An address
+        of http:, https: or mailto:, or one relative to the page.
     :param palette: The colours of items without a colour of their own, in turn. Colours
         ``#rrggbb``, the name of a theme, or ``default``. Default: default.
     :param background: Paints a gradient behind the chart, and a border around bars. Default: false.
@@ -133,6 +137,8 @@ def hbars(items, **settings):
     :param threshold: Leaves out items whose share of the total, in per cent, is smaller. Default:
         0.
     :param others: Gathers what the threshold leaves out into one last item of this caption.
+    :param others_link: Where the item that gathers the others leads in an SVG picture. An address
+        of http:, https: or mailto:, or one relative to the page.
     :param palette: The colours of items without a colour of their own, in turn. Colours
         ``#rrggbb``, the name of a theme, or ``default``. Default: default.
     :param background: Paints a gradient behind the chart, and a border around bars. Default: false.

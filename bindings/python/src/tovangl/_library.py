@@ -23,6 +23,7 @@ _TYPES = {
     lib.TOVANGL_SETTING_AXIS_PROPERTIES: "axis_properties",
     lib.TOVANGL_SETTING_POSITION: "position",
     lib.TOVANGL_SETTING_CHOICE: "choice",
+    lib.TOVANGL_SETTING_LINK: "link",
 }
 _UNKNOWN_TYPE = "text"  # of a later library: every value can be written as text
 
@@ -71,7 +72,7 @@ class Setting(NamedTuple):
     """The keyword, such as ``font_size``."""
     type: str
     """One of boolean, whole, real, text, color, picture_color, palette, locale, axis_properties,
-    position and choice."""
+    position, choice and link."""
     charts: Tuple[str, ...]
     """Which of pie, bars and hbars have it."""
     minimum: int

@@ -70,7 +70,7 @@ class Regions(NamedTuple):
     slices: Optional[List[Optional[Slice]]]
     """None for bars."""
     links: Optional[List[Optional[str]]] = None
-    """The addresses that items lead to; None where no item has one."""
+    """The addresses that items lead to, and the others; None where nothing has one."""
 
 
 class _Facts(NamedTuple):
@@ -96,7 +96,7 @@ class _Rendering:
         """Made by the functions of Chart.
 
         :param source: the library's chart, which has rendered the picture and is the picture's now
-        :param links: of its items
+        :param links: of its items and, behind them, the others, if these have one
         """
         self.width = width
         self.height = height
@@ -247,7 +247,7 @@ def _ask(chart: Any, links: Optional[Links]) -> _Facts:
 
 
 def _links_of_regions(links: Links, regions: int) -> List[Optional[str]]:
-    """One for each item, and none for the others, which stand behind the items."""
+    """One for each item and for the others, which stand behind the items."""
     return [*links, *[None] * (regions - len(links))]
 
 
