@@ -11,10 +11,13 @@
 #include "svg/svg_texts.h"
 #include "svg/svg_values.h"
 
+#include <QColor>
 #include <QtMath>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <optional>
 #include <vector>
 
 namespace tovangl {
@@ -28,6 +31,9 @@ constexpr double kThinnestLine = 1;
 // Pixels. An outline that is no wider than the thinnest line is painted along chords of the rim. An
 // arc that lies this far inside of it is nearer to them, and rounder than they are in a large view.
 constexpr double kChordInset = 0.04;
+// Of 255, in one channel. Nobody sees that a thin line is a little paler or darker.
+constexpr int kVisibleDifference = 16;
+constexpr int kGreatestContrast = 255;
 
 double degrees(int units)
 {
@@ -62,17 +68,31 @@ QRectF outlinedPie(const CPieLayout& layout)
     return pie.adjusted(inset, inset, -inset, -inset);
 }
 
-std::string slicePath(const QRectF& pie, const CSliceAngles& angles, bool isWholeDisc)
+// Which of a slice's edges, the lines from the centre to the rim, one stroke draws with the arc.
+enum class Edges
+{
+    None, // there are none
+    First,
+    Last,
+    Both
+};
+
+std::string slicePath(const QRectF& pie, const CSliceAngles& angles, Edges edges)
 {
     const double start = degrees(angles.start);
+    const QPointF center = pie.center();
     const QPointF first = onRim(pie, start);
     CSvgPath path;
-    if (isWholeDisc)
+    if (edges == Edges::None || edges == Edges::Last)
         path.move(first.x(), first.y());
     else
-        path.move(pie.center().x(), pie.center().y()).line(first.x(), first.y());
+        path.move(center.x(), center.y()).line(first.x(), first.y());
     addRim(path, pie, start, degrees(angles.span));
-    return path.close().text();
+    if (edges == Edges::Last)
+        path.line(center.x(), center.y());
+    else if (edges != Edges::First)
+        path.close();
+    return path.text();
 }
 
 // A line that is no wider than a pixel is painted one pixel thick along the rows or columns that it
@@ -83,30 +103,69 @@ double paintedWidth(double angle)
     return std::max(std::fabs(std::sin(radians)), std::fabs(std::cos(radians)));
 }
 
-// The width of a slice's outline: where it is painted with a varying one, the mean of that.
-double strokeWidth(const CPieLayout& layout, const CSliceAngles& angles)
+// How wide an arc is painted in the mean of its directions.
+double paintedWidth(double start, double span)
 {
-    constexpr int kParts = 32; // of the arc
-    if (layout.outlineWidth > kThinnestLine)
-        return layout.outlineWidth;
-    const double start = degrees(angles.start);
-    const double span = degrees(angles.span);
-    double ofArc = 0;
+    constexpr int kParts = 32;
+    double sum = 0;
     for (int i = 0; i < kParts; ++i)
-        ofArc += paintedWidth(start + span * (i + kHalf) / kParts) / kParts;
-    if (layout.isWholeDisc)
-        return ofArc;
-    const double arcLength = qDegreesToRadians(std::fabs(span)); // in radiuses
-    return (paintedWidth(start) + paintedWidth(start + span) + arcLength * ofArc) / (2 + arcLength);
+        sum += paintedWidth(start + span * (i + kHalf) / kParts);
+    return sum / kParts;
 }
 
-void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
+// An edge with a stroke of its own.
+struct CEdgeStroke
 {
-    scene.markup.begin("path").attribute(
-        "d", slicePath(outlinedPie(layout), slice.angles, layout.isWholeDisc));
-    scene.colors.paint(scene.markup, {{"fill", slice.color}, {"stroke", layout.outlineColor}});
-    writeStrokeWidth(scene.markup, strokeWidth(layout, slice.angles));
-    scene.markup.end();
+    double angle = 0; // degrees
+    double width = 1;
+};
+
+struct CSliceOutline
+{
+    Edges edges = Edges::Both; // that are drawn with the arc
+    double width = 1;
+    std::optional<CEdgeStroke> other;
+};
+
+// The greatest difference in a channel, of 255.
+int contrastBetween(const QColor& one, const QColor& other)
+{
+    return std::max({std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
+                     std::abs(one.blue() - other.blue())});
+}
+
+// One stroke is as wide as its parts are in the mean. Where an edge would be visibly too wide or
+// too narrow with it, one edge is left to a second stroke.
+CSliceOutline thinOutline(const CSliceAngles& angles, int contrast)
+{
+    const double start = degrees(angles.start);
+    const double span = degrees(angles.span);
+    const double first = paintedWidth(start);
+    const double last = paintedWidth(start + span);
+    const double arc = paintedWidth(start, span);
+    const double length = qDegreesToRadians(std::fabs(span)); // of the arc, in radiuses
+    const double mean = (first + last + length * arc) / (2 + length);
+    const double error = std::max(std::fabs(first - mean), std::fabs(last - mean));
+    if (error * contrast < kVisibleDifference)
+        return {Edges::Both, mean, {}};
+    if (std::fabs(first - arc) <= std::fabs(last - arc))
+        return {Edges::First, (first + length * arc) / (1 + length),
+                CEdgeStroke{start + span, last}};
+    return {Edges::Last, (last + length * arc) / (1 + length), CEdgeStroke{start, first}};
+}
+
+// A picture in two themes has the same shapes in both.
+CSliceOutline outlineOf(const CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
+{
+    const Edges edges = layout.isWholeDisc ? Edges::None : Edges::Both;
+    if (layout.outlineWidth > kThinnestLine)
+        return {edges, double(layout.outlineWidth), {}};
+    const CSliceAngles& angles = slice.angles;
+    if (layout.isWholeDisc)
+        return {edges, paintedWidth(degrees(angles.start), degrees(angles.span)), {}};
+    return thinOutline(angles, scene.frame.isOneOfTwo
+                                   ? kGreatestContrast
+                                   : contrastBetween(slice.color, layout.outlineColor));
 }
 
 std::string linePath(const QPointF& from, const QPointF& to)
@@ -115,6 +174,23 @@ std::string linePath(const QPointF& from, const QPointF& to)
     path.move(from.x(), from.y());
     const bool isLevel = svgNumber(from.y()) == svgNumber(to.y());
     return (isLevel ? path.across(to.x()) : path.line(to.x(), to.y())).text();
+}
+
+void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
+{
+    const QRectF pie = outlinedPie(layout);
+    const CSliceOutline outline = outlineOf(scene, layout, slice);
+    scene.markup.begin("path").attribute("d", slicePath(pie, slice.angles, outline.edges));
+    scene.colors.paint(scene.markup, {{"fill", slice.color}, {"stroke", layout.outlineColor}});
+    writeStrokeWidth(scene.markup, outline.width);
+    scene.markup.end();
+    if (!outline.other)
+        return;
+    const QPointF end = onRim(pie, outline.other->angle);
+    scene.markup.begin("path").attribute("d", linePath(pie.center(), end));
+    scene.colors.paint(scene.markup, {{"stroke", layout.outlineColor}});
+    writeStrokeWidth(scene.markup, outline.other->width);
+    scene.markup.end();
 }
 
 // From a slice to the elbow.

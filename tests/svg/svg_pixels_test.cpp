@@ -11,8 +11,9 @@
 namespace tovangl {
 namespace {
 
-constexpr double kMostBars = 99.98; // per cent of the pixels; a letter can reach out of its box
-constexpr double kMostPies = 99.65; // pies have smoothed edges, and two renderers smooth them
+constexpr double kMostBars = 99.98;  // per cent of the pixels; a letter can reach out of its box
+constexpr double kMostPies = 99.7;   // pies have smoothed edges, and two renderers smooth them
+constexpr double kMostDiscs = 99.65; // with black outlines
 constexpr double kMostOrdinaryPies = 99.8;
 
 CAnyChart randomChart(ChartKind kind, CDice& dice)
@@ -55,20 +56,35 @@ TEST_P(SvgPixels, OfBarsAreThoseOfThePng)
     for (const ChartKind kind : {ChartKind::VerticalBars, ChartKind::HorizontalBars}) {
         CDice dice(GetParam());
         CAnyChart chart = randomChart(kind, dice);
-        const CPixelComparison result = compare(chart, dice.roll(200, 640), dice.roll(150, 480));
+        const int width = dice.roll(200, 640);
+        const CPixelComparison result = compare(chart, width, dice.roll(150, 480));
         EXPECT_GT(result.compared, 1000);
         EXPECT_GE(result.share(), kMostBars) << nameOf(kind);
     }
 }
 
+// A random pie beside its PNG.
+CPixelComparison comparePies(unsigned seed)
+{
+    CDice dice(seed);
+    CAnyChart chart = randomChart(ChartKind::Pie, dice);
+    const int width = dice.roll(300, 640);
+    return compare(chart, width, dice.roll(250, 480));
+}
+
 TEST_P(SvgPixels, OfPiesAreThoseOfThePngButForSmoothing)
 {
-    CDice dice(GetParam());
-    CAnyChart chart = randomChart(ChartKind::Pie, dice);
-    const CPixelComparison result = compare(chart, dice.roll(300, 640), dice.roll(250, 480));
+    const CPixelComparison result = comparePies(GetParam());
     EXPECT_GT(result.compared, 1000);
     EXPECT_GE(result.share(), kMostPies);
     EXPECT_LE(static_cast<double>(result.moved), 0.001 * static_cast<double>(result.compared));
+}
+
+// Some lines of these pies are upright or level, and others are diagonals, which are thinner.
+TEST(SvgPixelsOfPiesWithLinesOfManyDirections, AreNearlyAllThoseOfThePng)
+{
+    for (const unsigned seed : {42U, 83U, 137U, 181U})
+        EXPECT_GE(comparePies(seed).share(), kMostOrdinaryPies) << seed;
 }
 
 // A reader that looked for the centre of half a turn would not always find it.
@@ -78,7 +94,7 @@ TEST(SvgPixelsOfAWholeDisc, AreThoseOfThePngButForSmoothing)
     pie.addItem(5, "all");
     pie.graph().setByName("outline_color", "#000000");
     for (int width = 300; width < 460; width += 8)
-        EXPECT_GE(compare(pie, width, 3 * width / 4 + width % 7).share(), kMostPies) << width;
+        EXPECT_GE(compare(pie, width, 3 * width / 4 + width % 7).share(), kMostDiscs) << width;
 }
 
 TEST(SvgPixelsOfOrdinaryBars, AreAllThoseOfThePng)

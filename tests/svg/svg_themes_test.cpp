@@ -83,6 +83,28 @@ TEST(SvgThemes, ColourOutlinesAndFillingsEachInTheirOwnWay)
     EXPECT_EQ(darkColor(bytes, slice, "stroke"), darkGround(bytes));
 }
 
+// Outlines stand out more in one theme than in the other.
+TEST(SvgThemes, GiveEverySliceTheColoursThatItHasInTheDarkTheme)
+{
+    CAnyChart following(ChartKind::Pie);
+    CAnyChart dark(ChartKind::Pie);
+    following.graph().setByName("follow_display", "true");
+    dark.graph().setTheme(Theme::Dark);
+    for (const long value : {4L, 13L, 22L, 16L, 2L, 3L, 13L, 6L}) {
+        following.addItem(value, "a");
+        dark.addItem(value, "a");
+    }
+    const std::string bytes = bytesOf(following);
+    const CParsedSvg svg(bytes);
+    const CParsedSvg darkSvg(bytesOf(dark));
+    for (std::size_t i = 0; i < svg.items().size(); ++i) {
+        const CSvgElement slice = svg.children(svg.items()[i], "path").at(0);
+        const CSvgElement darkSlice = darkSvg.children(darkSvg.items().at(i), "path").at(0);
+        for (const char* property : {"fill", "stroke"})
+            EXPECT_EQ(darkColor(bytes, slice, property), darkSlice[property].toStdString()) << i;
+    }
+}
+
 TEST(SvgThemes, KeepTheirOwnColoursOnLightDisplays)
 {
     CAnyChart chart = chartOf(ChartKind::VerticalBars);
