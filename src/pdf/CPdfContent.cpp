@@ -13,6 +13,7 @@
 #include <QPen>
 #include <QTransform>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tovangl {
@@ -39,6 +40,29 @@ std::string textMatrix(const QTransform& toPage, const QPointF& position)
     for (const qreal part : {toPage.m11(), toPage.m12(), -toPage.m21(), -toPage.m22()})
         text += pdfNumber(part, kMatrixDecimals) + ' ';
     return text + pdfPoint(toPage.map(position)) + "Tm\n";
+}
+
+// Nothing is left of a byte order mark that a text holds.
+uint characterOf(const QString& letter)
+{
+    return letter.isEmpty() ? 0 : letter.toUcs4().first();
+}
+
+bool isLetterOrMark(const QString& letter)
+{
+    const uint character = characterOf(letter);
+    return QChar::isLetter(character) || QChar::isMark(character);
+}
+
+// A mark has no direction of its own. Left of all letters, where such a text is read last, readers
+// take it for a part of what stands to the left, unless it has a character with a direction there.
+std::vector<QString> withDirection(std::vector<QString> turnedLetters)
+{
+    constexpr ushort kRightToLeftMark = 0x200f;
+    const auto first = std::find_if(turnedLetters.begin(), turnedLetters.end(), isLetterOrMark);
+    if (first != turnedLetters.end() && QChar::isMark(characterOf(*first)))
+        first->prepend(QChar(kRightToLeftMark));
+    return turnedLetters;
 }
 
 bool isOnOneLine(const QPointF& a, const QPointF& b)
@@ -195,11 +219,12 @@ CPdfContent::CFileGlyphs CPdfContent::cellsOf(const CShapedRun& run)
 {
     CFileGlyphs glyphs{fontFor(run.face), {}, {}};
     CPdfFont& font = m_fonts[glyphs.font];
-    const CLetterCells cells = letterCells(run, run.right, run.turnedLetters.size());
+    const std::vector<QString> letters = withDirection(run.turnedLetters);
+    const CLetterCells cells = letterCells(run, run.right, letters.size());
     for (std::size_t i = 0; i < cells.cells.size(); ++i) {
         const std::uint16_t number =
             font.addCell(cells.cells[i], cells.width, run.face.pixelSize());
-        static_cast<void>(font.tell(number, run.turnedLetters[i]));
+        static_cast<void>(font.tell(number, letters[i]));
         glyphs.positions.emplace_back(cells.cells[i].left, 0);
         glyphs.numbers.push_back({number});
     }

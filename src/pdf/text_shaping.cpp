@@ -100,16 +100,19 @@ std::vector<QString> turnedLettersOf(const QString& text)
     return letters;
 }
 
-// Letters that are read from right to left have other forms in a word, but keep their order. Of all
-// others, those count whose glyphs are the ones that the font has for single letters.
+// Letters that are read from right to left have other forms in a word, but keep their order, unless
+// there are marks. Of all others, those count whose glyphs are the ones that the font has for
+// single letters.
 std::vector<QString> lettersOf(const CShapedRun& run, const QTextItem& item)
 {
     const QString text = item.text();
+    if (isRightToLeft(item) && hasMarks(text))
+        return {};
     std::vector<QString> letters = lettersOf(text);
     const QVector<quint32> single = run.face.glyphIndexesForString(text);
     const bool isPlain =
         std::equal(single.begin(), single.end(), run.glyphs.begin(), run.glyphs.end());
-    const bool isJoined = !isPlain && isRightToLeft(item) && !hasMarks(text);
+    const bool isJoined = !isPlain && isRightToLeft(item);
     if (isJoined && letters.size() != run.glyphs.size())
         letters = withLamAlefs(letters);
     const bool isKnown = (isPlain || isJoined) && letters.size() == run.glyphs.size();

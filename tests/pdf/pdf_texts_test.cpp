@@ -68,6 +68,20 @@ INSTANTIATE_TEST_SUITE_P(FromRightToLeftWithMarks, PdfTextInScripts,
                          testing::Values("שָׁלוֹם", "שָׁלוֹם עולם", "עִבְרִית (בדיקה)", "السَّلَامُ", "مُحَمَّد",
                                          "لِلْعَرَبِيَّةِ", "شُكْرًا"));
 
+// Each caption has one word from right to left, which ends in a mark, among others of no or of the
+// other direction.
+TEST(PdfTexts, AMarkAtTheEndStaysWithItsWordAmongOthersOfTheOtherDirection)
+{
+    for (const char* caption : {"abc שָׁלָ", "שָׁלָ abc", "abc שָׁלָ def", "12 שָׁלָ", "שָׁלָ 12", "שָׁלָ\ufeff"}) {
+        CAnyChart chart = bars(caption);
+        EXPECT_THAT(textOf(chart), HasSubstr("שָׁלָ")) << caption;
+    }
+    CAnyChart pie(ChartKind::Pie);
+    pie.graph().setFont("DejaVu Sans", 11);
+    pie.addItem(1234, "שָׁלָ");
+    EXPECT_THAT(textOf(pie), HasSubstr("שָׁלָ"));
+}
+
 // Where glyphs do not tell the letters, a text is there a second time, and can only be marked as a
 // whole. The third caption has two letters that share a glyph.
 TEST(PdfTexts, LettersAreToldByTheirGlyphsInScriptsThatJoinThem)
