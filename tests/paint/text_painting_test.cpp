@@ -105,10 +105,13 @@ TEST(TextPainting, PaintsBeyondTheRoomIntoTheSlack)
 
 TEST(TextPainting, TurnsTextsWithSlackAroundTheSameCorner)
 {
-    CPlacedText text = turned(textIn(QRectF(40, 80, 60, 16)));
-    CPlacedText slack = text;
-    slack.slack = 20;
-    EXPECT_EQ(drawn(text), drawn(slack));
+    for (const Qt::Alignment alignment : {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight}) {
+        CPlacedText text = turned(textIn(QRectF(40, 80, 60, 16)));
+        text.alignment = alignment;
+        CPlacedText slack = text;
+        slack.slack = 20;
+        EXPECT_EQ(drawn(text), drawn(slack));
+    }
 }
 
 TEST(TextPainting, DrawsOneLineForEachLineBreak)
