@@ -144,6 +144,15 @@ TEST(SliceOutline, IsEmptyForNumbersThatNoPictureHas)
     }
 }
 
+TEST(SliceOutline, IsEmptyWhereAnEdgeLiesBeyondABillionPixels)
+{
+    EXPECT_FALSE(outlineSlice(QRectF(-1e9, -1e9, 2e9, 2e9), 0, 90).empty());
+    EXPECT_TRUE(outlineSlice(QRectF(-1.1e9, 0, 10, 10), 0, 90).empty());
+    EXPECT_TRUE(outlineSlice(QRectF(0, -1.1e9, 10, 10), 0, 90).empty());
+    EXPECT_TRUE(outlineSlice(QRectF(0, 0, 1.1e9, 10), 0, 90).empty());
+    EXPECT_TRUE(outlineSlice(QRectF(0, 0, 10, 1.1e9), 0, 90).empty());
+}
+
 TEST(SliceOutline, TakesAnglesOfAnySize)
 {
     EXPECT_EQ(outlineSlice(kEllipse, 3600 + 30, 90), outlineSlice(kEllipse, 30, 90));
