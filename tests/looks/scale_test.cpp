@@ -174,6 +174,20 @@ TEST(Scale, DoublesThePieAndTheRectanglesOfItsCaptions)
     }
 }
 
+// Letters of a magnified text can be wider than twice the small ones, and a title has one line.
+TEST(Scale, LeavesATitleRoomToGrowToEitherSide)
+{
+    CPieInput pie(false);
+    pie.addItem(1, "one", QColor(), QColor());
+    pie.settings.title = QString("Sales and losses");
+    const CPieLayout once = layOut(pie, onScreen(400, 300));
+    EXPECT_EQ(roomWithSlack(once.title->text), toRoom(once.title->rect));
+    const CPieLayout twice = layOut(pie, scaled(onScreen(400, 300), 2));
+    const QRectF room = roomWithSlack(twice.title->text);
+    EXPECT_GT(room.width(), 1.1 * twice.title->rect.width());
+    EXPECT_EQ(room.center(), toRoom(twice.title->rect).center());
+}
+
 TEST(Scale, DoublesTheWidthsOfAllLines)
 {
     CDice dice(1);
