@@ -121,6 +121,18 @@ TEST(DescribedChart, AppliesAThemeBeforeTheColorsBesideIt)
     EXPECT_NE(chart(R"("theme": "dark")"), chart(R"("theme": "dark", "text_color": "#ff0000")"));
 }
 
+TEST(DescribedChart, IsInTheFamilyGivenUnlessItNamesOne)
+{
+    constexpr const char* kUnnamed = R"({"chart": "pie", "items": [{"value": 1, "caption": "x"}]})";
+    constexpr const char* kNamed = R"({"chart": "pie", "font": "DejaVu Serif",
+                                       "items": [{"value": 1, "caption": "x"}]})";
+    const auto inFamily = [](const char* json, const char* family) {
+        return drawDescription(parseDescription(json), PictureFormat::Png, family).picture;
+    };
+    EXPECT_EQ(inFamily(kUnnamed, "DejaVu Serif"), drawn(kNamed).picture);
+    EXPECT_EQ(inFamily(kNamed, "DejaVu Sans Mono"), drawn(kNamed).picture);
+}
+
 TEST(DescribedChart, NamesTheSettingWhoseValueIsRefused)
 {
     EXPECT_THAT(
