@@ -166,6 +166,37 @@ TEST(SvgBars, AreOutlinedAlongTheMiddleOfAnOddStroke)
     }
 }
 
+TEST(SvgBars, HaveCrispEdgesInAViewOfAnySize)
+{
+    for (const ChartKind kind : {ChartKind::VerticalBars, ChartKind::HorizontalBars}) {
+        CAnyChart chart(kind);
+        chart.addItem(3, "a");
+        const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+        EXPECT_EQ(svg.all("g").at(0)["shape-rendering"], QString("crispEdges"));
+    }
+}
+
+// Two level sides, one pixel wide, and half a circle, along which the width varies between that and
+// the one of a diagonal: (2 + pi * 0.9003) / (2 + pi).
+TEST(SvgPies, AreOutlinedInTheMeanWidthOfAPaintedSlice)
+{
+    CAnyChart chart(ChartKind::Pie);
+    chart.addItem(3, "a");
+    chart.addItem(3, "b");
+    const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+    for (const CSvgElement& item : svg.items())
+        EXPECT_NEAR(svg.children(item, "path").at(0).number("stroke-width"), 0.94, 0.01);
+}
+
+TEST(SvgFont, HasTheSizeOfTheSystemWhereTheHostWantsThat)
+{
+    CAnyChart chart(ChartKind::Pie);
+    chart.addItem(3, "a");
+    chart.graph().setFont("DejaVu Sans", 0);
+    const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+    EXPECT_GT(svg.elements().at(0).number("font-size"), 5);
+}
+
 TEST(SvgNumbers, HaveAtMostTwoDecimals)
 {
     PieGraph pie(true);
