@@ -86,8 +86,19 @@ TEST_P(EverySvg, ShortensCaptionsAsThePngDoes)
 TEST_P(EverySvg, KeepsTheWidthThatATextWasMeasuredWith)
 {
     chart.addItem(3, "some caption");
-    for (const CSvgElement& text : draw().all("text"))
+    for (const CSvgElement& text : draw().all("text")) {
         EXPECT_GT(text.number("textLength"), 0) << text.text.toStdString();
+        EXPECT_EQ(text["lengthAdjust"], "spacingAndGlyphs") << text.text.toStdString();
+    }
+}
+
+TEST_P(EverySvg, WritesTheTitleInBoldAndNothingElse)
+{
+    chart.graph().setTitle("A title");
+    chart.addItem(3, "some caption");
+    for (const CSvgElement& text : draw().all("text"))
+        EXPECT_EQ(text["font-weight"], text.text == "A title" ? "bold" : "")
+            << text.text.toStdString();
 }
 
 TEST(SvgTexts, KeepTheSpacesThatTheyAreMeasuredWith)

@@ -5,6 +5,7 @@
 #include "support/public_records.h"
 #include "svg/parsed_svg.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gmock/gmock.h>
 #include <set>
@@ -186,6 +187,34 @@ TEST(SvgPies, AreOutlinedInTheMeanWidthOfAPaintedSlice)
     const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
     for (const CSvgElement& item : svg.items())
         EXPECT_NEAR(svg.children(item, "path").at(0).number("stroke-width"), 0.94, 0.01);
+}
+
+TEST(SvgPies, HaveNoLineToACaptionThatIsHidden)
+{
+    constexpr int kSlices = 90;
+    CAnyChart chart(ChartKind::Pie);
+    for (int i = 0; i < kSlices; ++i)
+        chart.addItem(1, "caption");
+    const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+    long lines = 0;
+    for (const CSvgElement& path : svg.all("path"))
+        lines += path["stroke-dasharray"].isEmpty() ? 0 : 1;
+    const auto captions = chart.itemRectangles();
+    const auto hidden = std::count_if(captions.begin(), captions.end(),
+                                      [](const Rectangle& rect) { return rect.width == 0; });
+    EXPECT_GT(hidden, 0);
+    EXPECT_EQ(lines, kSlices - hidden);
+}
+
+TEST(SvgPies, HaveABackgroundThatIsAsRoundAtEveryScale)
+{
+    CAnyChart chart(ChartKind::Pie, true);
+    chart.addItem(3, "a");
+    const CParsedSvg once(chart.createSvg(kWidth, kHeight).bytes());
+    chart.graph().setScale(3);
+    const CParsedSvg thrice(chart.createSvg(kWidth, kHeight).bytes());
+    ASSERT_GT(once.all("rect").back().number("rx"), 0);
+    EXPECT_EQ(thrice.all("rect").back().number("rx"), 3 * once.all("rect").back().number("rx"));
 }
 
 TEST(SvgFont, HasTheSizeOfTheSystemWhereTheHostWantsThat)

@@ -105,6 +105,19 @@ TEST(SvgThemes, GiveEverySliceTheColoursThatItHasInTheDarkTheme)
     }
 }
 
+TEST(SvgThemes, WriteEveryTextInLightLettersOnDarkDisplays)
+{
+    for (const ChartKind kind : kChartKinds) {
+        CAnyChart chart = chartOf(kind);
+        chart.graph().setTitle("Title");
+        ASSERT_EQ(chart.graph().setByName("follow_display", "true"), "");
+        const std::string svg = bytesOf(chart);
+        for (const CSvgElement& text : CParsedSvg(svg).all("text"))
+            EXPECT_EQ(darkColor(svg, text, "fill"), "#e6e9ef")
+                << nameOf(kind) << ' ' << text.text.toStdString();
+    }
+}
+
 TEST(SvgThemes, KeepTheirOwnColoursOnLightDisplays)
 {
     CAnyChart chart = chartOf(ChartKind::VerticalBars);
