@@ -4,6 +4,7 @@
 #include "support/mixed_charts.h"
 #include "support/png_decoding.h"
 
+#include <QColor>
 #include <QPainter>
 #include <QRect>
 
@@ -77,7 +78,9 @@ TEST(PdfPixels, ATransparentPictureLeavesThePaperAsItIs)
     chart.addItem(1, "all");
     const std::size_t filled = chart.createPdf(kWidth, kHeight).bytes().size();
     chart.graph().setPictureTransparent();
-    EXPECT_LT(chart.createPdf(kWidth, kHeight).bytes().size(), filled);
+    const std::string clear = chart.createPdf(kWidth, kHeight).bytes();
+    EXPECT_LT(clear.size(), filled);
+    EXPECT_EQ(QColor(pageOf(clear).pixel(1, 1)), QColor(Qt::white));
 }
 
 TEST(PdfPixels, NothingInAPageIsMadeOfPixels)

@@ -56,7 +56,8 @@ TEST_P(PdfTextInScripts, IsFoundAsItWasGiven)
 INSTANTIATE_TEST_SUITE_P(Captions, PdfTextInScripts,
                          testing::Values("Größe", "Αθήνα", "Москва", "office fi ffl",
                                          "a\u0331\u0308b", "日本語", "हिन्दी", "العربية", "שלום",
-                                         "1\u20442", "\U0001f600 face", "a\u2010b-c\u2011d"));
+                                         "1\u20442", "\U0001f600 face", "a\u2010b-c\u2011d",
+                                         "\uab53 in no font"));
 
 // One glyph for two letters, and brackets that look the other way.
 INSTANTIATE_TEST_SUITE_P(FromRightToLeft, PdfTextInScripts,
