@@ -297,16 +297,21 @@ TEST(HandlerExchange, KeepsTheOrderOfHandlersForEver)
 // its message on to a filter that has been replaced.
 TEST(HandlerExchange, KeepsTheMeaningOfAFilterThatWasGivenBackForMessagesThatAreUnderWay)
 {
-    CProcess process;
-    const QtMessageHandler host = process.inForce();
-    contest(process);
-    process.popAll();
-    process.interrupt(1, {kPushAndPop});
-    process.putFilterInFront();
-    const QtMessageHandler previous = process.firstPrevious();
-    process.act(kPushTwo);
-    process.putFilterInFront();
-    EXPECT_EQ(process.behind(previous), host);
+    for (int moment = 0; moment < kMoments; ++moment) {
+        CProcess process;
+        const QtMessageHandler host = process.inForce();
+        contest(process);
+        process.popAll();
+        process.interrupt(moment, {kPushAndPop});
+        process.putFilterInFront();
+        const QtMessageHandler previous = process.firstPrevious();
+        process.act(kPushTwo);
+        for (int call = 0; call < 3; ++call) {
+            process.interrupt(0, {Acts{}});
+            process.putFilterInFront();
+            EXPECT_EQ(process.behind(previous), host) << moment << ' ' << call;
+        }
+    }
 }
 
 TEST(HandlerExchange, StillPutsAFilterInFrontAfterThousandsOfExchangesAndInterruptions)

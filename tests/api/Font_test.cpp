@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Fonts that the host brings along. They stay for the process, so that each test has its own
 // family.
+#include "api/CAddedFonts.h"
 #include "support/host_pictures.h"
 #include "support/small_font.h"
 #include <tovangl/tovangl.h>
@@ -115,6 +116,27 @@ TEST(AddFont, GivesAFamilyItsBoldFileAfterAChartHasUsedIt)
     EXPECT_THAT(addBytes(wideFont("Late Bold", true)), ElementsAre("Late Bold"));
     EXPECT_NE(pictureIn("Late Bold", true), before);
     EXPECT_EQ(pictureIn("Late Bold"), plain);
+}
+
+TEST(AddFont, KeepsTheFamiliesOfACollectionOfWhichOneGetsItsBoldFile)
+{
+    addBytes(smallCollection({smallFont("Collected C"), smallFont("Collected D")}));
+    const QImage plain = pictureIn("Collected C");
+    addBytes(wideFont("Collected C", true));
+    EXPECT_EQ(pictureIn("Collected C"), plain);
+}
+
+// A host can add its fonts before each chart.
+TEST(AddFont, KeepsAFileOnce)
+{
+    const std::string file = smallFont("Added Before Each Chart");
+    const auto drawnIn = [] {
+        return CAddedFonts::ofProcess().qtFamily(QStringLiteral("Added Before Each Chart"));
+    };
+    addBytes(file);
+    const QString family = drawnIn();
+    addBytes(file);
+    EXPECT_EQ(drawnIn(), family);
 }
 
 TEST(AddFont, TakesNoCharacterFromAnotherFamily)

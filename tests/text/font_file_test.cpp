@@ -67,6 +67,41 @@ TEST(FamiliesInFile, AreShortenedToWhatAChartKeeps)
     EXPECT_THAT(families, ElementsAre(QString(256, QLatin1Char('x'))));
 }
 
+// Of old Macintosh computers, of Unicode, and of a platform that nobody knows.
+TEST(FamiliesInFile, ArePreferablyThoseWhoseLettersAreCertain)
+{
+    const CFontName old = macintoshName(kFamily, "Old");
+    const CFontName unicode = {0, 3, 0, kFamily, std::string("\0U", 2)};
+    const CFontName unknown = {4, 0, 0, kFamily, std::string("\0X", 2)};
+    EXPECT_THAT(familiesInFile(fontNamed({old, unicode})), ElementsAre("U"));
+    EXPECT_THAT(familiesInFile(fontNamed({unknown, old})), ElementsAre("Old"));
+    EXPECT_THAT(familiesInFile(fontNamed({unknown})), IsEmpty());
+}
+
+TEST(FamiliesInFile, AreTheFirstOfSeveralThatAreAsGood)
+{
+    const CFontName german = {3, 1, 0x407, kFamily, std::string("\0Z", 2)};
+    const CFontName french = {3, 1, 0x40c, kFamily, std::string("\0C", 2)};
+    EXPECT_THAT(familiesInFile(fontNamed({german, french})), ElementsAre("Z"));
+}
+
+TEST(FamiliesInFile, HaveNoHalfCharacters)
+{
+    const CFontName odd = {3, 1, 0x409, kFamily, std::string("\0R\0", 3)};
+    EXPECT_THAT(familiesInFile(fontNamed({odd, macintoshName(2, "Bold")})), ElementsAre("R"));
+    const CFontName halfPair = {3, 1, 0x409, kFamily, std::string("\xd8\0\0R", 4)};
+    const QString whole = familiesInFile(fontNamed({halfPair})).at(0);
+    EXPECT_EQ(whole, QString::fromUtf8(whole.toUtf8()));
+}
+
+TEST(FamiliesInFile, AreWhereTheTableSaysThatItsTextsAre)
+{
+    const std::string file = fontNamed({windowsName(kFamily, "Rooms"), windowsName(2, "Bold")});
+    const std::string twoNames("\0\0\0\2\0\x1e", 6);
+    const std::string oneName("\0\0\0\1\0\x1e", 6);
+    EXPECT_THAT(familiesInFile(replaced(file, twoNames, oneName)), ElementsAre("Rooms"));
+}
+
 TEST(FamiliesInFile, AreNoneWhereAFontHasNoName)
 {
     EXPECT_THAT(familiesInFile(fontNamed({})), IsEmpty());
@@ -116,6 +151,15 @@ INSTANTIATE_TEST_SUITE_P(Files, FileThatIsNoFont,
                                            replaced(smallFont("A"), "cmap", "xxxx"),
                                            replaced(smallFont("A"), "maxp", "xxxx"),
                                            replaced(smallFont("A"), "name", "xxxx")));
+
+TEST(FontFile, CanHaveOutlinesOfAnyKind)
+{
+    const std::string file = smallFont("A");
+    for (const char* outlines : {"CFF ", "CFF2"})
+        EXPECT_THAT(familiesInFile(replaced(file, "glyf", outlines)), ElementsAre("A")) << outlines;
+    for (const char* kind : {"true", "OTTO"})
+        EXPECT_THAT(familiesInFile(kind + file.substr(4)), ElementsAre("A")) << kind;
+}
 
 TEST(FontFile, NeedsASensibleNumberOfUnits)
 {
@@ -220,6 +264,14 @@ TEST(RenamedFile, CanBeRenamedAgain)
 {
     const QByteArray once = renamedFile(smallFont("A"), {"B"});
     EXPECT_THAT(familiesInFile(viewOf(renamedFile(viewOf(once), {"C"}))), ElementsAre("C"));
+}
+
+TEST(RenamedFile, HasTheNewTableAtAMultipleOfFour)
+{
+    const std::string renamed = renamedFile(smallFont("A") + "x", {"B"}).toStdString();
+    const std::size_t offset = renamed.find("name") + 8;
+    EXPECT_EQ(renamed[offset + 3] % 4, 0);
+    EXPECT_THAT(familiesInFile(renamed), ElementsAre("B"));
 }
 
 TEST(RenamedFile, DiffersInTheDirectoryAloneUpToTheNewTable)
