@@ -154,6 +154,16 @@ TEST(Batch, FramesTellTheirLengthAndTheirRegions)
     EXPECT_EQ(refused["problem"], "not JSON: wrong at byte 1");
 }
 
+TEST(Batch, AFrameTellsWhyItsPictureHasNoChart)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result =
+        runLines(folder, R"({"chart": "pie", "width": 5, "height": 5, "items": []})", "--frames");
+    const Json header = Json::parse(result.output.substr(0, result.output.find('\n')));
+    EXPECT_THAT(header["problem"].get<std::string>(), HasSubstr("no room"));
+    EXPECT_GT(header["bytes"], 0);
+}
+
 TEST(Batch, FramesComeAtOnceWhileThePipeStaysOpen)
 {
     const CTemporaryFolder folder;
