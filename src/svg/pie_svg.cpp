@@ -34,6 +34,9 @@ constexpr double kChordInset = 0.04;
 // Of 255, in one channel. Nobody sees that a thin line is a little paler or darker.
 constexpr int kVisibleDifference = 16;
 constexpr int kGreatestContrast = 255;
+constexpr int kNoContrast = 0;
+// Of the picture's pixels. Lines that are shorter together are not worth a larger file.
+constexpr double kFewPixels = 0.0014;
 
 double degrees(int units)
 {
@@ -154,18 +157,37 @@ CSliceOutline thinOutline(const CSliceAngles& angles, int contrast)
     return {Edges::Last, (last + length * arc) / (1 + length), CEdgeStroke{start, first}};
 }
 
-// A picture in two themes has the same shapes in both.
-CSliceOutline outlineOf(const CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
+// How much a slice's outline stands out of it. A picture in two themes has the same shapes in both.
+int contrastOf(const CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
+{
+    return scene.frame.isOneOfTwo ? kGreatestContrast
+                                  : contrastBetween(slice.color, layout.outlineColor);
+}
+
+CSliceOutline outlineOf(const CPieLayout& layout, const CSliceAngles& angles, int contrast)
 {
     const Edges edges = layout.isWholeDisc ? Edges::None : Edges::Both;
     if (layout.outlineWidth > kThinnestLine)
         return {edges, double(layout.outlineWidth), {}};
-    const CSliceAngles& angles = slice.angles;
     if (layout.isWholeDisc)
         return {edges, paintedWidth(degrees(angles.start), degrees(angles.span)), {}};
-    return thinOutline(angles, scene.frame.isOneOfTwo
-                                   ? kGreatestContrast
-                                   : contrastBetween(slice.color, layout.outlineColor));
+    return thinOutline(angles, contrast);
+}
+
+std::vector<CSliceOutline> outlinesOf(const CSvgScene& scene, const CPieLayout& layout)
+{
+    std::vector<CSliceOutline> outlines;
+    outlines.reserve(layout.slices.size());
+    double length = 0; // of the edges that are apart
+    for (const CPieSlice& slice : layout.slices) {
+        outlines.push_back(outlineOf(layout, slice.angles, contrastOf(scene, layout, slice)));
+        length += outlines.back().other ? layout.drawnPieRect.width() * kHalf : 0;
+    }
+    if (length >= kFewPixels * scene.frame.width * scene.frame.height)
+        return outlines;
+    for (std::size_t i = 0; i < outlines.size(); ++i)
+        outlines[i] = outlineOf(layout, layout.slices[i].angles, kNoContrast);
+    return outlines;
 }
 
 std::string linePath(const QPointF& from, const QPointF& to)
@@ -176,10 +198,10 @@ std::string linePath(const QPointF& from, const QPointF& to)
     return (isLevel ? path.across(to.x()) : path.line(to.x(), to.y())).text();
 }
 
-void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
+void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice,
+                const CSliceOutline& outline)
 {
     const QRectF pie = outlinedPie(layout);
-    const CSliceOutline outline = outlineOf(scene, layout, slice);
     scene.markup.begin("path").attribute("d", slicePath(pie, slice.angles, outline.edges));
     scene.colors.paint(scene.markup, {{"fill", slice.color}, {"stroke", layout.outlineColor}});
     writeStrokeWidth(scene.markup, outline.width);
@@ -296,9 +318,10 @@ void writePie(CSvgScene& scene, const CPieLayout& layout)
         .attribute("stroke-linejoin", "bevel")
         .open();
     const std::vector<const CPlacedPieLabel*> labels = labelsBySlice(layout);
+    const std::vector<CSliceOutline> outlines = outlinesOf(scene, layout);
     for (std::size_t i = 0; i < layout.slices.size(); ++i) {
         const std::string_view element = beginItem(scene, layout.slices[i].item);
-        writeSlice(scene, layout, layout.slices[i]);
+        writeSlice(scene, layout, layout.slices[i], outlines[i]);
         writeLabel(scene, layout, *labels[i]);
         scene.markup.close(element);
     }
