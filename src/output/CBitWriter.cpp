@@ -4,18 +4,8 @@
 
 namespace tovangl {
 
-namespace {
-
-constexpr std::size_t kBitsPerByte = 8;
-
-unsigned char bitOf(std::size_t position)
-{
-    return static_cast<unsigned char>(1U << position % kBitsPerByte);
-}
-
-} // namespace
-
-void CBitWriter::put(unsigned value, int count)
+// Near the end of the room, where a word is too long.
+void CBitWriter::putBits(std::uint64_t value, int count)
 {
     for (int i = 0; i < count; ++i, value >>= 1) {
         const std::size_t byte = m_position / kBitsPerByte;

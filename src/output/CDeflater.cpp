@@ -2,8 +2,8 @@
 // Compresses the rows of one picture.
 #include "output/CDeflater.h"
 
-#include "output/fast_deflating.h"
 #include "output/piecewise_deflating.h"
+#include "output/row_deflating.h"
 
 #include <libdeflate.h>
 #include <new>
@@ -21,11 +21,8 @@ constexpr int kSmallPictureLevel = 7;
 constexpr int kMiddlePictureLevel = 6;
 constexpr int kLargePictureLevel = 5;
 
-// Level 1 is no faster on charts: in runs of equal bytes its steps depend on each other.
+// For bytes that do not repeat, which nothing makes smaller.
 constexpr int kQuickestLevel = 2;
-
-// With less room, the fast compressor is not even tried.
-constexpr std::size_t kLeastRoom = 4096; // bytes
 
 int levelFor(std::size_t bytes, Compression compression)
 {
@@ -43,17 +40,11 @@ void CDeflater::CFree::operator()(libdeflate_compressor* compressor) const
     libdeflate_free_compressor(compressor);
 }
 
-// Small pictures take next to no time either way, and libdeflate makes smaller files.
-bool isForDeflateFast(std::size_t bytes, Compression compression)
-{
-    return compression == Compression::Fast && bytes >= kSmallPicture && canDeflateFast();
-}
-
 CDeflater::CDeflater(const CPackedPicture& picture, Compression compression)
     : m_bytes(picture.rows)
     , m_compression(compression)
     , m_still(picture.stillRows)
-    , m_reach(picture.reach)
+    , m_shape(picture.shape)
 {}
 
 CDeflater::CDeflater(CByteRange bytes, Compression compression, CStillRows still)
@@ -64,8 +55,8 @@ CDeflater::CDeflater(CByteRange bytes, Compression compression, CStillRows still
 
 std::size_t CDeflater::deflate(CByteRoom room)
 {
-    if (isForDeflateFast(m_bytes.size, m_compression) && room.size >= kLeastRoom) {
-        if (const std::size_t size = deflateFast(m_bytes, m_reach, room))
+    if (m_compression == Compression::Fast) {
+        if (const std::size_t size = deflateRows(m_bytes, m_shape, room))
             return size;
     }
     if (!m_still.runs.empty()) {
@@ -91,7 +82,7 @@ libdeflate_compressor* CDeflater::compressor()
 
 const char* fastCompressor() noexcept
 {
-    return canDeflateFast() ? "ISA-L" : "libdeflate";
+    return "tovangl";
 }
 
 } // namespace tovangl

@@ -13,9 +13,6 @@ struct libdeflate_compressor;
 
 namespace tovangl {
 
-/// Whether so many bytes of rows go to the fastest compressor.
-[[nodiscard]] bool isForDeflateFast(std::size_t bytes, Compression compression);
-
 /// Compresses bytes that are all in memory into a zlib stream. The stream depends only on the
 /// bytes, on which of them are still rows, and on the setting.
 class CDeflater
@@ -43,7 +40,7 @@ private:
     CByteRange m_bytes;
     Compression m_compression;
     CStillRows m_still;
-    Reach m_reach = Reach::Far;
+    CRowShape m_shape;
     std::unique_ptr<libdeflate_compressor, CFree> m_compressor; // made when first needed
 };
 

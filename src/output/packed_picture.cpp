@@ -2,7 +2,7 @@
 // A picture's rows in the form that a PNG file compresses.
 #include "output/packed_picture.h"
 
-#include "output/CDeflater.h"
+#include "output/deflate_codes.h"
 #include "output/opacity.h"
 #include "output/picture_colors.h"
 #include "output/pixel_blocks.h"
@@ -197,13 +197,6 @@ std::vector<QRgb> paletteOf(const CColorIndex& index)
     return palette;
 }
 
-// The compressor that a setting means for so many rows.
-Compression compressorOf(const CRowMemory& memory, Compression compression)
-{
-    const bool isFast = isForDeflateFast(memory.allPacked().size, compression);
-    return isFast ? Compression::Fast : Compression::Balanced;
-}
-
 CPackedPicture packPalette(QImage& picture, const CPictureColors& colors, Compression compression)
 {
     CPackedPicture packed;
@@ -214,14 +207,14 @@ CPackedPicture packPalette(QImage& picture, const CPictureColors& colors, Compre
     const std::size_t rowBytes = (bits + kBitsPerByte - 1) / kBitsPerByte;
     const CRowMemory memory(picture, rowBytes);
     const RowFilter filter =
-        chooseFilter(rowBytes, colors.repeatedRows, picture.height() - colors.repeatedRows,
-                     compressorOf(memory, compression));
+        compression == Compression::Fast
+            ? RowFilter::None
+            : chooseFilter(rowBytes, colors.repeatedRows, picture.height() - colors.repeatedRows);
     CPaletteWriter(memory, picture.width(), packed.depth, colors, filter).write();
     packed.rows = memory.allPacked();
-    if (filter == RowFilter::Up) {
+    packed.shape.stride = memory.packedStride();
+    if (filter == RowFilter::Up)
         packed.stillRows = findStillRows(colors.isRepeated, memory.packedStride());
-        packed.reach = Reach::Near;
-    }
     packed.spare = memory.spare();
     return packed;
 }
@@ -248,92 +241,27 @@ void packChannelsWithAlpha(const QRgb* pixels, std::size_t count, Byte* packed)
     }
 }
 
-// Writes rows of channels, each behind its filter.
-class CChannelWriter
-{
-public:
-    CChannelWriter(std::size_t rowBytes, RowFilter filter)
-        : m_rowBytes(rowBytes)
-        , m_filter(filter)
-        , m_row(rowBytes + kBlockBytes)
-        , m_above(filter == RowFilter::Up ? m_row.size() : 0)
-    {}
-
-    // Takes the channels of the next row.
-    [[nodiscard]] Byte* row() { return m_row.data(); }
-
-    void write(Byte* packed)
-    {
-        *packed++ = static_cast<Byte>(m_filter);
-        if (m_filter == RowFilter::None) {
-            std::copy_n(m_row.data(), m_rowBytes, packed);
-            return;
-        }
-        for (std::size_t begin = 0; begin < m_rowBytes; begin += kBlockBytes)
-            writeDifferences(begin, packed + begin);
-        m_row.swap(m_above);
-    }
-
-private:
-    static constexpr std::size_t kBlockBytes = 64; // a number that compilers make use of
-
-    void writeDifferences(std::size_t begin, Byte* packed) const
-    {
-        std::array<Byte, kBlockBytes> differences;
-        for (std::size_t i = 0; i < kBlockBytes; ++i)
-            differences[i] = static_cast<Byte>(m_row[begin + i] - m_above[begin + i]);
-        std::copy_n(differences.data(), std::min(kBlockBytes, m_rowBytes - begin), packed);
-    }
-
-    std::size_t m_rowBytes;
-    RowFilter m_filter;
-    std::vector<Byte> m_row;   // fills its last block
-    std::vector<Byte> m_above; // at first zeros
-};
-
-// A background that changes from row to row shows at the left edge.
-bool hasGradientBackground(const QImage& picture)
-{
-    constexpr int kLeastShare = 20; // one of so many rows
-    const auto leftPixel = [&picture](int y) {
-        return *reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-    };
-    int changes = 0;
-    for (int y = 1; y < picture.height(); ++y)
-        changes += leftPixel(y) == leftPixel(y - 1) ? 0 : 1;
-    return changes > picture.height() / kLeastShare;
-}
-
-// For the fastest compressor, which does not find a row in the one above, Up turns a background
-// that changes into zeros and a few other numbers. It makes edges and slices compress less well.
-RowFilter chooseChannelFilter(const QImage& picture, std::size_t packedBytes,
-                              Compression compression)
-{
-    const bool isWorthIt =
-        isForDeflateFast(packedBytes, compression) && hasGradientBackground(picture);
-    return isWorthIt ? RowFilter::Up : RowFilter::None;
-}
-
-CPackedPicture packTrueColor(QImage& picture, Compression compression)
+CPackedPicture packTrueColor(QImage& picture)
 {
     const auto width = static_cast<std::size_t>(picture.width());
     const CRowMemory memory(picture, width * kChannels);
+    std::vector<Byte> row(width * kChannels);
+    for (std::size_t y = 0; y < memory.rows(); ++y) {
+        packChannels(memory.pixels(y), width, row.data());
+        Byte* const out = memory.packed(y);
+        *out = static_cast<Byte>(RowFilter::None);
+        std::copy(row.begin(), row.end(), out + kFilterBytes);
+    }
     CPackedPicture packed;
     packed.rows = memory.allPacked();
-    packed.reach = Reach::Near;
+    packed.shape = {kChannels, memory.packedStride()};
     packed.spare = memory.spare();
-    CChannelWriter writer(width * kChannels,
-                          chooseChannelFilter(picture, packed.rows.size, compression));
-    for (std::size_t y = 0; y < memory.rows(); ++y) {
-        packChannels(memory.pixels(y), width, writer.row());
-        writer.write(memory.packed(y));
-    }
     return packed;
 }
 
 // With its filter, a packed row is longer than a row of pixels. The rows get memory of their own,
 // and the picture's is free for what comes of them.
-CPackedPicture packTrueColorWithAlpha(QImage& picture, Compression compression)
+CPackedPicture packTrueColorWithAlpha(QImage& picture)
 {
     const auto width = static_cast<std::size_t>(picture.width());
     const auto height = static_cast<std::size_t>(picture.height());
@@ -342,22 +270,20 @@ CPackedPicture packTrueColorWithAlpha(QImage& picture, Compression compression)
     packed.hasAlpha = true;
     packed.ownMemory = std::make_unique<Byte[]>(stride * height);
     packed.rows = {packed.ownMemory.get(), stride * height};
-    packed.reach = Reach::Near;
+    packed.shape = {kChannelsWithAlpha, stride};
     packed.spare = {picture.bits(), static_cast<std::size_t>(picture.bytesPerLine()) * height};
-    CChannelWriter writer(width * kChannelsWithAlpha,
-                          chooseChannelFilter(picture, packed.rows.size, compression));
     for (int y = 0; y < picture.height(); ++y) {
+        Byte* const out = packed.ownMemory.get() + stride * static_cast<std::size_t>(y);
+        *out = static_cast<Byte>(RowFilter::None);
         const auto* const pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        packChannelsWithAlpha(pixels, width, writer.row());
-        writer.write(packed.ownMemory.get() + stride * static_cast<std::size_t>(y));
+        packChannelsWithAlpha(pixels, width, out + kFilterBytes);
     }
     return packed;
 }
 
-CPackedPicture packManyColors(QImage& picture, Compression compression)
+CPackedPicture packManyColors(QImage& picture)
 {
-    return isOpaque(picture) ? packTrueColor(picture, compression)
-                             : packTrueColorWithAlpha(picture, compression);
+    return isOpaque(picture) ? packTrueColor(picture) : packTrueColorWithAlpha(picture);
 }
 
 } // namespace
@@ -365,17 +291,14 @@ CPackedPicture packManyColors(QImage& picture, Compression compression)
 // A compressor writes a match for every 258 bytes. Unfiltered, the matches of a repeated row encode
 // the distance to the row above, and each costs about a byte more than a match in the zeros that Up
 // produces; Up itself costs two matches a row. In the other rows Up costs about half a byte a
-// match. Both figures were measured on 1,500 charts. The fastest compressor often misses the row
-// above where nothing is filtered, so that Up costs it less, as measured on 500 large palettes.
-RowFilter chooseFilter(std::size_t rowBytes, int repeated, int others, Compression compressor)
+// match. Both figures were measured on 1,500 charts.
+RowFilter chooseFilter(std::size_t rowBytes, int repeated, int others)
 {
-    constexpr double kLongestMatch = 258; // bytes
+    constexpr double kMatchBytes = kLongestMatch;
     constexpr double kMatchesOfUp = 2;    // a repeated row
     constexpr double kLossInOthers = 0.5; // bytes a match
-    constexpr double kLossForFastest = 0.2;
-    const double matches = static_cast<double>(rowBytes) / kLongestMatch;
-    const double loss = compressor == Compression::Fast ? kLossForFastest : kLossInOthers;
-    const bool isWorthIt = repeated * (matches - kMatchesOfUp) > loss * others * matches;
+    const double matches = static_cast<double>(rowBytes) / kMatchBytes;
+    const bool isWorthIt = repeated * (matches - kMatchesOfUp) > kLossInOthers * others * matches;
     return isWorthIt ? RowFilter::Up : RowFilter::None;
 }
 
@@ -414,8 +337,8 @@ CStillRows findStillRows(const std::vector<bool>& isRepeated, std::size_t stride
 CPackedPicture packPicture(QImage& picture, Compression compression)
 {
     const CPictureColors colors = readColors(picture);
-    CPackedPicture packed = colors.areFew ? packPalette(picture, colors, compression)
-                                          : packManyColors(picture, compression);
+    CPackedPicture packed =
+        colors.areFew ? packPalette(picture, colors, compression) : packManyColors(picture);
     packed.width = picture.width();
     packed.height = picture.height();
     return packed;

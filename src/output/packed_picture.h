@@ -4,7 +4,8 @@
 #ifndef TOVANGL_OUTPUT_PACKED_PICTURE_H
 #define TOVANGL_OUTPUT_PACKED_PICTURE_H
 
-#include "output/fast_deflating.h"
+#include "output/CByteRange.h"
+#include "output/CMatchFinder.h"
 #include <tovangl/Compression.h>
 
 #include <QRgb>
@@ -23,15 +24,13 @@ enum class RowFilter : unsigned char
     Up = 2    ///< the differences from the bytes above
 };
 
-/// The filter that makes palette rows compress better. It depends only on their length, on how many
-/// of them repeat the row above, and on the compressor.
+/// The filter that makes palette rows compress better, where a compressor looks for repetitions at
+/// any distance. It depends only on their length and on how many of them repeat the row above.
 ///
-/// @param rowBytes    length of a packed row
-/// @param repeated    rows that repeat the row above
-/// @param others      all other rows
-/// @param compressor  Fast if the fastest one compresses them
-[[nodiscard]] RowFilter chooseFilter(std::size_t rowBytes, int repeated, int others,
-                                     Compression compressor);
+/// @param rowBytes  length of a packed row
+/// @param repeated  rows that repeat the row above
+/// @param others    all other rows
+[[nodiscard]] RowFilter chooseFilter(std::size_t rowBytes, int repeated, int others);
 
 /// The smallest of 1, 2, 4 and 8 bits that can number that many colours.
 [[nodiscard]] int paletteDepth(int colors);
@@ -65,7 +64,7 @@ struct CPackedPicture
     bool hasAlpha = false;     ///< the channels are red, green, blue and alpha; else without alpha
     CByteRange rows;           ///< each one begins with its filter
     CStillRows stillRows;      ///< what findStillRows() finds; none without the filter Up
-    Reach reach = Reach::Far;  ///< how far it pays to look back
+    CRowShape shape;           ///< of the rows
     CByteRoom spare;           ///< the part of the picture's memory that the rows do not need
     std::unique_ptr<unsigned char[]> ownMemory; ///< that of the rows where the picture's is short
 };
@@ -75,7 +74,7 @@ struct CPackedPicture
 ///
 /// @param picture      in ARGB32. Its pixels are overwritten, because its memory takes what is made
 ///                     of them, to avoid a second picture. It must outlive the result.
-/// @param compression  what the rows are compressed with, which decides on their filters
+/// @param compression  Fast looks for repetitions of pixels, and gets rows without a filter
 [[nodiscard]] CPackedPicture packPicture(QImage& picture, Compression compression);
 
 } // namespace tovangl

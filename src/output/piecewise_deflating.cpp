@@ -5,15 +5,14 @@
 #include "output/CBitWriter.h"
 #include "output/last_block.h"
 #include "output/still_rows_block.h"
+#include "output/zlib_frame.h"
 
-#include <cstdint>
 #include <libdeflate.h>
 
 namespace tovangl {
 
 namespace {
 
-constexpr unsigned kZlibHeader = 0x9c78; // deflate, a window of 32 KB, the default level
 constexpr std::size_t kBitsPerByte = 8;
 
 // Pieces from a compressor begin with a byte. A stored block of nothing leads there from any bit.
@@ -32,7 +31,7 @@ public:
         : m_compressor(compressor)
         , m_out(room)
     {
-        m_out.put(kZlibHeader, 16);
+        beginZlibStream(m_out);
     }
 
     // Whether it fitted.
@@ -58,14 +57,7 @@ public:
     }
 
     // The length of the stream; 0 if it did not fit.
-    [[nodiscard]] std::size_t finish(CByteRange rows)
-    {
-        m_out.align();
-        const std::uint32_t checksum = libdeflate_adler32(1, rows.data, rows.size);
-        for (int shift = 24; shift >= 0; shift -= 8)
-            m_out.put(checksum >> shift & 0xff, 8);
-        return m_out.isFull() ? 0 : m_out.position() / kBitsPerByte;
-    }
+    [[nodiscard]] std::size_t finish(CByteRange rows) { return endZlibStream(m_out, rows); }
 
 private:
     void goOnBehind(CByteRange stream)

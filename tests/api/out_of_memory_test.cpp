@@ -185,5 +185,20 @@ TEST(OutOfMemoryInAFile, RowsInPiecesLoseNothing)
     EXPECT_GT(size, 0U);
 }
 
+TEST(OutOfMemoryInAFile, RowsInAShortTimeLoseNothing)
+{
+    constexpr std::size_t kStride = 1001; // bytes
+    std::vector<unsigned char> rows(200 * kStride);
+    std::iota(rows.begin(), rows.begin() + 2 * kStride, static_cast<unsigned char>(0));
+    std::vector<unsigned char> room(rows.size());
+    std::size_t size = 0;
+    const int failures = failEverywhere([&] {
+        CDeflater deflater({rows.data(), rows.size()}, Compression::Fast);
+        size = deflater.deflate({room.data(), room.size()});
+    });
+    EXPECT_GT(failures, 5);
+    EXPECT_GT(size, 0U);
+}
+
 } // namespace
 } // namespace tovangl

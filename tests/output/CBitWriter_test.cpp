@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "output/CBitWriter.h"
 
+#include <algorithm>
 #include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace tovangl {
 namespace {
@@ -65,6 +67,43 @@ TEST_F(BitWriter, SaysThatItIsFullInsteadOfWritingBeyondTheRoom)
     EXPECT_FALSE(m_writer.isFull());
     m_writer.put(0, 1);
     EXPECT_TRUE(m_writer.isFull());
+}
+
+// Far from the end of its room it writes words, near the end bits.
+TEST(BitWriterInALargeRoom, WritesTheSameAsInASmallOne)
+{
+    std::array<unsigned char, 40> large;
+    large.fill(0xaa);
+    std::array<unsigned char, 21> small = {};
+    CBitWriter first({large.data(), large.size()});
+    CBitWriter second({small.data(), small.size()});
+    for (int count = 0; count <= 17; ++count) {
+        first.put(0x1234567, count);
+        second.put(0x1234567, count);
+    }
+    EXPECT_EQ(first.position(), second.position());
+    const std::size_t whole = first.position() / 8;
+    EXPECT_TRUE(std::equal(large.begin(), large.begin() + whole, small.begin()));
+}
+
+TEST(BitWriterInALargeRoom, TakesFiftySixBitsAtOnceWhereAByteIsBegun)
+{
+    std::array<unsigned char, 16> bytes = {};
+    CBitWriter writer({bytes.data(), bytes.size()});
+    writer.put(0b1111111, 7);
+    writer.put(0x8123456789abcd, CBitWriter::kMostBits);
+    writer.put(1, 1);
+    EXPECT_THAT(std::vector<int>(bytes.begin(), bytes.begin() + 8),
+                ElementsAre(0xff, 0xe6, 0xd5, 0xc4, 0xb3, 0xa2, 0x91, 0xc0));
+}
+
+TEST(BitWriterInALargeRoom, KeepsBitsThatSomebodyBegan)
+{
+    std::array<unsigned char, 16> bytes = {0xff, 0b101};
+    CBitWriter writer({bytes.data(), bytes.size()});
+    writer.skip(11);
+    writer.put(0b11, 2);
+    EXPECT_EQ(bytes[1], 0b11101);
 }
 
 } // namespace

@@ -56,6 +56,17 @@ inline Bytes rawInflated(const Bytes& stream, std::size_t size)
     return result == LIBDEFLATE_SUCCESS ? bytes : Bytes();
 }
 
+/// The content of a stream with a zlib header; empty if it is not one of that many bytes.
+inline Bytes inflated(const Bytes& stream, std::size_t size)
+{
+    const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)>
+        decompressor(libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+    Bytes bytes(size);
+    const auto result = libdeflate_zlib_decompress(decompressor.get(), stream.data(), stream.size(),
+                                                   bytes.data(), bytes.size(), nullptr);
+    return result == LIBDEFLATE_SUCCESS ? bytes : Bytes();
+}
+
 } // namespace tovangl
 
 #endif

@@ -93,59 +93,53 @@ TEST(PackedPicture, LeavesThePicturesMemoryFreeWhereItsRowsHoldAlpha)
 
 TEST(RowFilter, IsNoneWhereNoRowRepeatsTheRowAbove)
 {
-    EXPECT_EQ(chooseFilter(1000000, 0, 600, Compression::Balanced), RowFilter::None);
-    EXPECT_EQ(chooseFilter(1000000, 0, 600, Compression::Fast), RowFilter::None);
+    EXPECT_EQ(chooseFilter(1000000, 0, 600), RowFilter::None);
 }
 
 TEST(RowFilter, IsNoneForShortRowsAndUpForLongOnesOfABarChart)
 {
-    EXPECT_EQ(chooseFilter(400, 350, 50, Compression::Balanced), RowFilter::None);
-    EXPECT_EQ(chooseFilter(800, 350, 50, Compression::Balanced), RowFilter::Up);
+    EXPECT_EQ(chooseFilter(400, 350, 50), RowFilter::None);
+    EXPECT_EQ(chooseFilter(800, 350, 50), RowFilter::Up);
 }
 
 TEST(RowFilter, IsNoneWhereFewRowsRepeatTheRowAbove)
 {
-    EXPECT_EQ(chooseFilter(800, 50, 350, Compression::Balanced), RowFilter::None);
+    EXPECT_EQ(chooseFilter(800, 50, 350), RowFilter::None);
 }
 
-TEST(RowFilter, IsUpForFewerRepeatedRowsWhereTheFastestCompressorGetsThem)
+// All rows are the same, and long.
+QImage pictureOfStripe()
 {
-    EXPECT_EQ(chooseFilter(800, 200, 200, Compression::Balanced), RowFilter::None);
-    EXPECT_EQ(chooseFilter(800, 200, 200, Compression::Fast), RowFilter::Up);
-}
-
-constexpr QSize kLargePicture(400, 300);
-
-// Of many colours, with a background that changes from row to row, or with one of a single colour.
-QImage pictureBefore(bool isGradient)
-{
-    QImage picture = noise(1, kLargePicture.width(), kLargePicture.height());
+    QImage picture(12000, 100, QImage::Format_ARGB32);
+    picture.fill(Qt::white);
     for (int y = 0; y < picture.height(); ++y)
-        picture.setPixel(0, y, isGradient ? qRgb(255, 255, y / 2) : qRgb(255, 255, 255));
+        picture.setPixel(6000, y, qRgb(0, 0, 0));
     return picture;
 }
 
-RowFilter filterOf(QImage picture, Compression compression)
+TEST(RowFilter, IsNoneForTheSettingFastAlone)
 {
-    return RowFilter{*packPicture(picture, compression).rows.data};
+    for (const Compression compression : {Compression::Balanced, Compression::Fast}) {
+        QImage picture = pictureOfStripe();
+        const CPackedPicture packed = packPicture(picture, compression);
+        const bool isFast = compression == Compression::Fast;
+        EXPECT_EQ(RowFilter{*packed.rows.data}, isFast ? RowFilter::None : RowFilter::Up);
+        EXPECT_EQ(packed.stillRows.runs.empty(), isFast);
+    }
 }
 
-TEST(ChannelFilter, IsUpForTheFastestCompressorBeforeAGradient)
+TEST(PackedPicture, TellsHowFarApartPixelsAre)
 {
-    const RowFilter expected = canDeflateFast() ? RowFilter::Up : RowFilter::None;
-    EXPECT_EQ(filterOf(pictureBefore(true), Compression::Fast), expected);
-    EXPECT_EQ(filterOf(pictureBefore(true), Compression::Balanced), RowFilter::None);
-}
-
-TEST(ChannelFilter, IsNoneBeforeOneColour)
-{
-    EXPECT_EQ(filterOf(pictureBefore(false), Compression::Fast), RowFilter::None);
-}
-
-TEST(ChannelFilter, IsNoneInSmallPictures)
-{
-    const QImage corner = pictureBefore(true).copy(0, 0, 100, 100);
-    EXPECT_EQ(filterOf(corner, Compression::Fast), RowFilter::None);
+    const auto shapeOf = [](QImage picture) {
+        return packPicture(picture, Compression::Fast).shape;
+    };
+    EXPECT_EQ(shapeOf(randomPicture(1, 61, 47, 2)).pixelBytes, 1u);
+    EXPECT_EQ(shapeOf(randomPicture(1, 61, 47, 2)).stride, 1u + 8u);
+    EXPECT_EQ(shapeOf(randomPicture(1, 61, 47, 200)).stride, 1u + 61u);
+    EXPECT_EQ(shapeOf(noise(1, 61, 47)).pixelBytes, 3u);
+    EXPECT_EQ(shapeOf(noise(1, 61, 47)).stride, 1u + 3 * 61u);
+    EXPECT_EQ(shapeOf(translucentNoise(1, 61, 47)).pixelBytes, 4u);
+    EXPECT_EQ(shapeOf(translucentNoise(1, 61, 47)).stride, 1u + 4 * 61u);
 }
 
 // Rows of 1000 bytes: true repeats the row above.

@@ -51,17 +51,6 @@ Bytes deflated(const CRows& rows)
     return deflated(rows, rows.still, 2 * rows.bytes.size());
 }
 
-// With its header and its checksum.
-Bytes inflated(const Bytes& stream, std::size_t size)
-{
-    const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)>
-        decompressor(libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
-    Bytes bytes(size);
-    const auto result = libdeflate_zlib_decompress(decompressor.get(), stream.data(), stream.size(),
-                                                   bytes.data(), bytes.size(), nullptr);
-    return result == LIBDEFLATE_SUCCESS ? bytes : Bytes();
-}
-
 class RowsInPieces : public ::testing::TestWithParam<std::vector<std::size_t>>
 {};
 
