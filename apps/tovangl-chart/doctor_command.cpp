@@ -135,8 +135,8 @@ int examine(const DoctorOptions& options)
     if (options.fontFamily)
         checkFont(*options.fontFamily, findings);
     checkPicture(findings);
-    findings.good("compression", std::string("libdeflate, and ") + fastCompressor() +
-                                     " for large pictures with --fast");
+    findings.good("compression",
+                  std::string("libdeflate, and ") + fastCompressor() + " with --fast");
     return findings.exitStatus();
 }
 

@@ -57,7 +57,7 @@ def print_machine():
 
 
 def print_versions(with_peers):
-    packages = ["libqt5gui5", "libdeflate0", "libisal2", "libpng16-16", "zlib1g"]
+    packages = ["libqt5gui5", "libdeflate0", "libpng16-16", "zlib1g"]
     if with_peers:
         packages += ["gnuplot-nox", "libqcustomplot2.1", "libqt5svg5", "libqwt-qt5-6",
                      "libplplot17", "python3-matplotlib"]

@@ -12,11 +12,11 @@ namespace tovangl {
 enum class Compression
 {
     Balanced, ///< small files, which is the default
-    Fast      ///< files larger by a fifth to a quarter, seldom more, in about half the time
+    Fast      ///< files of about the same size, seldom twice as large, in about half the time
 };
 
-/// The name of the compressor that Compression::Fast uses for large pictures in this build of the
-/// library: "ISA-L", or "libdeflate" if it was built without ISA-L.
+/// The name of the compressor that Compression::Fast uses in this build of the library: "tovangl",
+/// which is one of the library's own.
 ///
 /// @return a string that lives as long as the process; never null
 TOVANGL_EXPORT const char* fastCompressor() noexcept;

@@ -10,8 +10,8 @@ namespace tovangl {
 
 namespace {
 
-// With fewer, codes fit better, but there are more of them: half of it and four times as many
-// change files by less than a thousandth.
+// With fewer, codes fit better, but there are more of them: half as many and four times as many
+// change files by about a thousandth.
 constexpr std::size_t kTokensOfBlock = 16 * 1024;
 
 constexpr std::size_t kBitsPerByte = 8;
