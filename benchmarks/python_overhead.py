@@ -4,12 +4,22 @@
 
     PYTHONPATH=build/release/bindings/python python3 benchmarks/python_overhead.py
 
+The yardstick is what a host in C++ does for the same chart: it makes the chart, sets it, adds the
+items, draws them, keeps a copy of the bytes, and frees the chart. Its texts and numbers are there
+beforehand as C takes them; Python makes its own of a list of pairs each time, and keeps the chart as
+well, to be asked for regions. The two are drawn in turn, so that each finds the caches as a drawing
+leaves them.
+
+Two threads of Python are compared with two processes that draw by such plain calls: how much faster
+these are than one is what the machine's processors give.
+
 With --instructions it counts them by valgrind, on any machine: all of a chart, and those inside the
 library's C functions.
 """
 
 import os
 import re
+import resource
 import statistics
 import subprocess
 import sys
@@ -22,7 +32,9 @@ WIDTH, HEIGHT = 800, 600  # pixels, of 12 upright bars: the size of a chart that
 PAIRS = [(f"Item {i}", 1000 + 137 * i) for i in range(12)]
 
 ROUNDS = 2000
-CHARTS_IN_THREADS = 3000
+CHARTS_OF_FAULTS = 200
+CHARTS_IN_THREADS = 1000
+PASSES_OF_THREADS = 5
 FRESH_PROCESSES = 20
 
 INSTRUCTION_CASES = {  # function, items, size in pixels
@@ -64,6 +76,7 @@ class PlainCalls:
         self.size = ffi.new("size_t *")
 
     def draw(self, fast):
+        """The bytes of the picture, which are the caller's."""
         lib.tovangl_chart_create(lib.TOVANGL_BARS, self.chart)
         chart = self.chart[0]
         lib.tovangl_chart_set(chart, b"fast", b"true" if fast else b"false")
@@ -71,7 +84,9 @@ class PlainCalls:
             chart, len(PAIRS), self.values, self.caption_column, ffi.NULL, ffi.NULL
         )
         lib.tovangl_chart_render(chart, WIDTH, HEIGHT, self.data, self.size)
+        png = ffi.buffer(self.data[0], self.size[0])[:]
         lib.tovangl_chart_destroy(chart)
+        return png
 
 
 def processor_time(draw, fast):
@@ -81,6 +96,14 @@ def processor_time(draw, fast):
     return (time.thread_time_ns() - begin) / 1000
 
 
+def page_faults(draw, fast):
+    """Pages of memory that the system hands out for a chart, whether new or given back before."""
+    before = resource.getrusage(resource.RUSAGE_THREAD).ru_minflt
+    for _ in range(CHARTS_OF_FAULTS):
+        draw(fast)
+    return (resource.getrusage(resource.RUSAGE_THREAD).ru_minflt - before) / CHARTS_OF_FAULTS
+
+
 def overhead(fast):
     """The lowest and the median time of a chart by plain calls, and in Python; in turn."""
     plain_calls = PlainCalls()
@@ -88,13 +111,14 @@ def overhead(fast):
     for _ in range(ROUNDS):
         plain.append(processor_time(plain_calls.draw, fast))
         python.append(processor_time(python_chart, fast))
-    return [(min(times), statistics.median(times)) for times in (plain, python)]
+    faults = [page_faults(draw, fast) for draw in (plain_calls.draw, python_chart)]
+    return [(min(times), statistics.median(times)) for times in (plain, python)], faults
 
 
 def seconds_in_threads(jobs):
     """How long render_many() takes with so many threads."""
     charts = (
-        tovangl.bars(PAIRS, width=WIDTH, height=HEIGHT, threshold=0)
+        tovangl.bars(PAIRS, width=WIDTH, height=HEIGHT, fast=False)
         for _ in range(CHARTS_IN_THREADS)
     )
     begin = time.perf_counter()
@@ -103,13 +127,65 @@ def seconds_in_threads(jobs):
     return time.perf_counter() - begin
 
 
+def seconds_in_processes(count):
+    """How long so many processes take for as many charts each as all threads have, by plain calls."""
+    command = [sys.executable, __file__, "--draw-plain"]
+    workers = [
+        subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        for _ in range(count)
+    ]
+    for worker in workers:
+        worker.stdout.readline()  # it has drawn a chart
+    begin = time.perf_counter()
+    for worker in workers:
+        worker.stdin.write(b"\n")
+        worker.stdin.flush()
+    for worker in workers:
+        worker.stdout.readline()
+    seconds = time.perf_counter() - begin
+    for worker in workers:
+        worker.communicate()
+    return seconds
+
+
+def draw_plain():
+    """A process of seconds_in_processes()."""
+    plain_calls = PlainCalls()
+    plain_calls.draw(False)
+    print("ready", flush=True)
+    sys.stdin.readline()
+    for _ in range(CHARTS_IN_THREADS):
+        plain_calls.draw(False)
+    print("drawn", flush=True)
+
+
+def print_threads():
+    """What two threads give, and what two processors give; of many passes the shortest times."""
+    passes = [
+        (
+            seconds_in_threads(1),
+            seconds_in_threads(2),
+            seconds_in_processes(1),
+            seconds_in_processes(2),
+        )
+        for _ in range(PASSES_OF_THREADS)
+    ]
+    one, two, process, processes = map(min, zip(*passes))
+    gain, possible = one / two, 2 * process / processes
+    print(
+        f"two threads: {gain:.2f} times one, {CHARTS_IN_THREADS / two:.0f} charts a second; two "
+        f"processes by plain calls: {possible:.2f} times one; {100 * gain / possible:.0f} % of that"
+    )
+
+
 def print_overhead(name, fast):
     """One line for one way of saving."""
-    (plain_low, plain_median), (python_low, python_median) = overhead(fast)
+    ((plain_low, plain_median), (python_low, python_median)), faults = overhead(fast)
     print(
         f"{name}: {plain_low:.0f} ({plain_median:.0f}) us by plain calls, "
         f"{python_low:.0f} ({python_median:.0f}) us in Python: "
-        f"{100 * (python_low / plain_low - 1):.1f} ({100 * (python_median / plain_median - 1):.1f}) %"
+        f"{100 * (python_low / plain_low - 1):.1f} ({100 * (python_median / plain_median - 1):.1f}) %; "
+        f"page faults {faults[0]:.2f} and {faults[1]:.2f}"
     )
 
 
@@ -149,6 +225,8 @@ def print_instructions():
 def main():
     if sys.argv[1:2] == ["--draw"]:
         draw_for_counting(*sys.argv[2:])
+    elif sys.argv[1:] == ["--draw-plain"]:
+        draw_plain()
     elif sys.argv[1:] == ["--instructions"]:
         print_instructions()
     else:
@@ -162,8 +240,7 @@ def print_times():
     print(f"import to first picture: {times[0]:.0f} ({statistics.median(times):.0f}) ms")
     print_overhead("a chart", False)
     print_overhead("a chart, fast", True)
-    one, two = seconds_in_threads(1), seconds_in_threads(2)
-    print(f"two threads: {one / two:.2f} times one, {CHARTS_IN_THREADS / two:.0f} charts a second")
+    print_threads()
 
 
 if __name__ == "__main__":
