@@ -1,6 +1,5 @@
 # SPDX-License-Identifier: MIT
 """Draws charts with Dask: python3 dask_charts.py FOLDER COUNT [ADDRESS OF A SCHEDULER]"""
-
 import sys
 import tarfile
 import uuid
@@ -8,7 +7,7 @@ from io import BytesIO
 from pathlib import Path
 
 import tovangl
-from dask import bag
+from dask import bag, config
 from distributed import Client
 
 
@@ -35,6 +34,7 @@ def draw_archive(customers, folder):
 
 if __name__ == "__main__":
     folder, count, *address = sys.argv[1:]
+    config.set(distributed__worker__profile__enabled=False, distributed__admin__tick__interval="1s")
     with Client(*address) if address else Client(n_workers=2, threads_per_worker=1) as client:
         customers = bag.from_sequence(range(int(count)), partition_size=500)
         print(customers.map_partitions(draw_archive, folder).compute())
