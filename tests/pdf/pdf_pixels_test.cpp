@@ -58,18 +58,43 @@ TEST_P(PdfPixels, ShapesStandWithinOnePixelOfThePictureForPrint)
 
 INSTANTIATE_TEST_SUITE_P(MixedCharts, PdfPixels, testing::Range(0u, kChartCount));
 
+constexpr int kFitted = 2; // pixels by which letters of the picture are moved
+
+int strayPixelsOf(CAnyChart& chart)
+{
+    const QImage page = pageOf(chart.createPdf(kWidth, kHeight).bytes());
+    const QImage picture =
+        decodePng(chart.createPixmapForPrinter(kWidth, kHeight, kFactor).bytes());
+    return countStrayPixels(page, picture, kFitted);
+}
+
 // Glyphs of several letters are there as parts of other glyphs.
 TEST(PdfPixels, VowelMarksStandWhereThePictureForPrintHasThem)
 {
-    constexpr int kFitted = 2; // pixels by which letters of the picture are moved
     CAnyChart chart(ChartKind::HorizontalBars);
     chart.graph().setFont("DejaVu Sans", 11);
     for (const char* caption : {"שָׁלוֹם", "لِلْعَرَبِيَّةِ", "السَّلَامُ"})
         chart.addItem(1, caption);
+    EXPECT_LE(strayPixelsOf(chart), kMostStrayPixels);
+}
+
+// The sizes have less room than they need. What follows a text that is cut has its own colour.
+TEST(PdfPixels, ATextThatIsCutHidesAndColoursNothingElse)
+{
+    CAnyChart chart(ChartKind::Pie);
+    chart.graph().setFont("DejaVu Sans", 40);
+    for (int i = 0; i < 4; ++i)
+        chart.addItem(26524, "usr");
+    EXPECT_LE(strayPixelsOf(chart), kMostStrayPixels);
+}
+
+TEST(PdfPixels, APictureIsFilledToItsEdges)
+{
+    CAnyChart chart(ChartKind::Pie);
+    chart.addItem(1, "all");
+    ASSERT_EQ(chart.graph().setByName("picture_color", "#204060"), "");
     const QImage page = pageOf(chart.createPdf(kWidth, kHeight).bytes());
-    const QImage picture =
-        decodePng(chart.createPixmapForPrinter(kWidth, kHeight, kFactor).bytes());
-    EXPECT_LE(countStrayPixels(page, picture, kFitted), kMostStrayPixels);
+    EXPECT_EQ(QColor(page.pixel(page.width() - 1, page.height() - 1)), QColor("#204060"));
 }
 
 TEST(PdfPixels, ATransparentPictureLeavesThePaperAsItIs)

@@ -93,6 +93,24 @@ TEST(PdfProperties, AChartWithoutLanguageIsInEnglish)
     EXPECT_THAT(objectsOf(chart), HasSubstr("/Lang (en)"));
 }
 
+TEST(PdfProperties, LettersReachBelowTheBaselineByANegativeNumber)
+{
+    CAnyChart chart = spending();
+    EXPECT_THAT(objectsOf(chart), ContainsRegex("/Descent -[1-9]"));
+}
+
+// The size of the item has less room than it needs.
+TEST(PdfProperties, APageIsCutWhereATextHasNoRoomAndNoLonger)
+{
+    CAnyChart chart(ChartKind::Pie);
+    chart.graph().setFont("DejaVu Sans", 22);
+    chart.addItem(26524, "usr");
+    const std::string pdf = chart.createPdf(120, 60).bytes();
+    for (const char* lines : {"q", "'W n'", "Q"})
+        EXPECT_EQ(readPdf(pdf, std::string("qpdf --qdf picture.pdf - | grep -acx ") + lines), "1\n")
+            << lines;
+}
+
 TEST(PdfProperties, AFileTellsNoDate)
 {
     CAnyChart chart = spending();

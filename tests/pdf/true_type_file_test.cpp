@@ -62,6 +62,17 @@ TEST(TrueTypeFile, ItsNumbersAddUpToTheSumOfEveryFont)
     EXPECT_EQ(sum, 0xb1b0afbau);
 }
 
+TEST(TrueTypeFile, TellsHowFarLettersReachAboveAndBelowTheBaseline)
+{
+    CFontBox box = boxOf({triangle()});
+    box.ascent = 900;
+    box.descent = 200;
+    const std::string file = trueTypeFile(box, {triangle()});
+    const std::size_t heights = tableOffset(file, "hhea");
+    EXPECT_EQ(numberAt(file, heights + 4, 2), 900U);
+    EXPECT_EQ(numberAt(file, heights + 6, 2), 0x10000U - 200U);
+}
+
 TEST(TrueTypeFile, AGlyphTellsItsBoxAndItsCorners)
 {
     const std::string file = fileOf({triangle()});
