@@ -9,6 +9,7 @@ namespace {
 
 using ::testing::Eq;
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 TEST(TarBatch, HasTheFilesOfTheFolder)
 {
@@ -32,6 +33,13 @@ TEST(TarBatch, HasPicturesOfTheFormat)
                   0)
             << format;
     }
+}
+
+TEST(TarBatch, HasFilesThatEveryoneMayRead)
+{
+    const CTemporaryFolder folder;
+    const ShellResult result = runLines(folder, chartLine("a"), "--tar - | tar -tv");
+    EXPECT_THAT(result.output, StartsWith("-rw-r--r--"));
 }
 
 TEST(TarBatch, IsTheSameWithAnyNumberOfThreads)
