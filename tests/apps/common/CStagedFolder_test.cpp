@@ -44,6 +44,17 @@ TEST(StagedFolder, CanBeNamedWithASlashAtTheEnd)
     EXPECT_EQ(temporary.read("new/a"), "first");
 }
 
+TEST(StagedFolder, HasThePermissionsOfAnyNewFolder)
+{
+    const CTemporaryFolder temporary;
+    std::filesystem::create_directory(temporary.pathOf("other"));
+    CStagedFolder folder(temporary.pathOf("new"), never);
+    folder.write("a", "first");
+    folder.publish();
+    EXPECT_EQ(std::filesystem::status(temporary.pathOf("new")).permissions(),
+              std::filesystem::status(temporary.pathOf("other")).permissions());
+}
+
 TEST(StagedFolder, LeavesNothingWhereItIsNotPublished)
 {
     const CTemporaryFolder temporary;
