@@ -330,21 +330,24 @@ TEST(HandlerExchange, StillPutsAFilterInFrontAfterThousandsOfExchangesAndInterru
     EXPECT_NE(process.inForce(), process.topHandler());
 }
 
-// Filters of which there are no more.
+// Filters of which there are no more: a host that comes in between the two exchanges of a call
+// keeps one each time.
 TEST(HandlerExchange, KeepsTheOrderOfHandlersWhenItHasUsedUpItsFilters)
 {
     constexpr int kMostFiltersOfACall = 6;
-    for (int rests = 0; rests < kMostFiltersOfACall; ++rests) {
-        CProcess process;
-        for (int i = 0; i < rests; ++i) {
-            process.interrupt(0, {Acts{}});
-            process.putFilterInFront();
-        }
-        for (std::size_t i = 0; i < CMessageFilters::kCount; ++i) {
-            process.interrupt(1, {kPushTwo});
-            process.putFilterInFront();
-            ASSERT_TRUE(process.isInOrder()) << rests << ' ' << i;
-            process.popAll();
+    for (const int moment : {1, 3}) {
+        for (int rests = 0; rests < kMostFiltersOfACall; ++rests) {
+            CProcess process;
+            for (int i = 0; i < rests; ++i) {
+                process.interrupt(0, {Acts{}});
+                process.putFilterInFront();
+            }
+            for (std::size_t i = 0; i < CMessageFilters::kCount; ++i) {
+                process.interrupt(moment, {kPushTwo});
+                process.putFilterInFront();
+                ASSERT_TRUE(process.isInOrder()) << moment << ' ' << rests << ' ' << i;
+                process.popAll();
+            }
         }
     }
 }
