@@ -161,20 +161,20 @@ void CPdfContent::fillWithGradient(const QPainterPath& path, const QGradient& gr
     m_shadings.push_back(shading(linear, toPage));
 }
 
-std::size_t CPdfContent::fontFor(const QRawFont& face)
+std::size_t CPdfContent::fontFor(const CShapedRun& run)
 {
     std::size_t i = 0;
-    while (i < m_fonts.size() && !m_fonts[i].isOf(face))
+    while (i < m_fonts.size() && !m_fonts[i].isOf(run.face, run.isBold))
         ++i;
     if (i == m_fonts.size())
-        m_fonts.emplace_back(face);
+        m_fonts.emplace_back(run.face, run.isBold);
     return i;
 }
 
 // Whether readers find the text by its glyphs alone.
 bool CPdfContent::tellLetters(const CShapedRun& run)
 {
-    CPdfFont& font = m_fonts[fontFor(run.face)];
+    CPdfFont& font = m_fonts[fontFor(run)];
     bool isTold = !run.letters.empty();
     for (std::size_t i = 0; i < run.letters.size(); ++i) {
         const QString& letters = run.letters[i];
@@ -201,7 +201,7 @@ std::vector<std::uint16_t> CPdfContent::numbersOf(std::size_t font, const CShape
 
 CPdfContent::CFileGlyphs CPdfContent::glyphsOf(const CShapedRun& run)
 {
-    CFileGlyphs glyphs{fontFor(run.face), run.positions, {}};
+    CFileGlyphs glyphs{fontFor(run), run.positions, {}};
     for (std::size_t i = 0; i < run.glyphs.size(); ++i)
         glyphs.numbers.push_back(numbersOf(glyphs.font, run, i));
     return glyphs;
@@ -211,13 +211,13 @@ CPdfContent::CFileGlyphs CPdfContent::glyphsOf(const CShapedRun& run)
 bool CPdfContent::canHaveCells(const CShapedRun& run)
 {
     return !run.turnedLetters.empty() &&
-           m_fonts[fontFor(run.face)].hasRoomForCells(run.turnedLetters.size());
+           m_fonts[fontFor(run)].hasRoomForCells(run.turnedLetters.size());
 }
 
 // As many glyphs as there are letters, though none of them looks like its letter alone.
 CPdfContent::CFileGlyphs CPdfContent::cellsOf(const CShapedRun& run)
 {
-    CFileGlyphs glyphs{fontFor(run.face), {}, {}};
+    CFileGlyphs glyphs{fontFor(run), {}, {}};
     CPdfFont& font = m_fonts[glyphs.font];
     const std::vector<QString> letters = withDirection(run.turnedLetters);
     const CLetterCells cells = letterCells(run, run.right, letters.size());

@@ -61,7 +61,7 @@ private:
     void change(std::string& setting, const std::string& wanted);
     void fillWithGradient(const QPainterPath& path, const QGradient& gradient,
                           const QTransform& toPage);
-    [[nodiscard]] std::size_t fontFor(const QRawFont& face);
+    [[nodiscard]] std::size_t fontFor(const CShapedRun& run);
     [[nodiscard]] bool tellLetters(const CShapedRun& run);
     [[nodiscard]] std::vector<std::uint16_t> numbersOf(std::size_t font, const CShapedRun& run,
                                                        std::size_t glyph);

@@ -72,8 +72,9 @@ std::string mapping(std::size_t number, const QString& letters)
 
 } // namespace
 
-CPdfFont::CPdfFont(const QRawFont& face)
+CPdfFont::CPdfFont(const QRawFont& face, bool isBold)
     : m_face(face)
+    , m_isBold(isBold)
     , m_head(face.fontTable("head"))
     , m_outlines(face)
     , m_isEmbeddable(allowsEmbedding(face.fontTable("OS/2")))
@@ -88,8 +89,10 @@ CPdfFont::CPdfFont(const QRawFont& face)
 }
 
 // Qt can have one face several times: for each script.
-bool CPdfFont::isOf(const QRawFont& face) const
+bool CPdfFont::isOf(const QRawFont& face, bool isBold) const
 {
+    if (m_isBold != isBold)
+        return false;
     return m_face == face || (!m_head.isEmpty() && m_head == face.fontTable("head") &&
                               m_face.weight() == face.weight() && m_face.style() == face.style());
 }

@@ -33,9 +33,10 @@ struct CGlyphHalves
 class CPdfFont
 {
 public:
-    explicit CPdfFont(const QRawFont& face);
+    /// @param isBold  whether its glyphs are; a face that Qt makes bold is the same face to Qt
+    CPdfFont(const QRawFont& face, bool isBold);
 
-    [[nodiscard]] bool isOf(const QRawFont& face) const;
+    [[nodiscard]] bool isOf(const QRawFont& face, bool isBold) const;
     /// Whether its maker allows it in documents.
     [[nodiscard]] bool isEmbeddable() const { return m_isEmbeddable; }
     /// The number of a glyph in the file.
@@ -67,6 +68,7 @@ private:
     [[nodiscard]] int writeLetters(CPdfObjects& objects) const;
 
     QRawFont m_face;
+    bool m_isBold;
     QByteArray m_head;   // its table "head", which has a checksum of the font
     QRawFont m_outlines; // the face at the size whose pixels are font units
     bool m_isEmbeddable;

@@ -42,6 +42,7 @@ CShapedRun toRun(const QGlyphRun& run, const QPointF& origin, const QTextItem& i
 {
     CShapedRun shaped;
     shaped.face = run.rawFont();
+    shaped.isBold = item.font().bold();
     for (const quint32 glyph : run.glyphIndexes())
         shaped.glyphs.push_back(glyph);
     for (const QPointF& position : run.positions())

@@ -19,6 +19,7 @@ namespace tovangl {
 struct CShapedRun
 {
     QRawFont face;
+    bool isBold = false; ///< as the text is; Qt makes letters bold where the family has none
     std::vector<std::uint32_t> glyphs; ///< from left to right
     std::vector<QPointF> positions;    ///< of the glyphs, from the left end of the baseline
     /// What each glyph stands for; empty where letters are joined, reordered or combined.

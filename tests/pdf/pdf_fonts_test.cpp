@@ -132,6 +132,35 @@ TEST(PdfInAFontThatForbidsIt, LooksAsInOneThatAllowsIt)
               0);
 }
 
+// How many dark pixels the caption has below that title.
+int captionInk(const std::string& family, const std::string& title)
+{
+    constexpr int kDotsPerInch = 288;
+    constexpr int kDark = 128;
+    CAnyChart chart(ChartKind::Pie);
+    chart.graph().setFont(family, 11);
+    chart.graph().setTitle(title);
+    chart.addItem(1234, kCaption);
+    const QImage page = pixelsOfPdf(chart.createPdf(kWidth, kHeight).bytes(), kDotsPerInch);
+    const Rectangle box = chart.graph().getRectangle()->front();
+    int ink = 0;
+    for (int y = box.y; y < box.y + box.height; ++y) {
+        for (int x = box.x; x < box.x + box.width; ++x)
+            ink += qGray(page.pixel(x, y)) < kDark ? 1 : 0;
+    }
+    return ink;
+}
+
+TEST(PdfInAFontWithoutABoldFace, HasPlainCaptionsBelowATitleThatIsMadeBold)
+{
+    CChangedFont font("DejaVuSerif.ttf");
+    font.rename("DejaVu Serif", "Lonely Serif");
+    font.add();
+    const int plain = captionInk("Lonely Serif", "");
+    EXPECT_GT(plain, 1000);
+    EXPECT_EQ(captionInk("Lonely Serif", kCaption), plain);
+}
+
 TEST(PdfInAFontWithoutOutlines, FindsTheLettersAllTheSame)
 {
     CChangedFont font("DejaVuSansMono.ttf");
