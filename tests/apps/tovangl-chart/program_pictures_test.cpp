@@ -386,7 +386,7 @@ TEST(Pictures, AreTheSameWhenSavedFastInOtherFiles)
     runWell(folder, "tovangl-chart pie items -o small.png");
     runWell(folder, "tovangl-chart pie --fast items -o fast.png");
     EXPECT_EQ(decode(folder.read("fast.png")), decode(folder.read("small.png")));
-    EXPECT_GT(folder.read("fast.png").size(), folder.read("small.png").size());
+    EXPECT_NE(folder.read("fast.png"), folder.read("small.png"));
 }
 
 TEST(Pictures, APieWithoutColourOptionsHasTheDefaultColours)
