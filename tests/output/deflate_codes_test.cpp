@@ -15,15 +15,19 @@ struct CNumberCase
     int extraBits;
 };
 
+void expectNumber(const CNumber& number, const CNumberCase& expected)
+{
+    EXPECT_EQ(number.symbol, expected.symbol);
+    EXPECT_EQ(number.extra, expected.extra);
+    EXPECT_EQ(number.extraBits, expected.extraBits);
+}
+
 class NumberOfALength : public ::testing::TestWithParam<CNumberCase>
 {};
 
 TEST_P(NumberOfALength, IsThatOfTheFormat)
 {
-    const CNumber number = lengthNumber(GetParam().value);
-    EXPECT_EQ(number.symbol, GetParam().symbol);
-    EXPECT_EQ(number.extra, GetParam().extra);
-    EXPECT_EQ(number.extraBits, GetParam().extraBits);
+    expectNumber(lengthNumber(GetParam().value), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(DeflateCodes, NumberOfALength,
@@ -38,10 +42,7 @@ class NumberOfADistance : public ::testing::TestWithParam<CNumberCase>
 
 TEST_P(NumberOfADistance, IsThatOfTheFormat)
 {
-    const CNumber number = distanceNumber(GetParam().value);
-    EXPECT_EQ(number.symbol, GetParam().symbol);
-    EXPECT_EQ(number.extra, GetParam().extra);
-    EXPECT_EQ(number.extraBits, GetParam().extraBits);
+    expectNumber(distanceNumber(GetParam().value), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(DeflateCodes, NumberOfADistance,
