@@ -8,16 +8,6 @@
 
 namespace tovangl::program {
 
-CLI::Option* addFontFileOption(CLI::App& command, std::vector<std::string>& files)
-{
-    return command
-        .add_option("--font-file", files,
-                    "Use the font in this TTF or OTF file, installed or not; can be repeated")
-        ->type_name("FILE")
-        ->allow_extra_args(false) // what follows the file is not another one
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-}
-
 std::vector<std::string> addFontFiles(const std::vector<std::string>& files)
 {
     std::vector<std::string> families;

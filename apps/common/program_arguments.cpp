@@ -5,6 +5,9 @@
 #include "common/CFailure.h"
 #include "common/text_checks.h"
 
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
 #include <iostream>
 
 namespace tovangl::program {
@@ -44,6 +47,16 @@ void describeProgram(CLI::App& program, const char* name, const char* version, c
     program.get_formatter()->column_width(kOptionColumn);
     program.set_version_flag("--version", std::string(name) + ' ' + version);
     program.footer(teaching);
+}
+
+void addFontFileOption(CLI::App& program, std::vector<std::string>& files)
+{
+    program
+        .add_option("--font-file", files,
+                    "Use the font in this TTF or OTF file, installed or not; can be repeated")
+        ->type_name("FILE")
+        ->allow_extra_args(false) // what follows the file is not another one
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
 } // namespace tovangl::program

@@ -4,9 +4,12 @@
 #ifndef TOVANGL_COMMON_PROGRAM_ARGUMENTS_H
 #define TOVANGL_COMMON_PROGRAM_ARGUMENTS_H
 
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
 
 namespace tovangl::program {
 
@@ -22,6 +25,11 @@ bool parseArguments(CLI::App& program, int count, const char* const* arguments);
 /// @param teaching  the end of the help
 void describeProgram(CLI::App& program, const char* name, const char* version,
                      const char* teaching);
+
+/// Adds the option --font-file, which can be given several times.
+///
+/// @param files  receives the paths
+void addFontFileOption(CLI::App& program, std::vector<std::string>& files);
 
 } // namespace tovangl::program
 

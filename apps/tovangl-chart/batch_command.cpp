@@ -3,10 +3,11 @@
 #include "common/font_files.h"
 #include "common/interruption.h"
 #include "common/output_files.h"
+#include "common/program_arguments.h"
 #include "tovangl-chart/CBatchRun.h"
 #include "tovangl-chart/batch_sinks.h"
 #include "tovangl-chart/command_line.h"
-#include "tovangl-chart/common_options.h"
+#include "tovangl-chart/option_adding.h"
 
 #include <cstdlib>
 #include <limits>
@@ -180,11 +181,11 @@ int runBatch(const BatchOptions& options)
 void addBatchCommand(CLI::App& program, int& status)
 {
     const auto options = std::make_shared<BatchOptions>();
-    CLI::App* command = addChartCommand(program, kName, kDescription, kExamples);
-    addInput(*command, options->input, "Charts, one per line; without it, standard input");
-    addOutputOptions(*command, *options);
-    addRunOptions(*command, *options);
-    command->callback([options, &status] { status = runBatch(*options); });
+    CLI::App& command = addChartCommand(program, kName, kDescription, kExamples,
+                                        [options, &status] { status = runBatch(*options); });
+    addInput(command, options->input, "Charts, one per line; without it, standard input");
+    addOutputOptions(command, *options);
+    addRunOptions(command, *options);
 }
 
 } // namespace tovangl::program

@@ -5,8 +5,8 @@
 #define TOVANGL_CHART_CHART_DESCRIPTION_H
 
 #include "tovangl-chart/ChartItem.h"
+#include "tovangl-chart/given_settings.h"
 #include "tovangl-chart/option_values.h"
-#include "tovangl-chart/setting_options.h"
 
 #include <array>
 #include <optional>

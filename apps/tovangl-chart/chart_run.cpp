@@ -2,6 +2,7 @@
 // The steps that every chart command takes.
 #include "tovangl-chart/chart_run.h"
 
+#include "common/CFailure.h"
 #include "common/font_files.h"
 #include "common/output_files.h"
 #include "tovangl-chart/chart_page.h"

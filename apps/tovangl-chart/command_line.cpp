@@ -5,7 +5,11 @@
 #include "common/program_arguments.h"
 #include <tovangl/Compression.h>
 
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
 #include <cstdlib>
+#include <utility>
 
 namespace tovangl::program {
 
@@ -34,11 +38,12 @@ If charts look wrong or cannot be drawn: tovangl-chart doctor)";
 
 } // namespace
 
-CLI::App* addChartCommand(CLI::App& program, const char* name, const char* description,
-                          const char* examples)
+CLI::App& addChartCommand(CLI::App& program, const char* name, const char* description,
+                          const char* examples, std::function<void()> run)
 {
-    CLI::App* command = program.add_subcommand(name, description);
-    command->footer(examples);
+    CLI::App& command = *program.add_subcommand(name, description);
+    command.footer(examples);
+    command.callback(std::move(run));
     return command;
 }
 

@@ -4,9 +4,11 @@
 #ifndef TOVANGL_CHART_COMMAND_LINE_H
 #define TOVANGL_CHART_COMMAND_LINE_H
 
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
+#include <functional>
+
+namespace CLI {
+class App;
+}
 
 namespace tovangl::program {
 
@@ -19,9 +21,13 @@ void addBatchCommand(CLI::App& program, int& status);
 /// @param status  receives the exit status
 void addDoctorCommand(CLI::App& program, int& status);
 
-/// Adds a command with the layout that all share.
-CLI::App* addChartCommand(CLI::App& program, const char* name, const char* description,
-                          const char* examples);
+/// Adds a command with the layout that all share, and without options.
+///
+/// @param examples  the end of its help
+/// @param run       called when the command has been parsed
+/// @return the command, which belongs to the program
+CLI::App& addChartCommand(CLI::App& program, const char* name, const char* description,
+                          const char* examples, std::function<void()> run);
 
 /// Reads the arguments and does what they ask for. Throws CFailure.
 ///

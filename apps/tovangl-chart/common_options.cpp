@@ -2,8 +2,10 @@
 // The options of a command.
 #include "tovangl-chart/common_options.h"
 
-#include "common/font_files.h"
+#include "common/program_arguments.h"
 #include "tovangl-chart/csv_options.h"
+#include "tovangl-chart/option_adding.h"
+#include "tovangl-chart/setting_options.h"
 
 namespace tovangl::program {
 

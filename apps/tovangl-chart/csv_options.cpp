@@ -2,7 +2,7 @@
 // The options that say how to read a CSV file.
 #include "tovangl-chart/csv_options.h"
 
-#include "tovangl-chart/common_options.h"
+#include "tovangl-chart/option_adding.h"
 
 namespace tovangl::program {
 

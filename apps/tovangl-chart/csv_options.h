@@ -6,9 +6,9 @@
 
 #include "tovangl-chart/ItemSource.h"
 
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
+namespace CLI {
+class App;
+}
 
 namespace tovangl::program {
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // tovangl-chart doctor
 #include "common/font_files.h"
+#include "common/program_arguments.h"
 #include "common/text_checks.h"
 #include "tovangl-chart/command_line.h"
-#include "tovangl-chart/common_options.h"
+#include "tovangl-chart/option_adding.h"
 #include <tovangl/Compression.h>
 #include <tovangl/Diagnosis.h>
 #include <tovangl/PieGraph.h>
@@ -145,11 +146,11 @@ int examine(const DoctorOptions& options)
 void addDoctorCommand(CLI::App& program, int& status)
 {
     const auto options = std::make_shared<DoctorOptions>();
-    CLI::App* command = addChartCommand(program, kName, kDescription, kExamples);
-    addOption(*command, "--font", options->fontFamily, parseText, "Look for this font family")
+    CLI::App& command = addChartCommand(program, kName, kDescription, kExamples,
+                                        [options, &status] { status = examine(*options); });
+    addOption(command, "--font", options->fontFamily, parseText, "Look for this font family")
         ->type_name("NAME");
-    addFontFileOption(*command, options->fontFiles);
-    command->callback([options, &status] { status = examine(*options); });
+    addFontFileOption(command, options->fontFiles);
 }
 
 } // namespace tovangl::program

@@ -27,10 +27,11 @@ After the caption a line can have a fill colour and an outline colour, each afte
 void addHbarsCommand(CLI::App& program)
 {
     static const std::string teaching = std::string(kExamples) + kAxisTeaching;
-    CLI::App* command = addChartCommand(program, kName, kDescription, teaching.c_str());
     const auto options = std::make_shared<CommonOptions>();
-    addOptions(*command, Setting::HorizontalBars, *options);
-    command->callback([options] { runBarChart<HorizontalBarGraph>(kName, *options); });
+    CLI::App& command = addChartCommand(program, kName, kDescription, teaching.c_str(), [options] {
+        runBarChart<HorizontalBarGraph>(kName, *options);
+    });
+    addOptions(command, Setting::HorizontalBars, *options);
 }
 
 } // namespace tovangl::program

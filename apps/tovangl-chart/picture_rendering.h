@@ -4,10 +4,10 @@
 #ifndef TOVANGL_CHART_PICTURE_RENDERING_H
 #define TOVANGL_CHART_PICTURE_RENDERING_H
 
+#include "tovangl-chart/given_settings.h"
 #include "tovangl-chart/option_values.h"
 #include "tovangl-chart/picture_format.h"
 #include "tovangl-chart/region_map.h"
-#include "tovangl-chart/setting_options.h"
 #include <tovangl/Graph.h>
 
 #include <optional>

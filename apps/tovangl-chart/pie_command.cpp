@@ -35,10 +35,10 @@ void runPie(const CommonOptions& options)
 
 void addPieCommand(CLI::App& program)
 {
-    CLI::App* command = addChartCommand(program, kName, kDescription, kExamples);
     const auto options = std::make_shared<CommonOptions>();
-    addOptions(*command, Setting::Pie, *options);
-    command->callback([options] { runPie(*options); });
+    CLI::App& command =
+        addChartCommand(program, kName, kDescription, kExamples, [options] { runPie(*options); });
+    addOptions(command, Setting::Pie, *options);
 }
 
 } // namespace tovangl::program

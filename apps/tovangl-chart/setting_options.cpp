@@ -2,9 +2,9 @@
 // The library's settings as options of a command.
 #include "tovangl-chart/setting_options.h"
 
-#include "common/CFailure.h"
-#include "common/text_checks.h"
-
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
 #include <algorithm>
 
 namespace tovangl::program {
@@ -85,13 +85,6 @@ void addValueOption(CLI::App& command, const Setting& setting, GivenSettings& gi
 
 } // namespace
 
-std::string optionName(const Setting& setting)
-{
-    std::string name = setting.name;
-    std::replace(name.begin(), name.end(), '_', '-');
-    return "--" + name;
-}
-
 void addSettingOptions(CLI::App& command, Setting::Chart kind, GivenSettings& given)
 {
     for (const Setting& setting : settings()) {
@@ -101,32 +94,6 @@ void addSettingOptions(CLI::App& command, Setting::Chart kind, GivenSettings& gi
             addFlag(command, setting, given);
         else
             addValueOption(command, setting, given);
-    }
-}
-
-std::optional<std::string> givenValue(const GivenSettings& given, std::string_view name)
-{
-    for (const auto& [setting, value] : given) {
-        if (setting->name == name)
-            return value;
-    }
-    return std::nullopt;
-}
-
-std::string refusal(const std::string& reason, const std::string& value)
-{
-    constexpr std::string_view kSubject = "the value ";
-    if (reason.compare(0, kSubject.size(), kSubject) != 0)
-        return quote(value) + ": " + reason;
-    return quote(value) + ' ' + reason.substr(kSubject.size());
-}
-
-void applySettings(Graph& chart, const GivenSettings& given)
-{
-    for (const auto& [setting, value] : given) {
-        const std::string reason = chart.setByName(setting->name, value);
-        if (!reason.empty())
-            throw CFailure(optionName(*setting) + ": " + refusal(reason, value));
     }
 }
 

@@ -4,40 +4,16 @@
 #ifndef TOVANGL_CHART_SETTING_OPTIONS_H
 #define TOVANGL_CHART_SETTING_OPTIONS_H
 
-#include <tovangl/Graph.h>
-#include <tovangl/Setting.h>
+#include "tovangl-chart/given_settings.h"
 
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
-#include <map>
-#include <optional>
-#include <string>
-#include <string_view>
+namespace CLI {
+class App;
+}
 
 namespace tovangl::program {
 
-/// The values that were given. The rows of the table lie in one array, so that this has its order.
-using GivenSettings = std::map<const Setting*, std::string>;
-
-/// "--font-size" for the setting "font_size"
-[[nodiscard]] std::string optionName(const Setting& setting);
-
 /// Adds an option for every setting of this kind of chart. The last of two values counts.
 void addSettingOptions(CLI::App& command, Setting::Chart kind, GivenSettings& given);
-
-/// The value that was given for a setting.
-[[nodiscard]] std::optional<std::string> givenValue(const GivenSettings& given,
-                                                    std::string_view name);
-
-/// Why a value was refused, with the value: the library tells what "the value" is not, and the user
-/// has to see which value that is.
-///
-/// @param reason  of Graph::setByName()
-[[nodiscard]] std::string refusal(const std::string& reason, const std::string& value);
-
-/// Sets what was given. Throws CFailure with the name of the option whose value the chart refuses.
-void applySettings(Graph& chart, const GivenSettings& given);
 
 } // namespace tovangl::program
 

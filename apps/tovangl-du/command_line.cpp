@@ -12,6 +12,9 @@
 #include "tovangl-du/report.h"
 #include "tovangl-du/report_pictures.h"
 
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
 #include <ctime>
 #include <iostream>
 

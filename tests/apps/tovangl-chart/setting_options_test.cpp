@@ -4,6 +4,9 @@
 #include "tovangl-chart/setting_options.h"
 #include <tovangl/PieGraph.h>
 
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
 #include <gmock/gmock.h>
 #include <vector>
 
