@@ -81,18 +81,32 @@ def test_an_error_of_the_iterable_comes_after_the_results_before_it(jobs):
         next(results)
 
 
-def test_charts_that_take_long_are_shared_by_all_threads():
-    drawn_by = []
+@pytest.mark.parametrize("jobs", [2, 3])
+def test_charts_that_take_long_are_shared_by_all_threads_the_callers_too(jobs):
+    drawn_by = set()
 
     class SlowChart:
         def render(self):
-            drawn_by.append(threading.get_ident())
+            drawn_by.add(threading.get_ident())
             all_draw.wait(timeout=20)
             return None
 
-    all_draw = threading.Barrier(3)
-    assert list(render_many([SlowChart()] * 6, 3)) == [None] * 6
-    assert len(set(drawn_by)) == 3
+    all_draw = threading.Barrier(jobs)
+    assert list(render_many([SlowChart()] * 6 * jobs, jobs)) == [None] * 6 * jobs
+    assert len(drawn_by) == jobs
+    assert threading.get_ident() in drawn_by
+
+
+@pytest.mark.parametrize("jobs", JOBS)
+def test_an_interruption_is_no_result_and_leaves_no_thread(jobs):
+    class InterruptedChart:
+        def render(self):
+            raise KeyboardInterrupt
+
+    before = threading.active_count()
+    with pytest.raises(KeyboardInterrupt):
+        list(render_many([InterruptedChart()] * 30, jobs))
+    assert threading.active_count() == before
 
 
 def test_no_thread_is_left_behind_the_last_result():

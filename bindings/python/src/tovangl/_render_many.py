@@ -18,7 +18,7 @@ from tovangl._picture import PdfPicture, Picture, SvgPicture
 
 if TYPE_CHECKING:
     from collections.abc import Callable
-    from concurrent.futures import Future
+    from concurrent.futures import ThreadPoolExecutor
 
     Result = Union[Picture, SvgPicture, PdfPicture, Exception]
     Results = Generator[Result, None, None]
@@ -72,10 +72,11 @@ def render_many(
 
     Charts are taken from the iterable as their turn comes, by the caller's thread, and only a few
     ahead of the results, so that there may be any number of them. An exception of the iterable
-    itself comes after the results of all charts before it. The threads end with the last result,
-    or when the iterator is closed.
+    itself comes after the results of all charts before it. The other threads end with the last
+    result, or when the iterator is closed.
 
-    :param jobs: the number of threads; None: the number of processors that the process may use
+    :param jobs: the number of threads that draw, of which the caller's is one while the next result
+        is not there yet; None: the number of processors that the process may use
     :param format: ``png``, or ``svg`` or ``pdf`` for what Chart.render_svg() or Chart.render_pdf() gives
     """
     if format not in _RENDERERS:
@@ -101,25 +102,50 @@ def _render_all(render: Render, charts: List[Chart]) -> List[Result]:
     return [render(chart) for chart in charts]
 
 
+class _Task:
+    """Charts that one thread draws one after the other: whichever comes to them first."""
+
+    def __init__(self, charts: List[Chart], render: Render, threads: ThreadPoolExecutor) -> None:
+        self._charts = charts
+        self._render = render
+        self._results: List[Result] = []
+        self._future = threads.submit(_render_all, render, charts)
+
+    def draw(self) -> None:
+        """Draws the charts in the caller's thread, if no other has begun to."""
+        if not self.is_drawn() and self.cancel():
+            self._results = _render_all(self._render, self._charts)
+
+    def is_drawn(self) -> bool:
+        """Whether the results are there; for the caller's thread."""
+        return self._future.done()
+
+    def results(self) -> List[Result]:
+        """One for each chart, as soon as all are drawn."""
+        return self._results if self._future.cancelled() else self._future.result()
+
+    def cancel(self) -> bool:
+        """Keeps other threads from beginning; False if one has begun."""
+        return self._future.cancel()
+
+
 def _render_in_threads(charts: Iterable[Chart], jobs: int, render: Render) -> Results:
     from concurrent.futures import ThreadPoolExecutor
 
     started: List[int] = []
     try:
         with ThreadPoolExecutor(
-            jobs, "tovangl", initializer=lambda: started.append(get_native_id())
+            jobs - 1, "tovangl", initializer=lambda: started.append(get_native_id())
         ) as threads:
-            yield from _render_tasks(
-                charts, jobs, lambda task: threads.submit(_render_all, render, task)
-            )
+            yield from _render_tasks(charts, jobs, lambda task: _Task(task, render, threads))
     finally:
         _wait_for_end(started)
 
 
 def _render_tasks(
-    charts: Iterable[Chart], jobs: int, submit: Callable[[List[Chart]], Future[List[Result]]]
+    charts: Iterable[Chart], jobs: int, begin_task: Callable[[List[Chart]], _Task]
 ) -> Results:
-    pending: Deque[Future[List[Result]]] = deque()
+    pending: Deque[_Task] = deque()
     failures: List[Exception] = []
     most_ahead = jobs * _CHARTS_AHEAD - _CHARTS_OF_A_TASK
     taken = given = 0
@@ -127,19 +153,29 @@ def _render_tasks(
     source = _until_failure(charts, failures)
     try:
         while task := list(islice(source, _task_size(given, perf_counter() - begin))):
-            pending.append(submit(task))
+            pending.append(begin_task(task))
             taken += len(task)
             while taken - given > most_ahead:
-                results = pending.popleft().result()
+                results = _results_of_first(pending)
                 given += len(results)
                 yield from results
         while pending:
-            yield from pending.popleft().result()
+            yield from _results_of_first(pending)
     finally:
-        for future in pending:
-            future.cancel()
+        for unwanted in pending:
+            unwanted.cancel()
     for failure in failures:
         raise failure
+
+
+def _results_of_first(pending: Deque[_Task]) -> List[Result]:
+    """Draws tasks that no thread has begun, while the first of all is not drawn yet."""
+    first = pending.popleft()
+    for task in (first, *pending):
+        if first.is_drawn():
+            break
+        task.draw()
+    return first.results()
 
 
 def _wait_for_end(threads: Iterable[int]) -> None:
