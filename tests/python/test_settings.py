@@ -89,6 +89,18 @@ def test_what_the_library_refuses_is_told_in_its_words(name, value):
         pie(ITEMS, **{name: value}).render()
 
 
+@pytest.mark.parametrize("title", ["May", "May\0June", "\0"])
+def test_the_setting_that_is_refused_is_named_behind_others(title):
+    with pytest.raises(SettingError, match="^text_color: the value is not a colour"):
+        pie(ITEMS, theme="dark", title=title, text_color="red", scale=2).render()
+
+
+def test_a_nul_in_a_value_is_a_character():
+    picture = pie(ITEMS, title="May\0June", scale=2).render()
+    assert picture.description.startswith("“May June”. Pie chart")
+    assert picture.png[16:20] == (2 * 800).to_bytes(4, "big")
+
+
 @pytest.mark.parametrize("threshold", [1e-7, 1e20, 3, 0.1])
 def test_a_real_number_of_any_size_is_read(threshold):
     assert pie(ITEMS, threshold=threshold).render().png

@@ -9,8 +9,8 @@ from typing import TYPE_CHECKING, Any, Dict, Mapping, Optional, Tuple, Union
 
 from tovangl._items import Items
 from tovangl._library import KINDS
-from tovangl._picture import PNG, SVG, Links, PdfPicture, Picture, SvgPicture, check, new_chart
-from tovangl._settings import Value, checked_settings, setting_text
+from tovangl._picture import PNG, SVG, Links, PdfPicture, Picture, SvgPicture, check
+from tovangl._settings import Value, checked_settings, setting_text, settings_column
 from tovangl._tovangl import ffi, lib
 
 if TYPE_CHECKING:
@@ -23,9 +23,15 @@ GREATEST_SIDE = 1_000_000  # pixels; of the factor for print as well
 # An id becomes a file's name: no separators, nothing hidden, nothing that looks like an option.
 _ID = re.compile(r"[A-Za-z0-9_][A-Za-z0-9_.-]{0,199}")
 
-_DATA = ffi.typeof("unsigned char **")
-_SIZE = ffi.typeof("size_t *")
-
+# After a drawing, each name that has to be looked up in the library costs.
+_draw_chart = lib.draw_chart
+_free_picture = lib.tovangl_chart_free_picture
+_destroy = lib.tovangl_chart_destroy
+_when_gone = ffi.gc
+_unpack = ffi.unpack
+_RENDER_PNG = ffi.addressof(lib, "tovangl_chart_render")
+_RENDER_SVG = ffi.addressof(lib, "tovangl_chart_render_svg")
+_RENDER_PDF = ffi.addressof(lib, "tovangl_chart_render_pdf")
 
 # A tuple with names would take a call to be made.
 _FIELDS = ("kind", "items", "id", "width", "height", "print", "settings")
@@ -117,10 +123,7 @@ class Chart:
         Other threads of Python run meanwhile. Raises SettingError where a setting does not accept
         its value, PictureError where the picture cannot be made, and MemoryError.
         """
-        factor = self._fields[5]
-        if factor is None:
-            return Picture(*self._rendered(lib.tovangl_chart_render))
-        return Picture(*self._rendered(lib.tovangl_chart_render_for_print, factor))
+        return Picture(*self._rendered(_RENDER_PNG, self._fields[5] or 0))
 
     def render_svg(self) -> SvgPicture:
         """Draws the chart as SVG: shapes and texts instead of pixels, with nothing for ``print``.
@@ -130,7 +133,7 @@ class Chart:
         >>> Chart("pie", {"Rent": 1200}).render_svg().svg.startswith("<svg ")
         True
         """
-        return SvgPicture(*self._rendered(lib.tovangl_chart_render_svg))
+        return SvgPicture(*self._rendered(_RENDER_SVG))
 
     def render_pdf(self) -> PdfPicture:
         """Draws the chart as a PDF page for paper, whose size is ``width`` and ``height`` in points.
@@ -140,16 +143,26 @@ class Chart:
         >>> Chart("pie", {"Rent": 1200}).render_pdf().pdf.startswith(b"%PDF-")
         True
         """
-        return PdfPicture(*self._rendered(lib.tovangl_chart_render_pdf))
+        return PdfPicture(*self._rendered(_RENDER_PDF))
 
-    def _rendered(self, render: Any, *factor: int) -> Tuple[Any, ...]:
-        """What a picture is made of, by one of the library's functions."""
+    def _rendered(self, render: Any, factor: int = 0) -> Tuple[Any, ...]:
+        """What a picture is made of, by one of the library's functions, or for print."""
         kind, items, _, width, height, _, settings = self._fields
-        chart = new_chart(KINDS[kind])
-        for name, value in settings.items():
-            apply_setting(chart, name, value)
-        items.add_to(chart)
-        data = _draw(chart, render, width, height, *factor)
+        drawing = _draw_chart(
+            KINDS[kind],
+            *settings_column(settings),
+            *items.columns(),
+            *items.link_columns(),
+            render,
+            width,
+            height,
+            factor,
+        )
+        chart = _when_gone(drawing.chart, _destroy)
+        if drawing.status:
+            _fail(chart, drawing, settings)
+        data: bytes = _unpack(drawing.data, drawing.size)
+        _free_picture(chart)
         links = _links_with_others(items, settings) if "others_link" in settings else items.links
         return data, width, height, chart, links
 
@@ -222,24 +235,23 @@ def _links_with_others(items: Items, settings: Dict[str, Value]) -> Optional[Lin
 
 def apply_setting(chart: Any, name: str, value: Value) -> None:
     """Sets a checked value in a chart of the library."""
-    text = setting_text(value)
+    text = setting_text(value).encode("utf-8", "surrogatepass")
     status = lib.tovangl_chart_set_sized(chart, name.encode(), text, len(text))
-    if status:
-        try:
-            check(chart, status)
-        except ValueError as error:
-            raise type(error)(f"{name}: {error}") from None
+    _check_setting(chart, name, status)
 
 
-def _draw(chart: Any, render: Any, *arguments: int) -> bytes:
-    data = ffi.new(_DATA)
-    size = ffi.new(_SIZE)
-    status = render(chart, *arguments, data, size)
-    if status:
+def _check_setting(chart: Any, name: str, status: int) -> None:
+    try:
         check(chart, status)
-    picture: bytes = ffi.buffer(data[0], size[0])[:]
-    lib.tovangl_chart_free_picture(chart)
-    return picture
+    except ValueError as error:
+        raise type(error)(f"{name}: {error}") from None
+
+
+def _fail(chart: Any, drawing: Any, settings: Dict[str, Value]) -> None:
+    """Raises the exception of a drawing that failed."""
+    if drawing.settings < len(settings):
+        _check_setting(chart, list(settings)[drawing.settings], drawing.status)
+    check(chart, drawing.status)
 
 
 def _check_id(name: str) -> None:

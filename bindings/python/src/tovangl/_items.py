@@ -33,6 +33,9 @@ if TYPE_CHECKING:
     ]
     ItemsLike = Union["Items", Mapping[str, SupportsIndex], Iterable[Pair], SeriesLike]
 
+_from_buffer = ffi.from_buffer
+_NULL = ffi.NULL
+_NO_LINKS = (_NULL, 0, _NULL)
 _VALUES = ffi.typeof("int64_t[]")
 _VALUE_TYPE = "q"  # 64 bits with a sign
 _VALUE_FORMATS = ("q", "l")
@@ -178,24 +181,33 @@ class Items(Sequence[Item]):
         values = array(_VALUE_TYPE, bytes(self._values))
         return values, self._captions, self._colors, self._outlines, self._links
 
-    def add_to(self, chart: Any) -> None:
-        """Adds the items to a chart of the library."""
+    def columns(self) -> Tuple[Any, ...]:
+        """The items as the library takes them."""
         count = len(self._captions)
         text, offsets = _column_text(self._captions, self._text)
-        status = lib.tovangl_chart_add_columns(
-            chart,
+        return (
             count,
-            ffi.from_buffer(_VALUES, self._values),
+            _from_buffer(_VALUES, self._values),
             text,
             len(text),
             offsets,
-            ffi.NULL if self._colors is None else _color_numbers(self._colors),
-            ffi.NULL if self._outlines is None else _color_numbers(self._outlines),
+            _NULL if self._colors is None else _color_numbers(self._colors),
+            _NULL if self._outlines is None else _color_numbers(self._outlines),
         )
+
+    def link_columns(self) -> Tuple[Any, ...]:
+        """The links likewise, with a null pointer where there are none."""
+        if self._links is None:
+            return _NO_LINKS
+        links = [link or "" for link in self._links]
+        text, offsets = _column_text(links, "\0".join(links))
+        return text, len(text), offsets
+
+    def add_to(self, chart: Any) -> None:
+        """Adds the items to a chart of the library."""
+        status = lib.tovangl_chart_add_columns(chart, *self.columns())
         if status == lib.TOVANGL_OK and self._links is not None:
-            links = [link or "" for link in self._links]
-            text, offsets = _column_text(links, "\0".join(links))
-            status = lib.tovangl_chart_set_links(chart, count, text, len(text), offsets)
+            status = lib.tovangl_chart_set_links(chart, len(self._links), *self.link_columns())
         if status != lib.TOVANGL_OK:
             fail(status, text_of(lib.tovangl_chart_error(chart)))
 
@@ -292,7 +304,7 @@ def checked_color(color: Optional[str], name: str, place: int) -> Optional[str]:
 def _column_text(texts: Sequence[str], joined: str) -> Tuple[bytes, Any]:
     """The texts as the library takes them: with offsets only where a text has a NUL itself."""
     if joined.count("\0") < len(texts):
-        return joined.encode("utf-8", "surrogatepass"), ffi.NULL
+        return joined.encode("utf-8", "surrogatepass"), _NULL
     encoded = [text.encode("utf-8", "surrogatepass") for text in texts]
     return b"".join(encoded), [0, *accumulate(map(len, encoded))]
 

@@ -7,12 +7,14 @@ import math
 from collections.abc import Iterable, Mapping
 from functools import lru_cache
 from operator import index
-from typing import Any, Dict, Union
+from typing import Any, Dict, List, Tuple, Union
 
 from tovangl._library import Setting, SettingError, settings
+from tovangl._tovangl import ffi
 
 Value = Union[bool, int, float, str]
 
+_NULL = ffi.NULL
 _LISTS = ("palette", "axis_properties", "position")
 
 
@@ -67,8 +69,24 @@ def _checked_number(name: str, value: Any) -> Value:
     return number
 
 
-def setting_text(value: Value) -> bytes:
+def setting_text(value: Value) -> str:
     """A checked value as the library reads it."""
     if isinstance(value, bool):
-        return b"true" if value else b"false"
-    return str(value).encode("utf-8", "surrogatepass")
+        return "true" if value else "false"
+    return str(value)
+
+
+def settings_column(given: Mapping[str, Value]) -> Tuple[Any, ...]:
+    """Checked values as draw_chart() takes them."""
+    texts: List[str] = []
+    for name, value in given.items():
+        texts.append(name)
+        texts.append(value if type(value) is str else setting_text(value))
+    joined = "\0".join(texts)
+    column = joined.encode("utf-8", "surrogatepass")
+    has_nul_inside = joined.count("\0") >= len(texts) > 0
+    return column, len(given), _lengths(texts[1::2]) if has_nul_inside else _NULL
+
+
+def _lengths(texts: List[str]) -> List[int]:
+    return [len(text.encode("utf-8", "surrogatepass")) for text in texts]
