@@ -129,8 +129,20 @@ class Items(Sequence[Item]):
             columns = tuple(zip(*map(_full_row, rows)))
         if rows and not _LEAST_FIELDS <= len(columns) <= _MOST_FIELDS:
             raise TypeError(f"{rows[0]!r} is not {_ROW}")
+        if len(columns) == _LEAST_FIELDS:
+            return cls._of_pairs(*columns)
         captions, values, *others = columns or ((), ())
         return cls(values, captions, *others)
+
+    @classmethod
+    def _of_pairs(cls, captions: Tuple[str, ...], values: Tuple[Any, ...]) -> Items:
+        """The most common items, with fewer steps."""
+        items = cls.__new__(cls)
+        items._values = _packed_values(values)
+        items._captions = captions
+        items._text = _joined(captions)
+        items._colors = items._outlines = items._links = None
+        return items
 
     @property
     def has_outlines(self) -> bool:

@@ -15,6 +15,7 @@ from tovangl._tovangl import ffi
 Value = Union[bool, int, float, str]
 
 _NULL = ffi.NULL
+_PLAIN_TYPES = {"boolean": bool, "whole": int}
 _LISTS = ("palette", "axis_properties", "position")
 
 
@@ -24,21 +25,40 @@ def table_of(kind: str) -> Dict[str, Setting]:
     return {setting.name: setting for setting in settings() if kind in setting.charts}
 
 
+@lru_cache(maxsize=None)
+def _plain_types(kind: str) -> Dict[str, type]:
+    """The types whose values need no check, but for real numbers, which may be infinite."""
+    return {
+        name: _PLAIN_TYPES.get(setting.type, str)
+        for name, setting in table_of(kind).items()
+        if setting.type != "real"
+    }
+
+
 def checked_settings(kind: str, given: Mapping[str, Any]) -> Dict[str, Value]:
     """The settings that are not None, in the order in which they are applied.
 
     A list of colours, of axis properties or of two numbers becomes a text with commas.
     """
-    table = table_of(kind)
+    plain_types = _plain_types(kind)
     checked: Dict[str, Value] = {}
     for name, value in given.items():
-        if value is not None:
-            if name not in table:
-                raise SettingError(f"{name}: {kind} has no such setting")
-            checked[name] = checked_value(table[name], value)
-    return (
-        checked if len(checked) < 2 else {name: checked[name] for name in table if name in checked}
-    )
+        if type(value) is plain_types.get(name):
+            checked[name] = value
+        elif value is not None:
+            checked[name] = checked_value(_setting_of(kind, name), value)
+    return checked if len(checked) < 2 else _in_order(kind, checked)
+
+
+def _setting_of(kind: str, name: str) -> Setting:
+    table = table_of(kind)
+    if name not in table:
+        raise SettingError(f"{name}: {kind} has no such setting")
+    return table[name]
+
+
+def _in_order(kind: str, checked: Dict[str, Value]) -> Dict[str, Value]:
+    return {name: checked[name] for name in table_of(kind) if name in checked}
 
 
 def checked_value(setting: Setting, value: Any) -> Value:
