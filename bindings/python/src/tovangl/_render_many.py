@@ -76,7 +76,8 @@ def render_many(
     result, or when the iterator is closed.
 
     :param jobs: the number of threads that draw, of which the caller's is one while the next result
-        is not there yet; None: the number of processors that the process may use
+        is not there yet; None: the number of processors that the process may use. A caller that
+        waits for something else, such as a database, may want one more
     :param format: ``png``, or ``svg`` or ``pdf`` for what Chart.render_svg() or Chart.render_pdf() gives
     """
     if format not in _RENDERERS:
