@@ -6,18 +6,16 @@
 #include "layout/CPieLayout.h"
 #include "svg/CSvgPath.h"
 #include "svg/CSvgScene.h"
+#include "svg/pie_outline.h"
 #include "svg/svg_items.h"
 #include "svg/svg_shapes.h"
 #include "svg/svg_texts.h"
 #include "svg/svg_values.h"
 
-#include <QColor>
 #include <QtMath>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
-#include <optional>
 #include <vector>
 
 namespace tovangl {
@@ -26,17 +24,9 @@ namespace {
 
 constexpr double kHalf = 0.5;
 constexpr double kLongestArc = 120; // degrees
-// Pixels. A thinner line is painted as wide as this, but the paler.
-constexpr double kThinnestLine = 1;
 // Pixels. An outline that is no wider than the thinnest line is painted along chords of the rim. An
 // arc that lies this far inside of it is nearer to them, and rounder than they are in a large view.
 constexpr double kChordInset = 0.04;
-// Of 255, in one channel. Nobody sees that a thin line is a little paler or darker.
-constexpr int kVisibleDifference = 16;
-constexpr int kGreatestContrast = 255;
-constexpr int kNoContrast = 0;
-// Of the picture's pixels. Lines that are shorter together are not worth a larger file.
-constexpr double kFewPixels = 0.0014;
 
 double degrees(int units)
 {
@@ -71,123 +61,79 @@ QRectF outlinedPie(const CPieLayout& layout)
     return pie.adjusted(inset, inset, -inset, -inset);
 }
 
-// Which of a slice's edges, the lines from the centre to the rim, one stroke draws with the arc.
-enum class Edges
+// The two sides of a rim that is as thick as it is painted.
+enum class RimSide
 {
-    None, // there are none
-    First,
-    Last,
-    Both
+    Inner,
+    Outer
 };
 
-std::string slicePath(const QRectF& pie, const CSliceAngles& angles, Edges edges)
+QPointF onRimSide(const QRectF& pie, double angle, RimSide side)
+{
+    const double offset = paintedWidth(angle) * (side == RimSide::Outer ? kHalf : -kHalf);
+    return onRim(pie.adjusted(-offset, -offset, offset, offset), angle);
+}
+
+// The diagonal that comes next in the direction of a span. Degrees.
+double nextDiagonal(double angle, double span)
+{
+    constexpr double kFirst = 45;
+    constexpr double kQuarter = 90;
+    const double quarters = (angle - kFirst) / kQuarter;
+    return kFirst + kQuarter * (span < 0 ? std::ceil(quarters) - 1 : std::floor(quarters) + 1);
+}
+
+// Each side is made of parts of four circles as large as the pie, which meet at the diagonals:
+// moved up or down where the rim is nearer to a level line, and aside where it is nearer to an
+// upright one.
+void addRimSide(CSvgPath& path, const QRectF& pie, double start, double span, RimSide side)
+{
+    const auto arcTo = [&](double angle) {
+        const QPointF to = onRimSide(pie, angle, side);
+        path.arc(pie.width() * kHalf, pie.height() * kHalf, span < 0, to.x(), to.y());
+    };
+    double angle = nextDiagonal(start, span);
+    while (std::fabs(angle - start) < std::fabs(span)) {
+        arcTo(angle);
+        angle = nextDiagonal(angle, span);
+    }
+    arcTo(start + span);
+}
+
+std::string rimPath(const QRectF& pie, const CSliceAngles& angles)
+{
+    const double start = degrees(angles.start);
+    const double span = degrees(angles.span);
+    const QPointF outer = onRimSide(pie, start, RimSide::Outer);
+    const QPointF inner = onRimSide(pie, start + span, RimSide::Inner);
+    CSvgPath path;
+    path.move(outer.x(), outer.y());
+    addRimSide(path, pie, start, span, RimSide::Outer);
+    path.line(inner.x(), inner.y());
+    addRimSide(path, pie, start + span, -span, RimSide::Inner);
+    return path.close().text();
+}
+
+std::string slicePath(const QRectF& pie, const CPieLayout& layout, const CSliceAngles& angles)
 {
     const double start = degrees(angles.start);
     const QPointF center = pie.center();
     const QPointF first = onRim(pie, start);
     CSvgPath path;
-    if (edges == Edges::None || edges == Edges::Last)
+    if (layout.isWholeDisc)
         path.move(first.x(), first.y());
     else
         path.move(center.x(), center.y()).line(first.x(), first.y());
     addRim(path, pie, start, degrees(angles.span));
-    if (edges == Edges::Last)
-        path.line(center.x(), center.y());
-    else if (edges != Edges::First)
-        path.close();
-    return path.text();
+    return path.close().text();
 }
 
-// A line that is no wider than a pixel is painted one pixel thick along the rows or columns that it
-// crosses. It is the thinner the nearer it is to a diagonal. Degrees.
-double paintedWidth(double angle)
+// The dashes that stroke a slice's edges and leave out its arc, or stroke the first edge alone.
+std::string edgeDashes(const QRectF& pie, const CSliceAngles& angles, bool isFirstAlone)
 {
-    const double radians = qDegreesToRadians(angle);
-    return std::max(std::fabs(std::sin(radians)), std::fabs(std::cos(radians)));
-}
-
-// How wide an arc is painted in the mean of its directions.
-double paintedWidth(double start, double span)
-{
-    constexpr int kParts = 32;
-    double sum = 0;
-    for (int i = 0; i < kParts; ++i)
-        sum += paintedWidth(start + span * (i + kHalf) / kParts);
-    return sum / kParts;
-}
-
-// An edge with a stroke of its own.
-struct CEdgeStroke
-{
-    double angle = 0; // degrees
-    double width = 1;
-};
-
-struct CSliceOutline
-{
-    Edges edges = Edges::Both; // that are drawn with the arc
-    double width = 1;
-    std::optional<CEdgeStroke> other;
-};
-
-// The greatest difference in a channel, of 255.
-int contrastBetween(const QColor& one, const QColor& other)
-{
-    return std::max({std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
-                     std::abs(one.blue() - other.blue())});
-}
-
-// One stroke is as wide as its parts are in the mean. Where an edge would be visibly too wide or
-// too narrow with it, one edge is left to a second stroke.
-CSliceOutline thinOutline(const CSliceAngles& angles, int contrast)
-{
-    const double start = degrees(angles.start);
-    const double span = degrees(angles.span);
-    const double first = paintedWidth(start);
-    const double last = paintedWidth(start + span);
-    const double arc = paintedWidth(start, span);
-    const double length = qDegreesToRadians(std::fabs(span)); // of the arc, in radiuses
-    const double mean = (first + last + length * arc) / (2 + length);
-    const double error = std::max(std::fabs(first - mean), std::fabs(last - mean));
-    if (error * contrast < kVisibleDifference)
-        return {Edges::Both, mean, {}};
-    if (std::fabs(first - arc) <= std::fabs(last - arc))
-        return {Edges::First, (first + length * arc) / (1 + length),
-                CEdgeStroke{start + span, last}};
-    return {Edges::Last, (last + length * arc) / (1 + length), CEdgeStroke{start, first}};
-}
-
-// How much a slice's outline stands out of it. A picture in two themes has the same shapes in both.
-int contrastOf(const CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice)
-{
-    return scene.frame.isOneOfTwo ? kGreatestContrast
-                                  : contrastBetween(slice.color, layout.outlineColor);
-}
-
-CSliceOutline outlineOf(const CPieLayout& layout, const CSliceAngles& angles, int contrast)
-{
-    const Edges edges = layout.isWholeDisc ? Edges::None : Edges::Both;
-    if (layout.outlineWidth > kThinnestLine)
-        return {edges, double(layout.outlineWidth), {}};
-    if (layout.isWholeDisc)
-        return {edges, paintedWidth(degrees(angles.start), degrees(angles.span)), {}};
-    return thinOutline(angles, contrast);
-}
-
-std::vector<CSliceOutline> outlinesOf(const CSvgScene& scene, const CPieLayout& layout)
-{
-    std::vector<CSliceOutline> outlines;
-    outlines.reserve(layout.slices.size());
-    double length = 0; // of the edges that are apart
-    for (const CPieSlice& slice : layout.slices) {
-        outlines.push_back(outlineOf(layout, slice.angles, contrastOf(scene, layout, slice)));
-        length += outlines.back().other ? layout.drawnPieRect.width() * kHalf : 0;
-    }
-    if (length >= kFewPixels * scene.frame.width * scene.frame.height)
-        return outlines;
-    for (std::size_t i = 0; i < outlines.size(); ++i)
-        outlines[i] = outlineOf(layout, layout.slices[i].angles, kNoContrast);
-    return outlines;
+    const double edge = pie.width() * kHalf;
+    const double arc = qDegreesToRadians(std::fabs(degrees(angles.span))) * edge;
+    return svgNumber(edge) + ' ' + svgNumber(isFirstAlone ? arc + 2 * edge : arc);
 }
 
 std::string linePath(const QPointF& from, const QPointF& to)
@@ -198,21 +144,51 @@ std::string linePath(const QPointF& from, const QPointF& to)
     return (isLevel ? path.across(to.x()) : path.line(to.x(), to.y())).text();
 }
 
-void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice,
-                const CSliceOutline& outline)
+CPieOutline strokesOf(const CSvgScene& scene, const CPieLayout& layout)
+{
+    if (layout.outlineWidth <= kThinnestLine)
+        return outlineOf(scene.frame, layout);
+    const CSliceStroke stroke{double(layout.outlineWidth), {}};
+    return {false, std::vector<CSliceStroke>(layout.slices.size(), stroke)};
+}
+
+void writeLastEdge(CSvgScene& scene, const CPieLayout& layout, const CSliceAngles& angles,
+                   double width)
 {
     const QRectF pie = outlinedPie(layout);
-    scene.markup.begin("path").attribute("d", slicePath(pie, slice.angles, outline.edges));
-    scene.colors.paint(scene.markup, {{"fill", slice.color}, {"stroke", layout.outlineColor}});
-    writeStrokeWidth(scene.markup, outline.width);
-    scene.markup.end();
-    if (!outline.other)
-        return;
-    const QPointF end = onRim(pie, outline.other->angle);
+    const QPointF end = onRim(pie, degrees(angles.start + angles.span));
     scene.markup.begin("path").attribute("d", linePath(pie.center(), end));
     scene.colors.paint(scene.markup, {{"stroke", layout.outlineColor}});
-    writeStrokeWidth(scene.markup, outline.other->width);
+    writeStrokeWidth(scene.markup, width);
     scene.markup.end();
+}
+
+void writeRim(CSvgScene& scene, const CPieLayout& layout, const CSliceAngles& angles)
+{
+    scene.markup.begin("path").attribute("d", rimPath(outlinedPie(layout), angles));
+    scene.colors.paint(scene.markup, {{"fill", layout.outlineColor}});
+    scene.markup.end();
+}
+
+// With its edges, and with its arc where that is no shape of its own.
+void writeSlice(CSvgScene& scene, const CPieLayout& layout, const CPieSlice& slice,
+                const CSliceStroke& stroke, bool hasRims)
+{
+    const QRectF pie = outlinedPie(layout);
+    scene.markup.begin("path").attribute("d", slicePath(pie, layout, slice.angles));
+    if (hasRims && layout.isWholeDisc) {
+        scene.colors.paint(scene.markup, {{"fill", slice.color}});
+        scene.markup.end();
+        return;
+    }
+    scene.colors.paint(scene.markup, {{"fill", slice.color}, {"stroke", layout.outlineColor}});
+    writeStrokeWidth(scene.markup, stroke.width);
+    if (hasRims)
+        scene.markup.attribute("stroke-dasharray",
+                               edgeDashes(pie, slice.angles, stroke.lastEdge.has_value()));
+    scene.markup.end();
+    if (stroke.lastEdge)
+        writeLastEdge(scene, layout, slice.angles, *stroke.lastEdge);
 }
 
 // From a slice to the elbow.
@@ -318,10 +294,12 @@ void writePie(CSvgScene& scene, const CPieLayout& layout)
         .attribute("stroke-linejoin", "bevel")
         .open();
     const std::vector<const CPlacedPieLabel*> labels = labelsBySlice(layout);
-    const std::vector<CSliceOutline> outlines = outlinesOf(scene, layout);
+    const CPieOutline outline = strokesOf(scene, layout);
     for (std::size_t i = 0; i < layout.slices.size(); ++i) {
         const std::string_view element = beginItem(scene, layout.slices[i].item);
-        writeSlice(scene, layout, layout.slices[i], outlines[i]);
+        writeSlice(scene, layout, layout.slices[i], outline.slices[i], outline.hasRims);
+        if (outline.hasRims)
+            writeRim(scene, layout, layout.slices[i].angles);
         writeLabel(scene, layout, *labels[i]);
         scene.markup.close(element);
     }

@@ -5,6 +5,8 @@
 #include "support/public_records.h"
 #include "svg/parsed_svg.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -188,16 +190,57 @@ TEST(SvgBars, HaveCrispEdgesInAViewOfAnySize)
     }
 }
 
+// Shapes in the colour of the outlines.
+std::vector<CSvgElement> rimsOf(const CParsedSvg& svg, const QString& color)
+{
+    std::vector<CSvgElement> rims;
+    for (const CSvgElement& path : svg.all("path")) {
+        if (path["fill"] == color)
+            rims.push_back(path);
+    }
+    return rims;
+}
+
 // Two level sides, one pixel wide, and half a circle, along which the width varies between that and
 // the one of a diagonal: (2 + pi * 0.9003) / (2 + pi).
 TEST(SvgPies, AreOutlinedInTheMeanWidthOfAPaintedSlice)
 {
     CAnyChart chart(ChartKind::Pie);
-    chart.addItem(3, "a");
-    chart.addItem(3, "b");
+    chart.graph().setByName("outline_color", "#8090a0");
+    for (const char* caption : {"a", "b"})
+        chart.addItem(3, caption, Color{0x60, 0x80, 0xa0}, Color());
     const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
     for (const CSvgElement& item : svg.items())
         EXPECT_NEAR(svg.children(item, "path").at(0).number("stroke-width"), 0.94, 0.01);
+    EXPECT_THAT(rimsOf(svg, "#8090a0"), IsEmpty());
+}
+
+TEST(SvgPies, HaveRimsOfTheirOwnWhereOutlinesStandOut)
+{
+    CAnyChart chart(ChartKind::Pie);
+    chart.graph().setByName("outline_color", "#000000");
+    for (const char* caption : {"a", "b"})
+        chart.addItem(3, caption, Color{255, 255, 0}, Color());
+    const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+    EXPECT_THAT(rimsOf(svg, "#000"), SizeIs(2));
+}
+
+// Each slice has one level edge and one upright one, as long as half of the pie is wide.
+TEST(SvgPies, StrokeTheirSlicesAlongTheEdgesAloneBelowSuchRims)
+{
+    CAnyChart chart(ChartKind::Pie);
+    chart.graph().setByName("outline_color", "#000000");
+    for (int i = 0; i < 4; ++i)
+        chart.addItem(3, "a", Color{255, 255, 0}, Color());
+    const CParsedSvg svg(chart.createSvg(kWidth, kHeight).bytes());
+    const double radius = chart.slices().front().width / 2;
+    for (const CSvgElement& item : svg.items()) {
+        const QStringList dashes =
+            svg.children(item, "path").at(0)["stroke-dasharray"].split(QLatin1Char(' '));
+        ASSERT_THAT(dashes, SizeIs(2));
+        EXPECT_NEAR(dashes[0].toDouble(), radius, 1);
+        EXPECT_NEAR(dashes[1].toDouble(), radius * M_PI / 2, 1);
+    }
 }
 
 TEST(SvgPies, HaveNoLineToACaptionThatIsHidden)

@@ -87,6 +87,13 @@ TEST(SvgPixelsOfPiesWithLinesOfManyDirections, AreNearlyAllThoseOfThePng)
         EXPECT_GE(comparePies(seed).share(), kMostOrdinaryPies) << seed;
 }
 
+// Dark outlines on light slices, which are painted in another thickness in each direction.
+TEST(SvgPixelsOfPiesWithOutlinesThatStandOut, AreNearlyAllThoseOfThePng)
+{
+    for (const unsigned seed : {46U, 140U, 148U, 185U})
+        EXPECT_GE(comparePies(seed).share(), kMostOrdinaryPies) << seed;
+}
+
 // A reader that looked for the centre of half a turn would not always find it.
 TEST(SvgPixelsOfAWholeDisc, AreThoseOfThePngButForSmoothing)
 {
