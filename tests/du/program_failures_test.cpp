@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "apps/support/shell.h"
+#include "apps/support/CProgramTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,27 +11,25 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::MatchesRegex;
 
-class DiskUsageFailure : public ::testing::Test
+class DiskUsageFailure : public CProgramTest
 {
 protected:
     DiskUsageFailure()
     {
-        std::filesystem::create_directories(m_folder.pathOf("tree/a"));
-        m_folder.write("tree/a/file", std::string(100, 'x'));
+        std::filesystem::create_directories(folder.pathOf("tree/a"));
+        folder.write("tree/a/file", std::string(100, 'x'));
     }
 
     // The line that it says, and nothing left beside the tree.
     std::string lineOf(const std::string& command) const
     {
-        const ShellResult result = runShell(m_folder, command);
+        const ShellResult result = shell(command);
         EXPECT_EQ(result.status, 2) << command;
         EXPECT_EQ(result.output, "");
         EXPECT_THAT(result.errors, MatchesRegex("tovangl-du: [^\n]+\n"));
-        EXPECT_THAT(m_folder.names(), ElementsAre("tree"));
+        EXPECT_THAT(folder.names(), ElementsAre("tree"));
         return result.errors;
     }
-
-    CTemporaryFolder m_folder;
 };
 
 TEST_F(DiskUsageFailure, FolderIsNotThere)
@@ -47,7 +45,7 @@ TEST_F(DiskUsageFailure, FolderIsAFile)
 TEST_F(DiskUsageFailure, OutputIsAFolderOfSomethingElse)
 {
     EXPECT_THAT(lineOf("tovangl-du tree -o tree"), HasSubstr("holds other files"));
-    EXPECT_EQ(m_folder.read("tree/a/file").size(), 100U);
+    EXPECT_EQ(folder.read("tree/a/file").size(), 100U);
 }
 
 TEST_F(DiskUsageFailure, OutputIsAFile)
@@ -63,10 +61,10 @@ TEST_F(DiskUsageFailure, OutputHasNoPlace)
 
 TEST_F(DiskUsageFailure, ReportWithAForeignFileIsKept)
 {
-    ASSERT_EQ(runShell(m_folder, "tovangl-du tree -o report && echo >report/mine").status, 0);
-    const ShellResult result = runShell(m_folder, "tovangl-du tree -o report");
+    ASSERT_EQ(shell("tovangl-du tree -o report && echo >report/mine").status, 0);
+    const ShellResult result = shell("tovangl-du tree -o report");
     EXPECT_EQ(result.status, 2);
-    EXPECT_TRUE(std::filesystem::exists(m_folder.pathOf("report/mine")));
+    EXPECT_TRUE(std::filesystem::exists(folder.pathOf("report/mine")));
 }
 
 TEST_F(DiskUsageFailure, FilesMayNotGrow)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "apps/support/CHtmlPage.h"
-#include "apps/support/shell.h"
+#include "apps/support/CProgramTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,31 +16,20 @@ using ::testing::MatchesRegex;
 using ::testing::Not;
 
 // Folders of any name, with a file of some bytes in each.
-class DiskUsageReport : public ::testing::Test
+class DiskUsageReport : public CProgramTest
 {
 protected:
     void addFolder(const std::string& name, std::size_t bytes) const
     {
-        std::filesystem::create_directories(m_folder.pathOf("tree/" + name));
-        m_folder.write("tree/" + name + "/file", std::string(bytes, 'x'));
+        std::filesystem::create_directories(folder.pathOf("tree/" + name));
+        folder.write("tree/" + name + "/file", std::string(bytes, 'x'));
     }
-    ShellResult run(const std::string& arguments) const
-    {
-        return runShell(m_folder, "tovangl-du " + arguments);
-    }
-    std::set<std::string> reportNames() const
-    {
-        std::set<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(m_folder.pathOf("report")))
-            names.insert(entry.path().filename());
-        return names;
-    }
+    ShellResult run(const std::string& arguments) const { return shell("tovangl-du " + arguments); }
+    Names reportNames() const { return folder.names("report"); }
     CHtmlPage page(const std::string& name) const
     {
-        return CHtmlPage(m_folder.read("report/" + name));
+        return CHtmlPage(folder.read("report/" + name));
     }
-
-    CTemporaryFolder m_folder;
 };
 
 TEST_F(DiskUsageReport, IsAFolderOfPagesAndPictures)
@@ -61,7 +50,7 @@ TEST_F(DiskUsageReport, LeadsFromEachPageToPagesThatAreThere)
     addFolder("a/b/c", 1000);
     addFolder("d", 700);
     ASSERT_EQ(run("tree -o report").status, 0);
-    const std::set<std::string> names = reportNames();
+    const Names names = reportNames();
     for (const std::string& name : names) {
         if (name.find(".html") == std::string::npos)
             continue;
@@ -85,8 +74,8 @@ TEST_F(DiskUsageReport, NamesItsFilesByNumberWhateverTheFoldersAreCalled)
     addFolder("\"><script>alert(1)</script>"
               "x",
               1000);
-    std::filesystem::create_directories(m_folder.pathOf("tree/\"><script>"));
-    m_folder.write("tree/\"><script>/\"><img src=x onerror=alert(1)>", std::string(900, 'x'));
+    std::filesystem::create_directories(folder.pathOf("tree/\"><script>"));
+    folder.write("tree/\"><script>/\"><img src=x onerror=alert(1)>", std::string(900, 'x'));
     addFolder("broken\xff", 800);
     addFolder("broken\xfe", 700);
     addFolder("line\nbreak", 600);
@@ -105,7 +94,7 @@ TEST_F(DiskUsageReport, HasNoFilesOfPicturesThatArePartsOfItsPages)
 {
     addFolder("\"><script>alert(1)<", 1000);
     ASSERT_EQ(run("tree -o report --svg").status, 0);
-    EXPECT_EQ(reportNames(), (std::set<std::string>{"index.html", "2.html", "style.css"}));
+    EXPECT_EQ(reportNames(), (Names{"index.html", "2.html", "style.css"}));
     for (const char* name : {"index.html", "2.html"}) {
         EXPECT_EQ(page(name).error(), "");
         EXPECT_TRUE(page(name).all("script").empty());
@@ -130,8 +119,8 @@ TEST_F(DiskUsageReport, KeepsFoldersApartThatLookTheSame)
     ASSERT_EQ(links.size(), 2U);
     EXPECT_EQ(links[0]["href"], "2.html");
     EXPECT_EQ(links[1]["href"], "3.html");
-    EXPECT_THAT(m_folder.read("report/2.html"), HasSubstr("800 bytes"));
-    EXPECT_THAT(m_folder.read("report/3.html"), HasSubstr("700 bytes"));
+    EXPECT_THAT(folder.read("report/2.html"), HasSubstr("800 bytes"));
+    EXPECT_THAT(folder.read("report/3.html"), HasSubstr("700 bytes"));
 }
 
 TEST_F(DiskUsageReport, IsTheSameTwice)
@@ -140,7 +129,7 @@ TEST_F(DiskUsageReport, IsTheSameTwice)
         addFolder("folder" + std::to_string(i), 100);
     ASSERT_EQ(run("tree -o report --pages 7").status, 0);
     ASSERT_EQ(run("tree -o again --pages 7").status, 0);
-    EXPECT_EQ(runShell(m_folder, "diff -r -I 'Read on' report again").status, 0);
+    EXPECT_EQ(shell("diff -r -I 'Read on' report again").status, 0);
 }
 
 TEST_F(DiskUsageReport, TakesThePlaceOfAnOldOne)
@@ -150,7 +139,7 @@ TEST_F(DiskUsageReport, TakesThePlaceOfAnOldOne)
     ASSERT_EQ(run("tree -o report").status, 0);
     ASSERT_EQ(run("tree -o report --depth 0").status, 0);
     EXPECT_THAT(reportNames(), Not(Contains("2.html")));
-    EXPECT_EQ(m_folder.names(), (std::set<std::string>{"report", "tree"}));
+    EXPECT_EQ(folder.names(), (Names{"report", "tree"}));
 }
 
 TEST_F(DiskUsageReport, HasNoMorePagesThanItIsAllowed)
@@ -163,21 +152,21 @@ TEST_F(DiskUsageReport, HasNoMorePagesThanItIsAllowed)
 
 TEST_F(DiskUsageReport, LeavesOutOtherFileSystemsWhereItIsTold)
 {
-    if (runShell(m_folder, "test $(stat -c %d /dev) -ne $(stat -c %d /dev/shm)").status != 0)
+    if (shell("test $(stat -c %d /dev) -ne $(stat -c %d /dev/shm)").status != 0)
         GTEST_SKIP() << "/dev/shm is no file system of its own here";
-    const ShellResult file = runShell(
-        m_folder, "file=$(mktemp /dev/shm/tovangl-test-XXXXXX) && echo bytes >$file && echo $file");
+    const ShellResult file =
+        shell("file=$(mktemp /dev/shm/tovangl-test-XXXXXX) && echo bytes >$file && echo $file");
     ASSERT_EQ(file.status, 0);
     EXPECT_EQ(run("/dev -o all").status, 0);
     EXPECT_EQ(run("/dev -x -o one").status, 0);
-    runShell(m_folder, "rm " + file.output);
-    EXPECT_THAT(m_folder.read("all/index.html"), HasSubstr("shm/"));
-    EXPECT_THAT(m_folder.read("one/index.html"), Not(HasSubstr("shm/")));
+    shell("rm " + file.output);
+    EXPECT_THAT(folder.read("all/index.html"), HasSubstr("shm/"));
+    EXPECT_THAT(folder.read("one/index.html"), Not(HasSubstr("shm/")));
 }
 
 TEST_F(DiskUsageReport, TakesAnEmptyFolder)
 {
-    std::filesystem::create_directories(m_folder.pathOf("tree"));
+    std::filesystem::create_directories(folder.pathOf("tree"));
     EXPECT_EQ(run("tree -o report").status, 0);
     EXPECT_EQ(page("index.html").error(), "");
 }
@@ -185,9 +174,9 @@ TEST_F(DiskUsageReport, TakesAnEmptyFolder)
 TEST_F(DiskUsageReport, IsWrittenIntoTheFolderAtHandByDefault)
 {
     addFolder("a", 1000);
-    const ShellResult result = runShell(m_folder, "cd tree && tovangl-du");
+    const ShellResult result = shell("cd tree && tovangl-du");
     EXPECT_EQ(result.output, "Wrote 2 pages; open tovangl-report/index.html\n");
-    EXPECT_THAT(m_folder.read("tree/tovangl-report/index.html"), HasSubstr("1 file and 1 folder."))
+    EXPECT_THAT(folder.read("tree/tovangl-report/index.html"), HasSubstr("1 file and 1 folder."))
         << "the report does not see itself";
 }
 
@@ -197,8 +186,7 @@ TEST_F(DiskUsageReport, ShowsProgressOnATerminalOnly)
     EXPECT_EQ(run("tree -o report").errors, "");
     if (!hasTerminals())
         GTEST_SKIP() << "no terminal can be opened here";
-    const ShellResult result =
-        runShell(m_folder, "script -qec 'tovangl-du /usr -o report --pages 1' /dev/null");
+    const ShellResult result = shell("script -qec 'tovangl-du /usr -o report --pages 1' /dev/null");
     if (result.status == 127)
         GTEST_SKIP() << "there is no script(1) to play the terminal";
     EXPECT_THAT(result.output, HasSubstr(" files, "));
@@ -213,15 +201,13 @@ TEST_F(DiskUsageReport, HelpTeaches)
     EXPECT_THAT(run("--version").output, MatchesRegex("tovangl-du [0-9.]+\n"));
 }
 
-class DiskUsageHelp : public ::testing::TestWithParam<const char*>
+class DiskUsageHelp : public CProgramTest, public ::testing::WithParamInterface<const char*>
 {};
 
 TEST_P(DiskUsageHelp, NamesTheOptionsOfTheProgram)
 {
-    const CTemporaryFolder apps;
     const std::string text =
-        runShell(apps, std::string("sed 's/\\\\-/-/g' '" TOVANGL_APPS_FOLDER "'/") + GetParam())
-            .output;
+        shell(std::string("sed 's/\\\\-/-/g' '" TOVANGL_APPS_FOLDER "'/") + GetParam()).output;
     for (const char* option :
          {"output", "pages", "depth", "svg", "font-file", "one-file-system", "help", "version"})
         EXPECT_THAT(text, HasSubstr(option));

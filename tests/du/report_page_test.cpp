@@ -50,13 +50,6 @@ protected:
         }
         return targets;
     }
-    std::vector<std::string> cells()
-    {
-        std::vector<std::string> cells;
-        for (const HtmlElement& cell : page().all("td"))
-            cells.push_back(cell.text);
-        return cells;
-    }
 
     FolderSummary m_folder{1, "", 0, kMay2024};
     std::vector<PathPart> m_path{{"root", "index.html"}, {"this", "5.html"}};
@@ -103,11 +96,11 @@ TEST_F(ReportPage, HasTheSameLinksAndTablesWithEitherKindOfPictures)
     add("folder", 500, 7);
     add("file", 300);
     const std::set<std::string> targets = this->targets();
-    const std::vector<std::string> cells = this->cells();
+    const std::vector<std::string> cells = page().texts("td");
     EXPECT_THAT(targets, IsSupersetOf({"9.html", "#child-2", "#file-1", "#file-2"}));
     m_look.isSvg = true;
     EXPECT_EQ(this->targets(), targets);
-    EXPECT_EQ(this->cells(), cells);
+    EXPECT_EQ(page().texts("td"), cells);
 }
 
 TEST_F(ReportPage, TellsTheSameOfEachItemInEitherKindOfPictures)
@@ -119,10 +112,7 @@ TEST_F(ReportPage, TellsTheSameOfEachItemInEitherKindOfPictures)
         ofAreas.insert(area["title"]);
     EXPECT_THAT(ofAreas, Contains("a<b: 300 bytes, 37.5 %"));
     m_look.isSvg = true;
-    std::set<std::string> ofItems;
-    for (const HtmlElement& title : page().all("title"))
-        ofItems.insert(title.text);
-    EXPECT_THAT(ofItems, IsSupersetOf(ofAreas));
+    EXPECT_THAT(page().texts("title"), IsSupersetOf(ofAreas));
 }
 
 TEST_F(ReportPage, HasIdsOfItsOwnForEverySvgPicture)
@@ -198,7 +188,7 @@ TEST_F(ReportPage, EscapesHostileNames)
         EXPECT_EQ(page.error(), "");
         EXPECT_THAT(page.all("script"), IsEmpty());
         EXPECT_THAT(html, Not(HasSubstr("<script")));
-        EXPECT_EQ(page.all("title")[0].text, std::string(kHostileName) + ", 800 bytes");
+        EXPECT_EQ(page.texts("title").at(0), std::string(kHostileName) + ", 800 bytes");
     }
 }
 

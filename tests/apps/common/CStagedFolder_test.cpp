@@ -22,9 +22,19 @@ bool always(const std::filesystem::path&)
     return true;
 }
 
-TEST(StagedFolder, AppearsWithAllItsFiles)
+class StagedFolder : public ::testing::Test
 {
-    const CTemporaryFolder temporary;
+protected:
+    void makeFolder(const char* name) const
+    {
+        std::filesystem::create_directory(temporary.pathOf(name));
+    }
+
+    CTemporaryFolder temporary;
+};
+
+TEST_F(StagedFolder, AppearsWithAllItsFiles)
+{
     CStagedFolder folder(temporary.pathOf("new"), never);
     folder.write("a", "first");
     folder.write("b", "second");
@@ -34,9 +44,8 @@ TEST(StagedFolder, AppearsWithAllItsFiles)
     EXPECT_EQ(temporary.read("new/b"), "second");
 }
 
-TEST(StagedFolder, CanBeNamedWithASlashAtTheEnd)
+TEST_F(StagedFolder, CanBeNamedWithASlashAtTheEnd)
 {
-    const CTemporaryFolder temporary;
     CStagedFolder folder(temporary.pathOf("new/"), never);
     folder.write("a", "first");
     folder.publish();
@@ -44,10 +53,9 @@ TEST(StagedFolder, CanBeNamedWithASlashAtTheEnd)
     EXPECT_EQ(temporary.read("new/a"), "first");
 }
 
-TEST(StagedFolder, HasThePermissionsOfAnyNewFolder)
+TEST_F(StagedFolder, HasThePermissionsOfAnyNewFolder)
 {
-    const CTemporaryFolder temporary;
-    std::filesystem::create_directory(temporary.pathOf("other"));
+    makeFolder("other");
     CStagedFolder folder(temporary.pathOf("new"), never);
     folder.write("a", "first");
     folder.publish();
@@ -55,9 +63,8 @@ TEST(StagedFolder, HasThePermissionsOfAnyNewFolder)
               std::filesystem::status(temporary.pathOf("other")).permissions());
 }
 
-TEST(StagedFolder, LeavesNothingWhereItIsNotPublished)
+TEST_F(StagedFolder, LeavesNothingWhereItIsNotPublished)
 {
-    const CTemporaryFolder temporary;
     {
         CStagedFolder folder(temporary.pathOf("new"), never);
         folder.write("a", "first");
@@ -65,17 +72,15 @@ TEST(StagedFolder, LeavesNothingWhereItIsNotPublished)
     EXPECT_THAT(temporary.names(), IsEmpty());
 }
 
-TEST(StagedFolder, MakesNothingBeforeTheFirstFile)
+TEST_F(StagedFolder, MakesNothingBeforeTheFirstFile)
 {
-    const CTemporaryFolder temporary;
     const CStagedFolder folder(temporary.pathOf("new"), never);
     EXPECT_THAT(temporary.names(), IsEmpty());
 }
 
-TEST(StagedFolder, TakesThePlaceOfWhatMayBeReplaced)
+TEST_F(StagedFolder, TakesThePlaceOfWhatMayBeReplaced)
 {
-    const CTemporaryFolder temporary;
-    std::filesystem::create_directory(temporary.pathOf("old"));
+    makeFolder("old");
     temporary.write("old/left", "x");
     CStagedFolder folder(temporary.pathOf("old/"), always);
     folder.write("a", "first");
@@ -89,10 +94,9 @@ TEST(StagedFolder, TakesThePlaceOfWhatMayBeReplaced)
     EXPECT_EQ(temporary.read("old/a"), "first");
 }
 
-TEST(StagedFolder, LeavesNoOtherNameBehindWhenItReplaces)
+TEST_F(StagedFolder, LeavesNoOtherNameBehindWhenItReplaces)
 {
-    const CTemporaryFolder temporary;
-    std::filesystem::create_directory(temporary.pathOf("old"));
+    makeFolder("old");
     {
         CStagedFolder folder(temporary.pathOf("old"), never);
         folder.write("a", "first");
@@ -101,32 +105,28 @@ TEST(StagedFolder, LeavesNoOtherNameBehindWhenItReplaces)
     EXPECT_THAT(temporary.names(), ElementsAre("old"));
 }
 
-TEST(StagedFolder, RefusesAFolderWithOtherFiles)
+TEST_F(StagedFolder, RefusesAFolderWithOtherFiles)
 {
-    const CTemporaryFolder temporary;
-    std::filesystem::create_directory(temporary.pathOf("mine"));
+    makeFolder("mine");
     temporary.write("mine/precious", "x");
     EXPECT_THROW(CStagedFolder(temporary.pathOf("mine"), never), CFailure);
     EXPECT_EQ(temporary.read("mine/precious"), "x");
 }
 
-TEST(StagedFolder, RefusesAFile)
+TEST_F(StagedFolder, RefusesAFile)
 {
-    const CTemporaryFolder temporary;
     temporary.write("file", "x");
     EXPECT_THROW(CStagedFolder(temporary.pathOf("file"), always), CFailure);
 }
 
-TEST(StagedFolder, RefusesAPlaceThatIsNotThere)
+TEST_F(StagedFolder, RefusesAPlaceThatIsNotThere)
 {
-    const CTemporaryFolder temporary;
     EXPECT_THROW(CStagedFolder(temporary.pathOf("none/new"), always), CFailure);
 }
 
-TEST(StagedFolder, FollowsALinkToAFolder)
+TEST_F(StagedFolder, FollowsALinkToAFolder)
 {
-    const CTemporaryFolder temporary;
-    std::filesystem::create_directory(temporary.pathOf("real"));
+    makeFolder("real");
     std::filesystem::create_directory_symlink("real", temporary.pathOf("link"));
     CStagedFolder folder(temporary.pathOf("link"), never);
     folder.write("a", "first");

@@ -65,6 +65,14 @@ std::vector<HtmlElement> CHtmlPage::all(const std::string& tag) const
     return result;
 }
 
+std::vector<std::string> CHtmlPage::texts(const std::string& tag) const
+{
+    std::vector<std::string> result;
+    for (const HtmlElement& element : all(tag))
+        result.push_back(element.text);
+    return result;
+}
+
 bool CHtmlPage::hasId(const std::string& id) const
 {
     return std::any_of(m_elements.begin(), m_elements.end(),

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] const std::vector<HtmlElement>& elements() const { return m_elements; }
     /// The elements of one kind, in their order.
     [[nodiscard]] std::vector<HtmlElement> all(const std::string& tag) const;
+    /// What stands directly in the elements of one kind.
+    [[nodiscard]] std::vector<std::string> texts(const std::string& tag) const;
     [[nodiscard]] bool hasId(const std::string& id) const;
 
 private:

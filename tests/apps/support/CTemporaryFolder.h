@@ -14,6 +14,8 @@
 
 namespace tovangl::program {
 
+using Names = std::set<std::string>;
+
 /// Empty at first, and gone with this object.
 class CTemporaryFolder
 {
@@ -52,11 +54,11 @@ public:
         return bytes.str();
     }
 
-    /// The names of everything in the folder.
-    [[nodiscard]] std::set<std::string> names() const
+    /// The names of everything in the folder, or in a folder of it.
+    [[nodiscard]] Names names(const std::string& below = "") const
     {
-        std::set<std::string> result;
-        for (const auto& entry : std::filesystem::directory_iterator(m_path))
+        Names result;
+        for (const auto& entry : std::filesystem::directory_iterator(m_path / below))
             result.insert(entry.path().filename());
         return result;
     }

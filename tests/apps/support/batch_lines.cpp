@@ -2,8 +2,6 @@
 // Lines for a batch of charts, and what becomes of them.
 #include "apps/support/batch_lines.h"
 
-#include <filesystem>
-
 namespace tovangl::program {
 
 std::string chartLine(const std::string& id, const std::string& fields)
@@ -26,14 +24,6 @@ ShellResult runLines(const CTemporaryFolder& folder, const std::string& lines,
 {
     folder.write("lines", lines);
     return runShell(folder, "tovangl-chart batch lines " + options);
-}
-
-Names namesIn(const CTemporaryFolder& folder, const std::string& name)
-{
-    Names names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.pathOf(name)))
-        names.insert(entry.path().filename());
-    return names;
 }
 
 } // namespace tovangl::program

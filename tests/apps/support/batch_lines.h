@@ -6,12 +6,9 @@
 
 #include "apps/support/shell.h"
 
-#include <set>
 #include <string>
 
 namespace tovangl::program {
-
-using Names = std::set<std::string>;
 
 /// A small chart with this id, and more keys: , "title": "x"
 [[nodiscard]] std::string chartLine(const std::string& id, const std::string& fields = "");
@@ -22,9 +19,6 @@ using Names = std::set<std::string>;
 /// What a batch makes of the lines, which stay in the file "lines".
 ShellResult runLines(const CTemporaryFolder& folder, const std::string& lines,
                      const std::string& options = "-o p");
-
-/// The files in a folder of the folder.
-[[nodiscard]] Names namesIn(const CTemporaryFolder& folder, const std::string& name);
 
 } // namespace tovangl::program
 

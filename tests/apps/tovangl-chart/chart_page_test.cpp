@@ -95,8 +95,8 @@ TEST_F(ChartPage, HasARowForTheOthers)
     ASSERT_THAT(areas, SizeIs(1));
     EXPECT_EQ(areas[0]["title"], "<rest>: 12");
     EXPECT_TRUE(page().hasId(areas[0]["href"].substr(1)));
-    EXPECT_EQ(page().all("bdi").at(2).text, "<rest>");
-    EXPECT_EQ(page().all("td").at(5).text, "12");
+    EXPECT_EQ(page().texts("bdi").at(2), "<rest>");
+    EXPECT_EQ(page().texts("td").at(5), "12");
 }
 
 TEST_F(ChartPage, LeadsFromTheOthersToTheAddressThatTheyHave)
@@ -151,10 +151,10 @@ TEST_F(ChartPage, EscapesEveryText)
     m_regions.captions = {kNone, kNone, kCaption};
     EXPECT_EQ(page().error(), "");
     EXPECT_THAT(page().all("script"), SizeIs(0));
-    EXPECT_EQ(page().all("title").at(0).text, kHostile);
+    EXPECT_EQ(page().texts("title").at(0), kHostile);
     EXPECT_EQ(page().all("img").at(0)["alt"], kHostile);
     EXPECT_EQ(page().all("area").at(0)["title"], std::string(kHostile) + ": 3");
-    EXPECT_EQ(page().all("bdi").at(2).text, kHostile);
+    EXPECT_EQ(page().texts("bdi").at(2), kHostile);
 }
 
 TEST_F(ChartPage, HoldsEverythingItself)

@@ -9,75 +9,55 @@ namespace {
 
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
-using ::testing::Optional;
 using ::testing::ThrowsMessage;
 
 const CsvFields kSales = {"region", "amount", "2", "colour"};
 
-CsvColumns wantValue(const std::string& column)
+CsvColumns want(std::optional<std::string> CsvColumns::*column, const char* name)
 {
     CsvColumns wanted;
-    wanted.value = column;
+    wanted.*column = name;
     return wanted;
 }
 
-CsvColumns wantCaption(const std::string& column)
+struct WantedColumns
 {
+    const char* name;
     CsvColumns wanted;
-    wanted.caption = column;
-    return wanted;
+    std::size_t caption;
+    std::size_t value;
+    std::optional<std::size_t> color = {};
+};
+
+void PrintTo(const WantedColumns& columns, std::ostream* stream)
+{
+    *stream << columns.name;
 }
 
-CsvColumns wantColor(const std::string& column)
+class FoundColumns : public ::testing::TestWithParam<WantedColumns>
+{};
+
+TEST_P(FoundColumns, AreTheWantedAndThenTheFirstThatAreFree)
 {
-    CsvColumns wanted;
-    wanted.color = column;
-    return wanted;
+    const ItemColumns columns = findItemColumns(kSales, GetParam().wanted);
+    EXPECT_EQ(columns.caption, GetParam().caption);
+    EXPECT_EQ(columns.value, GetParam().value);
+    EXPECT_EQ(columns.color, GetParam().color);
 }
 
-TEST(CsvColumns, WithoutWishesTheCaptionIsTheFirstAndTheValueTheSecond)
-{
-    const ItemColumns columns = findItemColumns(kSales, {});
-    EXPECT_EQ(columns.caption, 0U);
-    EXPECT_EQ(columns.value, 1U);
-    EXPECT_FALSE(columns.color);
-}
-
-TEST(CsvColumns, TheCaptionIsTheFirstThatTheValueLeaves)
-{
-    const ItemColumns columns = findItemColumns(kSales, wantValue("region"));
-    EXPECT_EQ(columns.value, 0U);
-    EXPECT_EQ(columns.caption, 1U);
-}
-
-TEST(CsvColumns, TheValueIsTheFirstThatTheCaptionLeaves)
-{
-    const ItemColumns columns = findItemColumns(kSales, wantCaption("amount"));
-    EXPECT_EQ(columns.caption, 1U);
-    EXPECT_EQ(columns.value, 0U);
-}
-
-TEST(CsvColumns, AColorIsNeitherCaptionNorValue)
-{
-    const ItemColumns columns = findItemColumns(kSales, wantColor("region"));
-    EXPECT_THAT(columns.color, Optional(0U));
-    EXPECT_EQ(columns.caption, 1U);
-    EXPECT_EQ(columns.value, 2U);
-}
-
-TEST(CsvColumns, NumbersCountFromOne)
-{
-    EXPECT_EQ(findItemColumns(kSales, wantValue("4")).value, 3U);
-}
-
-TEST(CsvColumns, ANameComesBeforeANumber)
-{
-    EXPECT_EQ(findItemColumns(kSales, wantValue("2")).value, 2U);
-}
+INSTANTIATE_TEST_SUITE_P(
+    CsvColumns, FoundColumns,
+    ::testing::Values(WantedColumns{"WithoutWishes", {}, 0, 1},
+                      WantedColumns{"AValue", want(&CsvColumns::value, "region"), 1, 0},
+                      WantedColumns{"ACaption", want(&CsvColumns::caption, "amount"), 1, 0},
+                      WantedColumns{"AColor", want(&CsvColumns::color, "region"), 1, 2, 0},
+                      WantedColumns{"ANumber", want(&CsvColumns::value, "4"), 0, 3},
+                      WantedColumns{"ANameBeforeANumber", want(&CsvColumns::value, "2"), 0, 2}),
+    [](const auto& info) { return info.param.name; });
 
 TEST(CsvColumns, OneColumnCanBeBoth)
 {
-    CsvColumns wanted = wantValue("amount");
+    CsvColumns wanted = want(&CsvColumns::value, "amount");
     wanted.caption = "amount";
     const ItemColumns columns = findItemColumns(kSales, wanted);
     EXPECT_EQ(columns.value, 1U);
@@ -93,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(CsvColumns, UnknownColumn,
 
 TEST_P(UnknownColumn, IsRefusedWithAListOfThoseThatThereAre)
 {
-    EXPECT_THAT([] { (void)findItemColumns(kSales, wantValue(GetParam())); },
+    EXPECT_THAT([] { (void)findItemColumns(kSales, want(&CsvColumns::value, GetParam())); },
                 ThrowsMessage<CFailure>("there is no column \"" + std::string(GetParam()) +
                                         "\" for --value; the columns are 1 \"region\", "
                                         "2 \"amount\", 3 \"2\", 4 \"colour\""));
@@ -101,19 +81,19 @@ TEST_P(UnknownColumn, IsRefusedWithAListOfThoseThatThereAre)
 
 TEST(CsvColumns, AnUnknownColumnIsToldWithItsOption)
 {
-    EXPECT_THAT([] { (void)findItemColumns(kSales, wantCaption("x")); },
+    EXPECT_THAT([] { (void)findItemColumns(kSales, want(&CsvColumns::caption, "x")); },
                 ThrowsMessage<CFailure>(HasSubstr("\"x\" for --caption;")));
-    EXPECT_THAT([] { (void)findItemColumns(kSales, wantColor("x")); },
+    EXPECT_THAT([] { (void)findItemColumns(kSales, want(&CsvColumns::color, "x")); },
                 ThrowsMessage<CFailure>(HasSubstr("\"x\" for --color;")));
 }
 
 TEST(CsvColumns, ANameThatSeveralColumnsHaveIsRefused)
 {
     const CsvFields header = {"sum", "name", "sum"};
-    EXPECT_THAT([&] { (void)findItemColumns(header, wantValue("sum")); },
+    EXPECT_THAT([&] { (void)findItemColumns(header, want(&CsvColumns::value, "sum")); },
                 ThrowsMessage<CFailure>("several columns are \"sum\", so --value needs a number; "
                                         "the columns are 1 \"sum\", 2 \"name\", 3 \"sum\""));
-    EXPECT_EQ(findItemColumns(header, wantValue("3")).value, 2U);
+    EXPECT_EQ(findItemColumns(header, want(&CsvColumns::value, "3")).value, 2U);
 }
 
 TEST(CsvColumns, NamesThatNobodyWantsMayBeEqual)
@@ -128,7 +108,7 @@ TEST(CsvColumns, OneColumnIsTooFew)
     EXPECT_THAT([] { (void)findItemColumns({"amount"}, {}); },
                 ThrowsMessage<CFailure>(
                     "there is no column left for --value; the columns are 1 \"amount\""));
-    EXPECT_THAT([] { (void)findItemColumns({"amount"}, wantValue("amount")); },
+    EXPECT_THAT([] { (void)findItemColumns({"amount"}, want(&CsvColumns::value, "amount")); },
                 ThrowsMessage<CFailure>(
                     "there is no column left for --caption; the columns are 1 \"amount\""));
 }
@@ -136,7 +116,7 @@ TEST(CsvColumns, OneColumnIsTooFew)
 TEST(CsvColumns, ALongListIsCut)
 {
     const CsvFields header(2000, "x");
-    EXPECT_THAT([&] { (void)findItemColumns(header, wantValue("y")); },
+    EXPECT_THAT([&] { (void)findItemColumns(header, want(&CsvColumns::value, "y")); },
                 ThrowsMessage<CFailure>(EndsWith(", 20 \"x\" and 1980 more")));
 }
 
@@ -144,7 +124,7 @@ TEST(CsvColumns, AListOfBrokenNamesIsPrintable)
 {
     EXPECT_THAT(
         [] {
-            (void)findItemColumns({"a\n\x1b[2J", "\xff"}, wantValue("y"));
+            (void)findItemColumns({"a\n\x1b[2J", "\xff"}, want(&CsvColumns::value, "y"));
         },
         ThrowsMessage<CFailure>(EndsWith("1 \"a??[2J\", 2 \"?\"")));
 }

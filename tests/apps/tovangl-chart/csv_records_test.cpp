@@ -11,7 +11,6 @@ namespace tovangl::program {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using ::testing::ThrowsMessage;
 
@@ -47,70 +46,53 @@ std::string failureOf(const std::string& text, const UseCsvRecord& use = ignoreR
     return "nothing";
 }
 
-TEST(CsvRecords, AnEmptyFileHasNone)
+struct ReadFile
 {
-    EXPECT_THAT(recordsOf(""), IsEmpty());
-    EXPECT_THAT(recordsOf("\n\r\n\n"), IsEmpty());
+    const char* name;
+    std::string text;
+    Records records;
+};
+
+void PrintTo(const ReadFile& file, std::ostream* stream)
+{
+    *stream << file.name;
 }
 
-TEST(CsvRecords, CommasSeparateFields)
+class RecordsOfAFile : public ::testing::TestWithParam<ReadFile>
+{};
+
+TEST_P(RecordsOfAFile, AreItsFields)
 {
-    EXPECT_THAT(recordsOf("a,b\n,\n1\n"),
-                ElementsAre(ElementsAre("a", "b"), ElementsAre("", ""), ElementsAre("1")));
+    EXPECT_EQ(recordsOf(GetParam().text), GetParam().records);
 }
 
-TEST(CsvRecords, BlanksBelongToAField)
-{
-    EXPECT_THAT(recordsOf(" a , b\t\n"), ElementsAre(ElementsAre(" a ", " b\t")));
-}
+const std::string kMark = "\xef\xbb\xbf";
+const std::string kNul("a\0b", 3);
 
-TEST(CsvRecords, AQuotedFieldMayHaveCommasAndDoubledMarks)
-{
-    EXPECT_THAT(recordsOf("\"a, \"\"b\"\"\",\"\"\n"), ElementsAre(ElementsAre("a, \"b\"", "")));
-}
-
-TEST(CsvRecords, AQuotedFieldMayHaveLineBreaks)
-{
-    EXPECT_THAT(recordsOf("\"a\nb\r\n\nc\",1\n2,3\n"),
-                ElementsAre(ElementsAre("a\nb\n\nc", "1"), ElementsAre("2", "3")));
-}
-
-TEST(CsvRecords, EveryLineBreakEndsARecord)
-{
-    EXPECT_THAT(recordsOf("a\r\nb\nc\rd\r\r\ne"),
-                ElementsAre(ElementsAre("a"), ElementsAre("b"), ElementsAre("c"), ElementsAre("d"),
-                            ElementsAre("e")));
-}
-
-TEST(CsvRecords, EmptyLinesArePassedOver)
-{
-    EXPECT_THAT(recordsOf("\na\n\n\r\nb\n\n"), ElementsAre(ElementsAre("a"), ElementsAre("b")));
-}
-
-TEST(CsvRecords, AnEmptyQuotedFieldIsARecord)
-{
-    EXPECT_THAT(recordsOf("a\n\"\"\nb\n"),
-                ElementsAre(ElementsAre("a"), ElementsAre(""), ElementsAre("b")));
-}
-
-TEST(CsvRecords, ANumberSignIsNoComment)
-{
-    EXPECT_THAT(recordsOf("# a,b\n#\n"), ElementsAre(ElementsAre("# a", "b"), ElementsAre("#")));
-}
-
-TEST(CsvRecords, AByteOrderMarkIsPassedOverAtTheStartAlone)
-{
-    EXPECT_THAT(recordsOf("\xef\xbb\xbf\"a\",b\n\xef\xbb\xbf"
-                          "c\n"),
-                ElementsAre(ElementsAre("a", "b"), ElementsAre("\xef\xbb\xbf"
-                                                               "c")));
-}
-
-TEST(CsvRecords, NulAndBrokenTextAreBytes)
-{
-    const std::string nul("a\0b", 3);
-    EXPECT_THAT(recordsOf(nul + ",\xff\n"), ElementsAre(ElementsAre(nul, "\xff")));
-}
+INSTANTIATE_TEST_SUITE_P(
+    CsvRecords, RecordsOfAFile,
+    ::testing::Values(ReadFile{"AnEmptyFileHasNone", "", {}},
+                      ReadFile{"AFileOfEmptyLinesHasNone", "\n\r\n\n", {}},
+                      ReadFile{
+                          "CommasSeparateFields", "a,b\n,\n1\n", {{"a", "b"}, {"", ""}, {"1"}}},
+                      ReadFile{"BlanksBelongToAField", " a , b\t\n", {{" a ", " b\t"}}},
+                      ReadFile{"AQuotedFieldMayHaveCommasAndDoubledMarks",
+                               "\"a, \"\"b\"\"\",\"\"\n",
+                               {{"a, \"b\"", ""}}},
+                      ReadFile{"AQuotedFieldMayHaveLineBreaks",
+                               "\"a\nb\r\n\nc\",1\n2,3\n",
+                               {{"a\nb\n\nc", "1"}, {"2", "3"}}},
+                      ReadFile{"EveryLineBreakEndsARecord",
+                               "a\r\nb\nc\rd\r\r\ne",
+                               {{"a"}, {"b"}, {"c"}, {"d"}, {"e"}}},
+                      ReadFile{"EmptyLinesArePassedOver", "\na\n\n\r\nb\n\n", {{"a"}, {"b"}}},
+                      ReadFile{"AnEmptyQuotedFieldIsARecord", "a\n\"\"\nb\n", {{"a"}, {""}, {"b"}}},
+                      ReadFile{"ANumberSignIsNoComment", "# a,b\n#\n", {{"# a", "b"}, {"#"}}},
+                      ReadFile{"AByteOrderMarkIsPassedOverAtTheStartAlone",
+                               kMark + "\"a\",b\n" + kMark + "c\n",
+                               {{"a", "b"}, {kMark + "c"}}},
+                      ReadFile{"NulAndBrokenTextAreBytes", kNul + ",\xff\n", {{kNul, "\xff"}}}),
+    [](const auto& info) { return info.param.name; });
 
 TEST(CsvRecords, AFieldMayBeLongerThanTheBuffers)
 {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Batches that go wrong, and inputs that mean harm.
+#include "apps/support/CProgramTest.h"
 #include "apps/support/batch_lines.h"
 #include "apps/support/failing_commands.h"
 
@@ -19,15 +20,14 @@ using ::testing::Not;
 constexpr const char* kLine =
     R"({"chart": "pie", "id": "a", "width": 400, "height": 300, "items": [{"value": 7}]})";
 
-class BrokenOff : public ::testing::TestWithParam<FailingCommand>
+class BrokenOff : public CProgramTest, public ::testing::WithParamInterface<FailingCommand>
 {};
 
 TEST_P(BrokenOff, SaysWhyInOneLine)
 {
-    const CTemporaryFolder folder;
     folder.write("line", kLine);
     folder.write("file", "");
-    expectOneLine(runShell(folder, GetParam().command), GetParam().message);
+    expectOneLine(shell(GetParam().command), GetParam().message);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -67,29 +67,28 @@ INSTANTIATE_TEST_SUITE_P(
                        "--format: \"gif\" is not a format: png, svg or pdf"}),
     caseName);
 
-TEST(BrokenBatches, AClosedPipeIsOneError)
+using BrokenBatches = CProgramTest;
+
+TEST_F(BrokenBatches, AClosedPipeIsOneError)
 {
-    const CTemporaryFolder folder;
     folder.write("line", kLine);
-    const ShellResult result = runShell(
-        folder, "for i in $(seq 2000); do cat line; echo; done | "
-                "{ tovangl-chart batch --frames; echo $? >status; } | head -c 10 >/dev/null");
+    const ShellResult result =
+        shell("for i in $(seq 2000); do cat line; echo; done | "
+              "{ tovangl-chart batch --frames; echo $? >status; } | head -c 10 >/dev/null");
     EXPECT_EQ(folder.read("status"), "2\n");
     EXPECT_EQ(result.errors, "tovangl-chart: standard output: Broken pipe\n");
 }
 
 // A file system of its own, which only this command sees.
-TEST(BrokenBatches, AFullDiskIsOneErrorAndLeavesWholeFiles)
+TEST_F(BrokenBatches, AFullDiskIsOneErrorAndLeavesWholeFiles)
 {
-    const CTemporaryFolder folder;
     folder.write("lines", manyLines(300));
     folder.write("run", "mount -t tmpfs -o size=200k none p || exit 77\n"
                         "tovangl-chart batch lines -o p; echo $? >status\n"
                         "for file in p/*; do tail -c 8 $file | grep -q IEND || exit 1; done\n"
                         "ls -A p | wc -l >count\n");
-    const ShellResult result =
-        runShell(folder, "mkdir p; unshare --map-root-user --mount sh run 2>errors || "
-                         "unshare --mount sh run 2>errors");
+    const ShellResult result = shell("mkdir p; unshare --map-root-user --mount sh run 2>errors || "
+                                     "unshare --mount sh run 2>errors");
     if (folder.names().count("status") == 0)
         GTEST_SKIP() << "no file system can be mounted here";
     EXPECT_EQ(result.status, 0);
@@ -98,49 +97,44 @@ TEST(BrokenBatches, AFullDiskIsOneErrorAndLeavesWholeFiles)
     EXPECT_GT(std::stoi(folder.read("count")), 10);
 }
 
-TEST(BrokenBatches, RecordsGoToStandardOutputIfWanted)
+TEST_F(BrokenBatches, RecordsGoToStandardOutputIfWanted)
 {
-    const CTemporaryFolder folder;
     const ShellResult result = runLines(folder, "oops\n", "-o p --errors -");
     EXPECT_EQ(result.output, "{\"line\":1,\"id\":null,\"reason\":\"not JSON: wrong at byte 1\"}\n");
     EXPECT_THAT(result.errors, IsEmpty());
 }
 
-TEST(BrokenBatches, TheLongestLineIsAnOption)
+TEST_F(BrokenBatches, TheLongestLineIsAnOption)
 {
-    const CTemporaryFolder folder;
     folder.write("line", kLine);
-    EXPECT_THAT(runShell(folder, "tovangl-chart batch line -o p --longest-line 20").errors,
+    EXPECT_THAT(shell("tovangl-chart batch line -o p --longest-line 20").errors,
                 HasSubstr("the line has more than 20 bytes"));
 }
 
-TEST(BrokenBatches, BytesThatAreNoTextAreOneErrorALine)
+TEST_F(BrokenBatches, BytesThatAreNoTextAreOneErrorALine)
 {
-    const CTemporaryFolder folder;
     folder.write("lines", std::string("{\"\xff\": 1}\n") + '\0' + "\n\x1b[2J\n" + kLine);
-    const ShellResult result = runShell(folder, "tovangl-chart batch lines -o p");
+    const ShellResult result = shell("tovangl-chart batch lines -o p");
     EXPECT_EQ(result.errors, "{\"line\":1,\"id\":null,\"reason\":\"byte 3 is not UTF-8\"}\n"
                              "{\"line\":2,\"id\":null,\"reason\":\"byte 1 is zero\"}\n"
                              "{\"line\":3,\"id\":null,\"reason\":\"not JSON: wrong at byte 1\"}\n");
     EXPECT_FALSE(folder.read("p/a.png").empty());
 }
 
-TEST(BrokenBatches, NoIdLeadsOutOfTheFolder)
+TEST_F(BrokenBatches, NoIdLeadsOutOfTheFolder)
 {
-    const CTemporaryFolder folder;
     folder.write("lines", R"({"chart": "pie", "items": [], "id": "../out"})"
                           "\n"
                           R"({"chart": "pie", "items": [], "id": "/tmp/out"})");
-    EXPECT_EQ(runShell(folder, "tovangl-chart batch lines -o p").status, 1);
+    EXPECT_EQ(shell("tovangl-chart batch lines -o p").status, 1);
     EXPECT_THAT(folder.names(), Eq(Names{"lines", "p"}));
     EXPECT_TRUE(std::filesystem::is_empty(folder.pathOf("p")));
 }
 
-TEST(BrokenBatches, AFolderThatCannotBeWrittenIsToldBeforeAnythingIsDrawn)
+TEST_F(BrokenBatches, AFolderThatCannotBeWrittenIsToldBeforeAnythingIsDrawn)
 {
-    const CTemporaryFolder folder;
     folder.write("line", kLine);
-    const ShellResult result = runShell(folder, "tovangl-chart batch line -o /proc/nowhere");
+    const ShellResult result = shell("tovangl-chart batch line -o /proc/nowhere");
     EXPECT_EQ(result.status, 2);
     EXPECT_THAT(result.errors, HasSubstr("/proc/nowhere: "));
     EXPECT_THAT(result.errors, Not(HasSubstr("a.png")));

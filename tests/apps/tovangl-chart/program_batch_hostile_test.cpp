@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Lines that mean harm: each costs itself and little time, and leads to one answer.
+#include "apps/support/CProgramTest.h"
 #include "apps/support/batch_lines.h"
 
 #include <functional>
@@ -45,22 +46,21 @@ void PrintTo(const HostileLine& line, std::ostream* out)
     *out << line.name;
 }
 
-class HostileBatch : public ::testing::TestWithParam<HostileLine>
+class HostileBatch : public CProgramTest, public ::testing::WithParamInterface<HostileLine>
 {};
 
 TEST_P(HostileBatch, AnswersTheLineInTimeAndGoesOn)
 {
-    const CTemporaryFolder folder;
     folder.write("lines", GetParam().line() + '\n' + chartLine("last"));
-    const ShellResult result = runShell(folder, "timeout 60 tovangl-chart batch lines -o p");
+    const ShellResult result = shell("timeout 60 tovangl-chart batch lines -o p");
     EXPECT_LE(result.errors.size(), kLongestRecord);
     if (*GetParam().answer) {
         EXPECT_EQ(result.status, 1);
         EXPECT_THAT(result.errors, HasSubstr(std::string("\"reason\":\"") + GetParam().answer));
-        EXPECT_EQ(namesIn(folder, "p"), Names{"last.png"});
+        EXPECT_EQ(folder.names("p"), Names{"last.png"});
     } else {
         EXPECT_EQ(result.status, 0);
-        EXPECT_EQ(namesIn(folder, "p"), (Names{"last.png", "x.png"}));
+        EXPECT_EQ(folder.names("p"), (Names{"last.png", "x.png"}));
     }
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a batch needs of memory. Under a sanitizer a program needs far more.
-#include "apps/support/shell.h"
+#include "apps/support/CProgramTest.h"
 
 #include <gmock/gmock.h>
 #include <sstream>
@@ -11,13 +11,14 @@ namespace {
 constexpr const char* kLine =
     R"({"chart": "pie", "id": "a", "width": 400, "height": 300, "items": [{"value": 7}]})";
 
-TEST(LongBatches, HoldNoLineThatIsTooLong)
+using LongBatches = CProgramTest;
+
+TEST_F(LongBatches, HoldNoLineThatIsTooLong)
 {
-    const CTemporaryFolder folder;
     folder.write("line", kLine);
     const ShellResult result =
-        runShell(folder, "ulimit -v 1000000\n{ head -c 1500000000 /dev/zero; echo; cat line; } | "
-                         "tovangl-chart batch -o p --jobs 1");
+        shell("ulimit -v 1000000\n{ head -c 1500000000 /dev/zero; echo; cat line; } | "
+              "tovangl-chart batch -o p --jobs 1");
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
               "{\"line\":1,\"id\":null,\"reason\":\"the line has more than 16777216 bytes\"}\n");
@@ -44,11 +45,10 @@ lines 10001 60000 >&3
 resident
 )";
 
-TEST(LongBatches, KeepTheirMemory)
+TEST_F(LongBatches, KeepTheirMemory)
 {
     constexpr long kAllowedGrowth = 2048; // KiB
-    const CTemporaryFolder folder;
-    std::istringstream output(runShell(folder, kMeasureMemory).output);
+    std::istringstream output(shell(kMeasureMemory).output);
     long early = 0;
     long late = 0;
     ASSERT_TRUE(output >> early >> late);

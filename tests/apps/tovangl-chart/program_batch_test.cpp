@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Many charts from lines of JSON, as a shell draws them.
+#include "apps/support/CProgramTest.h"
 #include "apps/support/batch_lines.h"
 
 #include <filesystem>
@@ -41,40 +42,38 @@ constexpr const char* kRunningHost =
     "exec 3>in 4<out\n"
     "ask() { cat line >&3; timeout 20 head -n 1 <&4 >/dev/null; }\n";
 
-TEST(Batch, WritesAPictureForEachIdIntoANewFolder)
+using Batch = CProgramTest;
+
+TEST_F(Batch, WritesAPictureForEachIdIntoANewFolder)
 {
-    const CTemporaryFolder folder;
     const ShellResult result = runLines(folder, chartLine("a") + '\n' + chartLine("b"));
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.output + result.errors, IsEmpty());
-    EXPECT_THAT(namesIn(folder, "p"), Eq(Names{"a.png", "b.png"}));
+    EXPECT_THAT(folder.names("p"), Eq(Names{"a.png", "b.png"}));
 }
 
-TEST(Batch, DrawsWhatTheCommandOfTheChartDraws)
+TEST_F(Batch, DrawsWhatTheCommandOfTheChartDraws)
 {
-    const CTemporaryFolder folder;
     runLines(folder, chartLine("a", R"(, "theme": "dark", "bar_width": 9)"), "-o p --maps");
-    runShell(folder, "echo 7 x | tovangl-chart bars --size 120x90 --theme dark --bar-width 9 "
-                     "-o a.png --map a.json");
+    shell("echo 7 x | tovangl-chart bars --size 120x90 --theme dark --bar-width 9 "
+          "-o a.png --map a.json");
     EXPECT_EQ(folder.read("p/a.png"), folder.read("a.png"));
     EXPECT_EQ(folder.read("p/a.json"), folder.read("a.json"));
 }
 
-TEST(Batch, GoesOnAfterABadLine)
+TEST_F(Batch, GoesOnAfterABadLine)
 {
-    const CTemporaryFolder folder;
     const ShellResult result = runLines(folder, chartLine("a") + "oops\n" + chartLine("b"));
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(namesIn(folder, "p"), Eq(Names{"a.png", "b.png"}));
+    EXPECT_THAT(folder.names("p"), Eq(Names{"a.png", "b.png"}));
     const std::vector<Json> errors = records(result.errors);
     ASSERT_THAT(errors, SizeIs(1));
     EXPECT_EQ(errors[0],
               Json({{"line", 2}, {"id", nullptr}, {"reason", "not JSON: wrong at byte 1"}}));
 }
 
-TEST(Batch, WritesItsRecordsWhereTheOptionSays)
+TEST_F(Batch, WritesItsRecordsWhereTheOptionSays)
 {
-    const CTemporaryFolder folder;
     folder.write("bad", std::string(1000, 'x')); // longer than the record
     const ShellResult result =
         runLines(folder, chartLine("a", R"(, "text_color": "red")"), "-o p --errors bad");
@@ -85,19 +84,17 @@ TEST(Batch, WritesItsRecordsWhereTheOptionSays)
     EXPECT_THAT(record["reason"].get<std::string>(), StartsWith("/text_color: \"red\" is not"));
 }
 
-TEST(Batch, TellsAPictureWithoutItsChartAndWritesIt)
+TEST_F(Batch, TellsAPictureWithoutItsChartAndWritesIt)
 {
-    const CTemporaryFolder folder;
     const ShellResult result =
         runLines(folder, R"({"chart": "pie", "id": "a", "width": 5, "height": 5, "items": []})");
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(records(result.errors).at(0)["problem"].get<std::string>(), HasSubstr("no room"));
-    EXPECT_THAT(namesIn(folder, "p"), Eq(Names{"a.png"}));
+    EXPECT_THAT(folder.names("p"), Eq(Names{"a.png"}));
 }
 
-TEST(Batch, TheSecondOfTwoEqualIdsIsAnError)
+TEST_F(Batch, TheSecondOfTwoEqualIdsIsAnError)
 {
-    const CTemporaryFolder folder;
     const std::string lines = chartLine("a") + chartLine("a", R"(, "theme": "dark")");
     for (const char* options : {"-o p", "-o p --resume"}) {
         const ShellResult result = runLines(folder, lines, options);
@@ -108,17 +105,15 @@ TEST(Batch, TheSecondOfTwoEqualIdsIsAnError)
     EXPECT_EQ(folder.read("p/a.png"), folder.read("once/a.png"));
 }
 
-TEST(Batch, NeedsAnIdWhereFilesAreNamed)
+TEST_F(Batch, NeedsAnIdWhereFilesAreNamed)
 {
-    const CTemporaryFolder folder;
     const std::string line = R"({"chart": "pie", "items": [{"value": 1}]})";
     EXPECT_THAT(runLines(folder, line).errors, HasSubstr("/id: is missing"));
     EXPECT_EQ(runLines(folder, line, "--frames").status, 0);
 }
 
-TEST(Batch, IsTheSameWithAnyNumberOfThreads)
+TEST_F(Batch, IsTheSameWithAnyNumberOfThreads)
 {
-    const CTemporaryFolder folder;
     const std::string lines = manyLines(60) + "oops\n" + chartLine("last");
     for (const char* jobs : {"1", "2", "7"}) {
         const std::string number = jobs;
@@ -126,16 +121,15 @@ TEST(Batch, IsTheSameWithAnyNumberOfThreads)
         runLines(folder, lines, "--maps -o p" + number + " --jobs " + number + errors);
         runLines(folder, lines, "--frames --jobs " + number + " >f" + number);
     }
-    EXPECT_EQ(runShell(folder, "for n in 2 7; do diff -r p1 p$n && cmp f1 f$n && cmp e1 e$n || "
-                               "exit 1; done")
+    EXPECT_EQ(shell("for n in 2 7; do diff -r p1 p$n && cmp f1 f$n && cmp e1 e$n || "
+                    "exit 1; done")
                   .status,
               0);
-    EXPECT_THAT(namesIn(folder, "p1"), SizeIs(2 * 61));
+    EXPECT_THAT(folder.names("p1"), SizeIs(2 * 61));
 }
 
-TEST(Batch, FramesTellTheirLengthAndTheirRegions)
+TEST_F(Batch, FramesTellTheirLengthAndTheirRegions)
 {
-    const CTemporaryFolder folder;
     const std::string lines = chartLine("a") + "oops\n";
     runLines(folder, lines, "--maps -o p");
     const ShellResult result = runLines(folder, lines, "--frames");
@@ -154,9 +148,8 @@ TEST(Batch, FramesTellTheirLengthAndTheirRegions)
     EXPECT_EQ(refused["problem"], "not JSON: wrong at byte 1");
 }
 
-TEST(Batch, AFrameTellsWhyItsPictureHasNoChart)
+TEST_F(Batch, AFrameTellsWhyItsPictureHasNoChart)
 {
-    const CTemporaryFolder folder;
     const ShellResult result =
         runLines(folder, R"({"chart": "pie", "width": 5, "height": 5, "items": []})", "--frames");
     const Json header = Json::parse(result.output.substr(0, result.output.find('\n')));
@@ -164,30 +157,27 @@ TEST(Batch, AFrameTellsWhyItsPictureHasNoChart)
     EXPECT_GT(header["bytes"], 0);
 }
 
-TEST(Batch, FramesComeAtOnceWhileThePipeStaysOpen)
+TEST_F(Batch, FramesComeAtOnceWhileThePipeStaysOpen)
 {
-    const CTemporaryFolder folder;
     folder.write("line", chartLine("a"));
     const ShellResult result =
-        runShell(folder, std::string(kRunningHost) +
-                             "for i in 1 2 3; do ask && echo answer || exit 1; done");
+        shell(std::string(kRunningHost) + "for i in 1 2 3; do ask && echo answer || exit 1; done");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output, "answer\nanswer\nanswer\n");
 }
 
-TEST(Batch, ResumesWithoutDrawingWhatIsThere)
+TEST_F(Batch, ResumesWithoutDrawingWhatIsThere)
 {
-    const CTemporaryFolder folder;
     const std::string lines = manyLines(3);
     runLines(folder, lines, "--maps -o whole");
     runLines(folder, lines, "--maps -o p");
-    runShell(folder, "cp p/c1.png p/c0.png; rm p/c1.png p/c2.json");
+    shell("cp p/c1.png p/c0.png; rm p/c1.png p/c2.json");
     EXPECT_EQ(runLines(folder, lines, "--maps -o p --resume").status, 0);
     EXPECT_EQ(folder.read("p/c0.png"), folder.read("whole/c1.png"));
-    EXPECT_EQ(runShell(folder, "rm */c0.png; diff -r p whole").status, 0);
+    EXPECT_EQ(shell("rm */c0.png; diff -r p whole").status, 0);
 }
 
-class BatchFormat : public ::testing::TestWithParam<const char*>
+class BatchFormat : public CProgramTest, public ::testing::WithParamInterface<const char*>
 {};
 
 INSTANTIATE_TEST_SUITE_P(Batch, BatchFormat, ::testing::Values("png", "svg", "pdf"),
@@ -195,70 +185,61 @@ INSTANTIATE_TEST_SUITE_P(Batch, BatchFormat, ::testing::Values("png", "svg", "pd
 
 TEST_P(BatchFormat, IsThatOfTheCommandOfTheChart)
 {
-    const CTemporaryFolder folder;
     const std::string format = GetParam();
     runLines(folder, chartLine("a", R"(, "scale": 2)"), "-o p --maps --format " + format);
-    runShell(folder,
-             "echo 7 x | tovangl-chart bars --size 120x90 --scale 2 --map a.json -o a." + format);
-    EXPECT_EQ(namesIn(folder, "p"), (Names{"a." + format, "a.json"}));
+    shell("echo 7 x | tovangl-chart bars --size 120x90 --scale 2 --map a.json -o a." + format);
+    EXPECT_EQ(folder.names("p"), (Names{"a." + format, "a.json"}));
     EXPECT_EQ(folder.read("p/a." + format), folder.read("a." + format));
     EXPECT_EQ(folder.read("p/a.json"), folder.read("a.json"));
 }
 
 TEST_P(BatchFormat, IsTheSameInFramesAndWithAnyNumberOfThreads)
 {
-    const CTemporaryFolder folder;
     const std::string option = " --format " + std::string(GetParam());
     const std::string lines = manyLines(20) + "oops\n";
     runLines(folder, lines, "-o p --jobs 1" + option);
     const std::string frames = runLines(folder, lines, "--frames --jobs 3" + option).output;
-    for (const std::string& name : namesIn(folder, "p"))
+    for (const std::string& name : folder.names("p"))
         EXPECT_THAT(frames, HasSubstr("}\n" + folder.read("p/" + name))) << name;
-    EXPECT_THAT(namesIn(folder, "p"), SizeIs(20));
+    EXPECT_THAT(folder.names("p"), SizeIs(20));
 }
 
 TEST_P(BatchFormat, IsResumedWithFilesThatLostTheirEnd)
 {
-    const CTemporaryFolder folder;
     const std::string options = "--maps --format " + std::string(GetParam());
     const std::string lines = manyLines(4);
     runLines(folder, lines, options + " -o whole");
     runLines(folder, lines, options + " -o p");
-    runShell(folder,
-             "truncate -s 0 p/c0.*[gf]; truncate -s -1 p/c1.*[gf]; truncate -s -4 p/c2.json\n"
-             "sed -i 1i. p/c3.*[gf] && cp p/c3.*[gf] whole");
+    shell("truncate -s 0 p/c0.*[gf]; truncate -s -1 p/c1.*[gf]; truncate -s -4 p/c2.json\n"
+          "sed -i 1i. p/c3.*[gf] && cp p/c3.*[gf] whole");
     EXPECT_EQ(runLines(folder, lines, options + " -o p --resume").status, 0);
-    EXPECT_EQ(runShell(folder, "diff -r p whole").status, 0);
+    EXPECT_EQ(shell("diff -r p whole").status, 0);
 }
 
-TEST(Batch, ResumesInAnotherFormatBesideTheFirst)
+TEST_F(Batch, ResumesInAnotherFormatBesideTheFirst)
 {
-    const CTemporaryFolder folder;
     runLines(folder, manyLines(2));
     runLines(folder, manyLines(2), "-o p --resume --format svg");
-    EXPECT_EQ(namesIn(folder, "p"), (Names{"c0.png", "c0.svg", "c1.png", "c1.svg"}));
+    EXPECT_EQ(folder.names("p"), (Names{"c0.png", "c0.svg", "c1.png", "c1.svg"}));
 }
 
-TEST(Batch, DrawsChartsForPrintAsShapesToo)
+TEST_F(Batch, DrawsChartsForPrintAsShapesToo)
 {
-    const CTemporaryFolder folder;
     runLines(folder, chartLine("a", R"(, "print": 4)"), "-o p --maps --format svg");
     runLines(folder, chartLine("a"), "-o q --maps --format svg");
-    EXPECT_EQ(runShell(folder, "diff -r p q").status, 0);
+    EXPECT_EQ(shell("diff -r p q").status, 0);
 }
 
-TEST(Batch, LeadsFromItemsToTheirLinks)
+TEST_F(Batch, LeadsFromItemsToTheirLinks)
 {
-    const CTemporaryFolder folder;
     runLines(folder,
              R"({"chart": "pie", "id": "a", "items": [{"value": 1, "link": "a.html?b&c"}]})",
              "-o p --format svg");
     EXPECT_THAT(folder.read("p/a.svg"), HasSubstr("href=\"a.html?b&amp;c\""));
 }
 
-TEST(Batch, MapsAndFramesTellWhereItemsLead)
+TEST_F(Batch, MapsAndFramesTellWhereItemsLead)
 {
-    const CTemporaryFolder folder;
     const std::string line =
         R"({"chart": "bars", "id": "a", "items": [{"value": 1, "link": "#a"}, {"value": 2}]})";
     runLines(folder, line, "-o p --maps");
@@ -268,9 +249,8 @@ TEST(Batch, MapsAndFramesTellWhereItemsLead)
     EXPECT_THAT(runLines(folder, line, "--frames").output, HasSubstr(R"("link":"#a")"));
 }
 
-TEST(Batch, ALinkThatRunsAScriptCostsOnlyItsLine)
+TEST_F(Batch, ALinkThatRunsAScriptCostsOnlyItsLine)
 {
-    const CTemporaryFolder folder;
     const ShellResult result =
         runLines(folder, R"({"chart": "pie", "id": "a", "items": [{"value": 1, "link": "js:x"}]})"
                          "\n" +
@@ -278,15 +258,14 @@ TEST(Batch, ALinkThatRunsAScriptCostsOnlyItsLine)
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(records(result.errors).at(0)["reason"].get<std::string>(),
                 StartsWith("/items/0/link: \"js:x\" is not an address"));
-    EXPECT_EQ(namesIn(folder, "p"), Names{"b.png"});
+    EXPECT_EQ(folder.names("p"), Names{"b.png"});
 }
 
-TEST(Batch, AKilledRunIsResumedToTheSameFiles)
+TEST_F(Batch, AKilledRunIsResumedToTheSameFiles)
 {
-    const CTemporaryFolder folder;
     folder.write("lines", manyLines(400));
-    const ShellResult result = runShell(
-        folder,
+    const ShellResult result = shell(
+
         "tovangl-chart batch lines --maps -o whole\n"
         "for milliseconds in $(shuf -i 20-250 -n 6); do\n"
         "    echo killed after $milliseconds ms\n"
@@ -300,24 +279,21 @@ TEST(Batch, AKilledRunIsResumedToTheSameFiles)
 }
 
 // Its answer shows that it runs, and has nothing left to do but to wait.
-TEST(Batch, EndsOnASignalWhileItWaits)
+TEST_F(Batch, EndsOnASignalWhileItWaits)
 {
-    const CTemporaryFolder folder;
     folder.write("line", chartLine("a"));
-    const ShellResult result =
-        runShell(folder, std::string(kRunningHost) + "ask; kill -TERM $!; wait $!");
+    const ShellResult result = shell(std::string(kRunningHost) + "ask; kill -TERM $!; wait $!");
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors, "tovangl-chart: interrupted\n");
 }
 
-TEST(Batch, ShowsItsProgressOnATerminal)
+TEST_F(Batch, ShowsItsProgressOnATerminal)
 {
     if (!hasTerminals())
         GTEST_SKIP() << "no terminal can be opened here";
-    const CTemporaryFolder folder;
     folder.write("lines", manyLines(600));
     const ShellResult result =
-        runShell(folder, "script -qec 'tovangl-chart batch lines -o p --jobs 1' /dev/null");
+        shell("script -qec 'tovangl-chart batch lines -o p --jobs 1' /dev/null");
     EXPECT_THAT(result.output, ContainsRegex(" a second, 0 errors, [0-9:]+ left"));
     EXPECT_THAT(result.output, EndsWith("\r\x1b[K"));
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What tovangl-chart doctor finds.
-#include "apps/support/shell.h"
+#include "apps/support/CProgramTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,10 +16,11 @@ using ::testing::Not;
 constexpr const char* kWithoutFonts =
     "echo '<fontconfig/>' >none.conf; FONTCONFIG_FILE=$PWD/none.conf ";
 
-TEST(Doctor, IsContentWhereChartsCanBeDrawn)
+using Doctor = CProgramTest;
+
+TEST_F(Doctor, IsContentWhereChartsCanBeDrawn)
 {
-    const CTemporaryFolder folder;
-    const ShellResult result = runShell(folder, "tovangl-chart doctor --font 'DejaVu Sans'");
+    const ShellResult result = shell("tovangl-chart doctor --font 'DejaVu Sans'");
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.output, AllOf(HasSubstr("good  Qt: "), HasSubstr("good  platform plugin: "),
                                      HasSubstr("good  font \"DejaVu Sans\": "),
@@ -27,42 +28,36 @@ TEST(Doctor, IsContentWhereChartsCanBeDrawn)
     EXPECT_THAT(result.errors, IsEmpty());
 }
 
-TEST(Doctor, NamesAPackageWhereThereIsNoFont)
+TEST_F(Doctor, NamesAPackageWhereThereIsNoFont)
 {
-    const CTemporaryFolder folder;
-    const ShellResult result =
-        runShell(folder, kWithoutFonts + std::string("tovangl-chart doctor"));
+    const ShellResult result = shell(kWithoutFonts + std::string("tovangl-chart doctor"));
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.output, HasSubstr("bad   default font: no font found; install the package "
                                          "fonts-dejavu-core"));
 }
 
-TEST(Doctor, NamesTheFamilyThatReplacesAnother)
+TEST_F(Doctor, NamesTheFamilyThatReplacesAnother)
 {
-    const CTemporaryFolder folder;
-    const ShellResult result = runShell(folder, "tovangl-chart doctor --font 'No Such'");
+    const ShellResult result = shell("tovangl-chart doctor --font 'No Such'");
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.output, HasSubstr("bad   font \"No Such\": not there, and replaced by "));
 }
 
-TEST(Doctor, FindsTheFamilyOfAFile)
+TEST_F(Doctor, FindsTheFamilyOfAFile)
 {
-    const CTemporaryFolder folder;
-    const ShellResult result =
-        runShell(folder, kWithoutFonts + std::string("tovangl-chart doctor --font-file "
-                                                     "/usr/share/fonts/truetype/dejavu/"
-                                                     "DejaVuSerif.ttf"));
+    const ShellResult result = shell(kWithoutFonts + std::string("tovangl-chart doctor --font-file "
+                                                                 "/usr/share/fonts/truetype/dejavu/"
+                                                                 "DejaVuSerif.ttf"));
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.output, HasSubstr("good  font \"DejaVu Serif\": "));
 }
 
-TEST(Doctor, FindsThatThePlatformPluginIsMissing)
+TEST_F(Doctor, FindsThatThePlatformPluginIsMissing)
 {
-    const CTemporaryFolder folder;
     const ShellResult result =
-        runShell(folder, "cp \"$(command -v tovangl-chart)\" . && mkdir plugins && "
-                         "printf '[Paths]\\nPrefix = .\\nPlugins = plugins\\n' >qt.conf && "
-                         "./tovangl-chart doctor");
+        shell("cp \"$(command -v tovangl-chart)\" . && mkdir plugins && "
+              "printf '[Paths]\\nPrefix = .\\nPlugins = plugins\\n' >qt.conf && "
+              "./tovangl-chart doctor");
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.output, AllOf(HasSubstr("bad   platform plugin: "), HasSubstr("libqt"),
                                      HasSubstr("bad   picture: ")));

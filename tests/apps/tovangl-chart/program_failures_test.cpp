@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Whatever stops the program is one line on standard error, and leaves no file behind.
+#include "apps/support/CProgramTest.h"
 #include "apps/support/failing_commands.h"
 
 #include <cstdlib>
@@ -12,18 +13,15 @@ namespace {
 
 using ::testing::Eq;
 
-using Names = std::set<std::string>;
-
 constexpr const char* kItems = "3 a\n2 b\n1 c\n";
 
-class Failure : public ::testing::TestWithParam<FailingCommand>
+class Failure : public CProgramTest, public ::testing::WithParamInterface<FailingCommand>
 {};
 
 TEST_P(Failure, IsOneLineAndLeavesNoFile)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
-    expectOneLine(runShell(folder, GetParam().command), GetParam().message);
+    expectOneLine(shell(GetParam().command), GetParam().message);
     EXPECT_THAT(folder.names(), Eq(Names{"items"}));
 }
 
@@ -150,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(
                        "--output: the file has no name"}),
     caseName);
 
-class PictureWithoutRoom : public ::testing::TestWithParam<const char*>
+class PictureWithoutRoom : public CProgramTest, public ::testing::WithParamInterface<const char*>
 {};
 
 INSTANTIATE_TEST_SUITE_P(Charts, PictureWithoutRoom, ::testing::Values("pie", "bars", "hbars"),
@@ -158,35 +156,33 @@ INSTANTIATE_TEST_SUITE_P(Charts, PictureWithoutRoom, ::testing::Values("pie", "b
 
 TEST_P(PictureWithoutRoom, IsWrittenAndToldInOneLine)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
-    const ShellResult result = runShell(folder, "tovangl-chart " + std::string(GetParam()) +
-                                                    " --size 15x15 items -o x.png");
+    const ShellResult result =
+        shell("tovangl-chart " + std::string(GetParam()) + " --size 15x15 items -o x.png");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, "tovangl-chart: 15x15: The picture has no room for the chart.\n");
     EXPECT_THAT(folder.names(), Eq(Names{"items", "x.png"}));
 }
 
-TEST(Failures, LeaveTheOldPicture)
+using Failures = CProgramTest;
+
+TEST_F(Failures, LeaveTheOldPicture)
 {
-    const CTemporaryFolder folder;
     folder.write("x.png", "old");
-    runShell(folder, "echo oops | tovangl-chart pie -o x.png");
-    runShell(folder, "ulimit -f 1; echo 1 a | tovangl-chart pie -o x.png");
+    shell("echo oops | tovangl-chart pie -o x.png");
+    shell("ulimit -f 1; echo 1 a | tovangl-chart pie -o x.png");
     EXPECT_EQ(folder.read("x.png"), "old");
     EXPECT_THAT(folder.names(), Eq(Names{"x.png"}));
 }
 
-TEST(Failures, ATerminalIsNoPlaceForAPicture)
+TEST_F(Failures, ATerminalIsNoPlaceForAPicture)
 {
     if (!hasTerminals())
         GTEST_SKIP() << "no terminal can be opened here";
     const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
     ASSERT_EQ(::grantpt(terminal) + ::unlockpt(terminal), 0);
-    const CTemporaryFolder folder;
     const std::string name = ::ptsname(terminal);
-    expectOneLine(runShell(folder, "echo 1 a | tovangl-chart pie >" + name),
-                  "standard output is a terminal");
+    expectOneLine(shell("echo 1 a | tovangl-chart pie >" + name), "standard output is a terminal");
     ::close(terminal);
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the program says about itself, and what its manual and completions say about it.
-#include "apps/support/shell.h"
+#include "apps/support/CProgramTest.h"
 #include <tovangl/Compression.h>
 #include <tovangl/Setting.h>
 
@@ -29,35 +29,6 @@ struct Command
 constexpr Command kCommands[] = {
     {"pie", Setting::Pie}, {"bars", Setting::VerticalBars}, {"hbars", Setting::HorizontalBars}};
 
-TEST(Help, TeachesWithExamples)
-{
-    const CTemporaryFolder folder;
-    for (const char* command : {"", " pie", " bars", " hbars"}) {
-        const ShellResult help =
-            runShell(folder, std::string("tovangl-chart") + command + " --help");
-        EXPECT_EQ(help.status, 0);
-        EXPECT_THAT(help.errors, IsEmpty());
-        EXPECT_THAT(help.output, HasSubstr("Examples:\n  "));
-    }
-    EXPECT_THAT(runShell(folder, "tovangl-chart bars -h").output, HasSubstr("--value-axis"));
-}
-
-TEST(Help, TellsTheVersion)
-{
-    const CTemporaryFolder folder;
-    const ShellResult result = runShell(folder, "tovangl-chart --version");
-    EXPECT_EQ(result.status, 0);
-    EXPECT_THAT(result.output, StartsWith("tovangl-chart "));
-    EXPECT_THAT(result.output, EndsWith("\n"));
-}
-
-TEST(Help, TellsWithTheVersionWhatFastCompressesWith)
-{
-    const CTemporaryFolder folder;
-    EXPECT_THAT(runShell(folder, "tovangl-chart --version").output,
-                HasSubstr(std::string("\n--fast compresses with ") + fastCompressor() + "\n"));
-}
-
 /// Everything in a text that looks like a long option.
 Options optionsIn(const std::string& text, const char* pattern = R"((--[a-z][a-z-]*))")
 {
@@ -68,12 +39,50 @@ Options optionsIn(const std::string& text, const char* pattern = R"((--[a-z][a-z
     return options;
 }
 
-/// The long options in the help of a command.
-Options optionsOf(const char* command)
+class Help : public CProgramTest
 {
-    const CTemporaryFolder folder;
-    return optionsIn(runShell(folder, std::string("tovangl-chart ") + command + " --help").output,
-                     "^  (?:-.,)?(--[a-z-]+)");
+protected:
+    /// The long options in the help of a command.
+    Options optionsOf(const char* command) const
+    {
+        return optionsIn(shell(std::string("tovangl-chart ") + command + " --help").output,
+                         "^  (?:-.,)?(--[a-z-]+)");
+    }
+    /// What bash offers after "tovangl-chart", some words, and the start of another.
+    std::string completions(const std::string& words) const
+    {
+        return shell("bash -c 'source \"" TOVANGL_APPS_FOLDER "/completions/tovangl-chart.bash\"\n"
+                     "COMP_WORDS=(tovangl-chart " +
+                     words +
+                     ") COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
+                     "_tovangl_chart\necho \"${COMPREPLY[@]}\"'")
+            .output;
+    }
+};
+
+TEST_F(Help, TeachesWithExamples)
+{
+    for (const char* command : {"", " pie", " bars", " hbars"}) {
+        const ShellResult help = shell(std::string("tovangl-chart") + command + " --help");
+        EXPECT_EQ(help.status, 0);
+        EXPECT_THAT(help.errors, IsEmpty());
+        EXPECT_THAT(help.output, HasSubstr("Examples:\n  "));
+    }
+    EXPECT_THAT(shell("tovangl-chart bars -h").output, HasSubstr("--value-axis"));
+}
+
+TEST_F(Help, TellsTheVersion)
+{
+    const ShellResult result = shell("tovangl-chart --version");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.output, StartsWith("tovangl-chart "));
+    EXPECT_THAT(result.output, EndsWith("\n"));
+}
+
+TEST_F(Help, TellsWithTheVersionWhatFastCompressesWith)
+{
+    EXPECT_THAT(shell("tovangl-chart --version").output,
+                HasSubstr(std::string("\n--fast compresses with ") + fastCompressor() + "\n"));
 }
 
 /// A file beside the programs' sources, without what troff wants escaped, and with the dashes that
@@ -93,7 +102,7 @@ std::string optionOf(const Setting& setting)
     return "--" + name;
 }
 
-TEST(Help, ListsEverySettingOfTheChart)
+TEST_F(Help, ListsEverySettingOfTheChart)
 {
     for (const Command& command : kCommands) {
         const Options options = optionsOf(command.name);
@@ -103,7 +112,7 @@ TEST(Help, ListsEverySettingOfTheChart)
     }
 }
 
-class Documentation : public ::testing::TestWithParam<const char*>
+class Documentation : public Help, public ::testing::WithParamInterface<const char*>
 {};
 
 TEST_P(Documentation, NamesEveryOptionAndNoOther)
@@ -127,20 +136,9 @@ INSTANTIATE_TEST_SUITE_P(Help, Documentation,
                                            "completions/_tovangl-chart",
                                            "completions/tovangl-chart.fish"));
 
-/// What bash offers after "tovangl-chart", some words, and the start of another.
-std::string completions(const std::string& words)
-{
-    const CTemporaryFolder folder;
-    return runShell(folder, "bash -c 'source \"" TOVANGL_APPS_FOLDER
-                            "/completions/tovangl-chart.bash\"\n"
-                            "COMP_WORDS=(tovangl-chart " +
-                                words +
-                                ") COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
-                                "_tovangl_chart\necho \"${COMPREPLY[@]}\"'")
-        .output;
-}
+using Completion = Help;
 
-TEST(Completion, OffersTheOptionsOfTheCommandAndNoOthers)
+TEST_F(Completion, OffersTheOptionsOfTheCommandAndNoOthers)
 {
     for (const Command& command : kCommands)
         EXPECT_EQ(optionsIn(completions(std::string(command.name) + " --")),
@@ -149,13 +147,13 @@ TEST(Completion, OffersTheOptionsOfTheCommandAndNoOthers)
     EXPECT_EQ(optionsIn(completions("batch --")), optionsOf("batch"));
 }
 
-TEST(Completion, OffersOptionsAfterFlagsAndValues)
+TEST_F(Completion, OffersOptionsAfterFlagsAndValues)
 {
     EXPECT_EQ(completions("pie --bold --wit"), "--without-sizes\n");
     EXPECT_EQ(completions("pie --theme dark --wit"), "--without-sizes\n");
 }
 
-TEST(Completion, OffersTheThemesOfTheTable)
+TEST_F(Completion, OffersTheThemesOfTheTable)
 {
     for (const Setting& setting : settings()) {
         if (setting.name != std::string("theme"))
@@ -166,7 +164,7 @@ TEST(Completion, OffersTheThemesOfTheTable)
     }
 }
 
-TEST(Completion, OffersNothingInPlaceOfATextOrANumber)
+TEST_F(Completion, OffersNothingInPlaceOfATextOrANumber)
 {
     EXPECT_EQ(completions("pie --title --"), "\n");
     EXPECT_EQ(completions("bars --bar-width --"), "\n");

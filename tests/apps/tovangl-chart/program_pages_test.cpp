@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The pages that the program writes.
 #include "apps/support/CHtmlPage.h"
-#include "apps/support/shell.h"
+#include "apps/support/CProgramTest.h"
+#include "support/png_decoding.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -20,32 +21,27 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-using Names = std::set<std::string>;
-
 constexpr const char* kItems = "60 a\t#c81e1e\n40 \"><script>alert(1)</script>\t#1e1ec8\n";
 constexpr const char* kAddress = "data:image/png;base64,";
 
-class ProgramPage : public ::testing::TestWithParam<const char*>
+class ProgramPage : public CProgramTest, public ::testing::WithParamInterface<const char*>
 {
 protected:
-    ProgramPage() { m_folder.write("items", kItems); }
+    ProgramPage() { folder.write("items", kItems); }
 
-    /// Runs a command that must succeed in silence.
+    /// Runs the command of the chart, which must succeed in silence.
     void run(const std::string& arguments) const
     {
-        const ShellResult result =
-            runShell(m_folder, std::string("tovangl-chart ") + GetParam() + ' ' + arguments);
-        EXPECT_EQ(result.status, 0);
-        EXPECT_THAT(result.output + result.errors, IsEmpty());
+        runWell(std::string("tovangl-chart ") + GetParam() + ' ' + arguments);
     }
-    CHtmlPage page() const { return CHtmlPage(m_folder.read("x.html")); }
+    CHtmlPage page() const { return CHtmlPage(folder.read("x.html")); }
     QImage picture() const { return decode(page().all("img").at(0)["src"]); }
     std::string sourceSet() const { return page().all("img").at(0)["srcset"]; }
     static QImage decode(const std::string& source)
     {
         EXPECT_THAT(source, StartsWith(kAddress));
         const std::string text = source.substr(std::string(kAddress).size());
-        return QImage::fromData(QByteArray::fromBase64(QByteArray::fromStdString(text)), "PNG");
+        return decodePng(QByteArray::fromBase64(QByteArray::fromStdString(text)).toStdString());
     }
     /// The picture for dense displays, which the set of sources ends with.
     QImage densePicture(const std::string& density) const
@@ -62,15 +58,6 @@ protected:
             links.push_back(link["href"]);
         return links;
     }
-    static std::vector<std::string> textsOf(const CHtmlPage& page, const char* tag)
-    {
-        std::vector<std::string> texts;
-        for (const HtmlElement& element : page.all(tag))
-            texts.push_back(element.text);
-        return texts;
-    }
-
-    CTemporaryFolder m_folder;
 };
 
 INSTANTIATE_TEST_SUITE_P(Pages, ProgramPage, ::testing::Values("pie", "bars", "hbars"),
@@ -79,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, ProgramPage, ::testing::Values("pie", "bars", "h
 TEST_P(ProgramPage, NeedsNoOtherFile)
 {
     run("items --map x.html");
-    EXPECT_EQ(m_folder.names(), (Names{"items", "x.html"}));
+    EXPECT_EQ(folder.names(), (Names{"items", "x.html"}));
     EXPECT_EQ(picture().size(), QSize(800, 600));
     EXPECT_EQ(page().error(), "");
 }
@@ -87,7 +74,7 @@ TEST_P(ProgramPage, NeedsNoOtherFile)
 TEST_P(ProgramPage, ShowsThePictureThatAFileGets)
 {
     run("items --map x.html -o x.png");
-    EXPECT_EQ(picture(), QImage::fromData(QByteArray::fromStdString(m_folder.read("x.png"))));
+    EXPECT_EQ(picture(), decodePng(folder.read("x.png")));
 }
 
 TEST_P(ProgramPage, MapsACaptionAndAShapeOfEveryItem)
@@ -106,8 +93,7 @@ TEST_P(ProgramPage, IsCrispOnDenseDisplays)
     run("items --map x.html --size 400x300");
     EXPECT_EQ(densePicture("2x").size(), QSize(800, 600));
     run("items -o x.png --size 400x300 --scale 2");
-    EXPECT_EQ(densePicture("2x"),
-              QImage::fromData(QByteArray::fromStdString(m_folder.read("x.png"))));
+    EXPECT_EQ(densePicture("2x"), decodePng(folder.read("x.png")));
 }
 
 TEST_P(ProgramPage, ShowsAScaledChartInThePixelsOfItsSize)
@@ -118,8 +104,7 @@ TEST_P(ProgramPage, ShowsAScaledChartInThePixelsOfItsSize)
     EXPECT_EQ(picture().size(), QSize(800, 600));
     EXPECT_EQ(page().all("img").at(0)["width"], "800");
     EXPECT_EQ(page().all("area").at(3)["coords"], coordinates);
-    EXPECT_EQ(densePicture("3x"),
-              QImage::fromData(QByteArray::fromStdString(m_folder.read("x.png"))));
+    EXPECT_EQ(densePicture("3x"), decodePng(folder.read("x.png")));
 }
 
 TEST_P(ProgramPage, HasOnePictureAtScaleOneAndInPrint)
@@ -144,29 +129,29 @@ TEST_P(ProgramPage, LeadsFromTheOthersToTheirRow)
     ASSERT_EQ(areas.size(), 4U);
     EXPECT_EQ(areas[3]["title"], "Rest: 40");
     EXPECT_EQ(areas[3]["href"], "#item-3");
-    EXPECT_EQ(page().all("bdi").at(2).text, "Rest");
+    EXPECT_EQ(page().texts("bdi").at(2), "Rest");
 }
 
 TEST_P(ProgramPage, HasTheNameOfTheFileAsItsTitle)
 {
     run("items --map '<b>&.html'");
-    const CHtmlPage page(m_folder.read("<b>&.html"));
+    const CHtmlPage page(folder.read("<b>&.html"));
     EXPECT_EQ(page.error(), "");
-    EXPECT_EQ(page.all("h1").at(0).text, "<b>&");
+    EXPECT_EQ(page.texts("h1").at(0), "<b>&");
 }
 
 TEST_P(ProgramPage, HasTheTitleOfTheChartAsItsTitle)
 {
     run("items --map x.html --title '<b>Sales & more'");
     EXPECT_EQ(page().error(), "");
-    EXPECT_EQ(page().all("h1").at(0).text, "<b>Sales & more");
-    EXPECT_EQ(page().all("title").at(0).text, "<b>Sales & more");
+    EXPECT_EQ(page().texts("h1").at(0), "<b>Sales & more");
+    EXPECT_EQ(page().texts("title").at(0), "<b>Sales & more");
 }
 
 TEST_P(ProgramPage, HoldsThePictureAsSvgWhereAskedFor)
 {
     run("items --map x.html --svg");
-    EXPECT_EQ(m_folder.names(), (Names{"items", "x.html"}));
+    EXPECT_EQ(folder.names(), (Names{"items", "x.html"}));
     EXPECT_EQ(page().error(), "");
     EXPECT_EQ(page().all("svg").at(0)["width"], "800");
     EXPECT_THAT(page().all("img"), IsEmpty());
@@ -179,14 +164,14 @@ TEST_P(ProgramPage, LinksTheItemsOfAnSvgPictureToTheirRows)
     EXPECT_THAT(links(), ElementsAre("#item-1", "#item-2"));
     EXPECT_TRUE(page().hasId("item-1"));
     EXPECT_TRUE(page().hasId("item-2"));
-    EXPECT_THAT(textsOf(page(), "title"), Contains("a: 60"));
+    EXPECT_THAT(page().texts("title"), Contains("a: 60"));
 }
 
 TEST_P(ProgramPage, LinksTheOthersOfAnSvgPictureToTheirRow)
 {
     run("items --map x.html --svg --threshold 50 --others Rest");
     EXPECT_THAT(links(), ElementsAre("#item-1", "#item-3"));
-    EXPECT_EQ(page().all("bdi").at(2).text, "Rest");
+    EXPECT_EQ(page().texts("bdi").at(2), "Rest");
 }
 
 TEST_P(ProgramPage, LeadsFromTheOthersToTheAddressThatTheyAreGiven)
@@ -201,32 +186,32 @@ TEST_P(ProgramPage, LeadsFromTheOthersToTheAddressThatTheyAreGiven)
 TEST_P(ProgramPage, HasTheSameTableWithEitherPicture)
 {
     run("items --map x.html");
-    const auto cells = textsOf(page(), "td");
-    const auto names = textsOf(page(), "bdi");
+    const auto cells = page().texts("td");
+    const auto names = page().texts("bdi");
     run("items --map x.html --svg");
-    EXPECT_EQ(textsOf(page(), "td"), cells);
-    EXPECT_EQ(textsOf(page(), "bdi"), names);
+    EXPECT_EQ(page().texts("td"), cells);
+    EXPECT_EQ(page().texts("bdi"), names);
 }
 
 TEST_P(ProgramPage, HoldsThePictureOfAnSvgFileButItsLinks)
 {
     run("items --map x.html --svg -o x.svg");
-    EXPECT_THAT(m_folder.read("x.svg"), Not(HasSubstr("href")));
-    const CHtmlPage picture("<!DOCTYPE html>\n" + m_folder.read("x.svg"));
-    EXPECT_EQ(textsOf(picture, "text"), textsOf(page(), "text"));
-    EXPECT_EQ(picture.all("desc").at(0).text, page().all("desc").at(0).text);
+    EXPECT_THAT(folder.read("x.svg"), Not(HasSubstr("href")));
+    const CHtmlPage picture("<!DOCTYPE html>\n" + folder.read("x.svg"));
+    EXPECT_EQ(picture.texts("text"), page().texts("text"));
+    EXPECT_EQ(picture.texts("desc").at(0), page().texts("desc").at(0));
 }
 
 TEST_P(ProgramPage, ShowsAnSvgPictureInThePixelsOfItsSizeWhateverTheScaleOfItsFile)
 {
     run("items --map x.html --svg --scale 2 -o x.svg");
     EXPECT_EQ(page().all("svg").at(0)["width"], "800");
-    EXPECT_THAT(m_folder.read("x.svg"), HasSubstr(" width=\"1600\""));
+    EXPECT_THAT(folder.read("x.svg"), HasSubstr(" width=\"1600\""));
 }
 
 TEST_P(ProgramPage, IsDarkOnDarkDisplaysWhereItsPictureIs)
 {
-    const auto styleOfPage = [this] { return page().all("style").at(0).text; };
+    const auto styleOfPage = [this] { return page().texts("style").at(0); };
     run("items --map x.html --svg --follow-display");
     EXPECT_THAT(styleOfPage(), HasSubstr("prefers-color-scheme: dark"));
     for (const char* options : {"--svg", "--follow-display"}) {
@@ -238,25 +223,25 @@ TEST_P(ProgramPage, IsDarkOnDarkDisplaysWhereItsPictureIs)
 TEST_P(ProgramPage, StandsBesideAPictureOfAnyFormat)
 {
     run("items --map x.html --svg -o x.png");
-    EXPECT_FALSE(QImage::fromData(QByteArray::fromStdString(m_folder.read("x.png"))).isNull());
+    EXPECT_FALSE(decodePng(folder.read("x.png")).isNull());
     EXPECT_EQ(page().all("svg").size(), 1U);
     run("items --map x.html --svg -o x.pdf");
-    EXPECT_THAT(m_folder.read("x.pdf"), StartsWith("%PDF-"));
+    EXPECT_THAT(folder.read("x.pdf"), StartsWith("%PDF-"));
 }
 
 TEST_P(ProgramPage, EscapesHostileTextsInAnSvgPicture)
 {
     constexpr const char* kHostile = "</title></svg><script>alert(1)</script>&amp;\"'";
-    m_folder.write("items", "60 " + std::string(kHostile) + "\n40 <img src=x onerror=alert(1)>\n");
-    m_folder.write("title", kHostile);
+    folder.write("items", "60 " + std::string(kHostile) + "\n40 <img src=x onerror=alert(1)>\n");
+    folder.write("title", kHostile);
     run("items --svg --map '\"><script>.html' --title \"$(cat title)\" --font \"$(cat title)\" "
         "2>/dev/null");
-    const CHtmlPage page(m_folder.read("\"><script>.html"));
+    const CHtmlPage page(folder.read("\"><script>.html"));
     EXPECT_EQ(page.error(), "");
     EXPECT_THAT(page.all("script"), IsEmpty());
     EXPECT_THAT(page.all("img"), IsEmpty());
     EXPECT_EQ(page.all("svg").size(), 1U);
-    EXPECT_EQ(page.all("h1").at(0).text, kHostile);
+    EXPECT_EQ(page.texts("h1").at(0), kHostile);
 }
 
 } // namespace

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The pictures and maps that the program writes.
-#include "apps/support/shell.h"
-
-#include <QByteArray>
-#include <QImage>
+#include "apps/support/CProgramTest.h"
+#include "support/pixels.h"
+#include "support/png_decoding.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -12,54 +11,35 @@ namespace tovangl::program {
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::StartsWith;
 using Json = nlohmann::json;
 
 constexpr const char* kItems =
     "4000 first\n3000 second with a long name\n2000 third\n1000 fourth\n";
 
-/// Runs a command that must succeed in silence.
-void runWell(const CTemporaryFolder& folder, const std::string& command)
+class Pictures : public CProgramTest
 {
-    const ShellResult result = runShell(folder, command);
-    EXPECT_EQ(result.status, 0) << command;
-    EXPECT_THAT(result.errors, IsEmpty());
-}
-
-QImage decode(const std::string& png)
-{
-    return QImage::fromData(QByteArray::fromStdString(png), "PNG")
-        .convertToFormat(QImage::Format_RGB32);
-}
-
-/// The picture that the program draws of some items.
-QImage draw(const std::string& arguments, const std::string& items = kItems)
-{
-    const CTemporaryFolder folder;
-    folder.write("items", items);
-    runWell(folder, "tovangl-chart " + arguments + " items -o x.png");
-    return decode(folder.read("x.png"));
-}
-
-/// The picture and the map of it.
-std::pair<QImage, Json> drawWithMap(const std::string& arguments, const std::string& items)
-{
-    const CTemporaryFolder folder;
-    folder.write("items", items);
-    runWell(folder, "tovangl-chart " + arguments + " items -o x.png --map x.json");
-    return {decode(folder.read("x.png")), Json::parse(folder.read("x.json"))};
-}
+protected:
+    /// The picture that the program draws of some items.
+    QImage draw(const std::string& arguments, const std::string& items = kItems) const
+    {
+        folder.write("items", items);
+        runWell("tovangl-chart " + arguments + " items -o x.png");
+        return decodePng(folder.read("x.png"));
+    }
+    /// The picture and the map of it.
+    std::pair<QImage, Json> drawWithMap(const std::string& arguments,
+                                        const std::string& items) const
+    {
+        folder.write("items", items);
+        runWell("tovangl-chart " + arguments + " items -o x.png --map x.json");
+        return {decodePng(folder.read("x.png")), Json::parse(folder.read("x.json"))};
+    }
+};
 
 bool showsColor(const QImage& picture, QRgb color)
 {
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixel(x, y) == color)
-                return true;
-        }
-    }
-    return false;
+    return !extentOf(picture, color).isNull();
 }
 
 /// The colour so far from the left and the top of a rectangle, as a share of its sides.
@@ -77,32 +57,29 @@ QRgb middleOf(const QImage& picture, const Json& rectangle)
     return colorIn(picture, rectangle, kHalf);
 }
 
-TEST(Pictures, ThePipelineOfTheManualWorks)
+TEST_F(Pictures, ThePipelineOfTheManualWorks)
 {
-    const CTemporaryFolder folder;
-    runWell(folder,
-            "mkdir -p usr/bin usr/lib; echo 1 >usr/bin/a; head -c 9999 /dev/zero >usr/lib/b\n"
+    runWell("mkdir -p usr/bin usr/lib; echo 1 >usr/bin/a; head -c 9999 /dev/zero >usr/lib/b\n"
             "du -b -d1 usr | tovangl-chart pie -o usr.png --map usr.json");
-    EXPECT_FALSE(decode(folder.read("usr.png")).isNull());
+    EXPECT_FALSE(decodePng(folder.read("usr.png")).isNull());
     const Json map = Json::parse(folder.read("usr.json"));
     ASSERT_EQ(map["items"].size(), 3U);
     EXPECT_EQ(map["items"][2]["caption"], "usr");
 }
 
-TEST(Pictures, StandardOutputGetsWhatAFileGets)
+TEST_F(Pictures, StandardOutputGetsWhatAFileGets)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
-    runWell(folder, "tovangl-chart pie items -o a.png");
-    runWell(folder, "tovangl-chart pie items >b.png");
-    runWell(folder, "tovangl-chart pie <items | cat >c.png");
-    runWell(folder, "tovangl-chart pie -o /dev/stdout - <items >d.png");
-    runWell(folder, "tovangl-chart pie -o /dev/stdout items | cat >e.png");
+    runWell("tovangl-chart pie items -o a.png");
+    runWell("tovangl-chart pie items >b.png");
+    runWell("tovangl-chart pie <items | cat >c.png");
+    runWell("tovangl-chart pie -o /dev/stdout - <items >d.png");
+    runWell("tovangl-chart pie -o /dev/stdout items | cat >e.png");
     for (const char* name : {"b.png", "c.png", "d.png", "e.png"})
         EXPECT_EQ(folder.read(name), folder.read("a.png")) << name;
 }
 
-class EveryChart : public ::testing::TestWithParam<const char*>
+class EveryChart : public Pictures, public ::testing::WithParamInterface<const char*>
 {
 protected:
     [[nodiscard]] std::string chart() const { return GetParam(); }
@@ -147,13 +124,11 @@ constexpr FormatCase kFormatCases[] = {{"", "x.png", kPng},
                                        {"--format pdf", "x.png", kPdf},
                                        {"--format pdf --format svg", "x", kSvg}};
 
-TEST(Pictures, HaveTheFormatOfTheOptionOrElseOfTheName)
+TEST_F(Pictures, HaveTheFormatOfTheOptionOrElseOfTheName)
 {
     for (const FormatCase& format : kFormatCases) {
-        const CTemporaryFolder folder;
         folder.write("items", kItems);
-        runWell(folder,
-                std::string("tovangl-chart pie items ") + format.options + " -o " + format.file);
+        runWell(std::string("tovangl-chart pie items ") + format.options + " -o " + format.file);
         EXPECT_THAT(folder.read(format.file), StartsWith(format.beginning))
             << format.options << ' ' << format.file;
     }
@@ -161,12 +136,11 @@ TEST(Pictures, HaveTheFormatOfTheOptionOrElseOfTheName)
 
 TEST_P(EveryChart, HasTheSameBytesInAFileAndOnStandardOutput)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
     for (const char* format : {"png", "svg", "pdf"}) {
         const std::string command = "tovangl-chart " + chart() + " items";
-        runWell(folder, command + " -o x." + format);
-        EXPECT_EQ(runShell(folder, command + " --format " + format).output,
+        runWell(command + " -o x." + format);
+        EXPECT_EQ(shell(command + " --format " + format).output,
                   folder.read(std::string("x.") + format))
             << format;
     }
@@ -174,31 +148,28 @@ TEST_P(EveryChart, HasTheSameBytesInAFileAndOnStandardOutput)
 
 TEST_P(EveryChart, MapsFourPixelsForEachPointOfPaper)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
     const std::string chart = std::string("tovangl-chart ") + GetParam() + " --size 300x200 items ";
-    runWell(folder, chart + "-o x.pdf --map paper.json");
-    runWell(folder, chart + "-o x.png --map print.json --print 4");
+    runWell(chart + "-o x.pdf --map paper.json");
+    runWell(chart + "-o x.png --map print.json --print 4");
     EXPECT_EQ(folder.read("paper.json"), folder.read("print.json"));
 }
 
 TEST_P(EveryChart, MapsTheSameRegionsInShapesAsInPixels)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
     for (const char* scale : {"", " --scale 2"}) {
         const std::string command = "tovangl-chart " + chart() + scale + " items -o x";
-        runWell(folder, command + ".svg --map shapes.json");
-        runWell(folder, command + ".png --map pixels.json");
+        runWell(command + ".svg --map shapes.json");
+        runWell(command + ".png --map pixels.json");
         EXPECT_EQ(folder.read("shapes.json"), folder.read("pixels.json")) << scale;
     }
 }
 
 TEST_P(EveryChart, StandsAsPixelsInThePageBesideItsPaper)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
-    runWell(folder, std::string("tovangl-chart ") + GetParam() + " items -o x.pdf --map x.html");
+    runWell(std::string("tovangl-chart ") + GetParam() + " items -o x.pdf --map x.html");
     EXPECT_THAT(folder.read("x.pdf"), StartsWith("%PDF-"));
     EXPECT_THAT(folder.read("x.html"), HasSubstr("data:image/png"));
 }
@@ -206,12 +177,11 @@ TEST_P(EveryChart, StandsAsPixelsInThePageBesideItsPaper)
 // Qt's tables have an order of their own in each process.
 TEST_P(EveryChart, HasTheSameBytesFromEveryProcess)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
     for (const std::string format : {"png", "svg", "pdf"}) {
         const std::string command = "tovangl-chart " + chart() + " items -o ";
-        runWell(folder, command + "a." + format);
-        runWell(folder, "QT_HASH_SEED=0 " + command + "b." + format);
+        runWell(command + "a." + format);
+        runWell("QT_HASH_SEED=0 " + command + "b." + format);
         EXPECT_EQ(folder.read("a." + format), folder.read("b." + format)) << format;
     }
 }
@@ -302,7 +272,7 @@ TEST_P(BarCharts, OutlineTheirBars)
     EXPECT_TRUE(showsColor(draw(chart(), "5 a\t#ffff00\t#123456\n"), qRgb(0x12, 0x34, 0x56)));
 }
 
-TEST(Pictures, MapsTheSlices)
+TEST_F(Pictures, MapsTheSlices)
 {
     const auto [picture, map] = drawWithMap("pie", "3 a\t#ff0000\n1 b\t#0000ff\n0 none\n");
     const Json& slice = map["items"][0]["slice"];
@@ -367,7 +337,7 @@ constexpr OptionCase kOptionCases[] = {
     {"Title", "pie", "--title Words"},
     {"Others", "bars --threshold 25", "--others Rest"}};
 
-class EveryOption : public ::testing::TestWithParam<OptionCase>
+class EveryOption : public Pictures, public ::testing::WithParamInterface<OptionCase>
 {};
 
 TEST_P(EveryOption, ShowsInThePicture)
@@ -379,30 +349,29 @@ TEST_P(EveryOption, ShowsInThePicture)
 INSTANTIATE_TEST_SUITE_P(Pictures, EveryOption, ::testing::ValuesIn(kOptionCases),
                          [](const auto& info) { return info.param.name; });
 
-TEST(Pictures, AreTheSameWhenSavedFastInOtherFiles)
+TEST_F(Pictures, AreTheSameWhenSavedFastInOtherFiles)
 {
-    const CTemporaryFolder folder;
     folder.write("items", kItems);
-    runWell(folder, "tovangl-chart pie items -o small.png");
-    runWell(folder, "tovangl-chart pie --fast items -o fast.png");
-    EXPECT_EQ(decode(folder.read("fast.png")), decode(folder.read("small.png")));
+    runWell("tovangl-chart pie items -o small.png");
+    runWell("tovangl-chart pie --fast items -o fast.png");
+    EXPECT_EQ(decodePng(folder.read("fast.png")), decodePng(folder.read("small.png")));
     EXPECT_NE(folder.read("fast.png"), folder.read("small.png"));
 }
 
-TEST(Pictures, APieWithoutColourOptionsHasTheDefaultColours)
+TEST_F(Pictures, APieWithoutColourOptionsHasTheDefaultColours)
 {
     EXPECT_EQ(draw("pie"), draw("pie --outline-color '#ffffff' --text-color '#000000' "
                                 "--line-color '#000000'"));
 }
 
-TEST(Pictures, AThemeIsAppliedBeforeTheColoursWhateverTheirOrder)
+TEST_F(Pictures, AThemeIsAppliedBeforeTheColoursWhateverTheirOrder)
 {
     EXPECT_EQ(draw("pie --picture-color '#ff0000' --theme dark"),
               draw("pie --theme dark --picture-color '#ff0000'"));
     EXPECT_EQ(draw("pie --picture-color '#ff0000' --theme dark").pixel(0, 0), qRgb(255, 0, 0));
 }
 
-TEST(Pictures, OverlapsAreKeptOnRequest)
+TEST_F(Pictures, OverlapsAreKeptOnRequest)
 {
     std::string items;
     for (int i = 0; i < 40; ++i)
@@ -411,7 +380,7 @@ TEST(Pictures, OverlapsAreKeptOnRequest)
                  draw("pie --size 300x200 --keep-overlaps", items));
 }
 
-TEST(Pictures, TheLastOfTwoOptionsCounts)
+TEST_F(Pictures, TheLastOfTwoOptionsCounts)
 {
     EXPECT_EQ(draw("pie --size 100x100 --size 200x150").size(), QSize(200, 150));
 }
