@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Looks at the pixels where each colour that can be set is painted.
-#include "input/CPieInput.h"
 #include "input/setting_rules.h"
 #include "layout/captions.h"
-#include "layout/pie_layout.h"
 #include "support/CBarChart.h"
+#include "support/CTestPie.h"
 
 #include <gtest/gtest.h>
 
@@ -137,26 +136,14 @@ TEST(BarColor, OfValuesIsThatOfNothingElse)
     EXPECT_FALSE(hasTeal(drawn.image, drawn.layout.categoryAxis->rect));
 }
 
-struct CDrawnPie
-{
-    CPieLayout layout;
-    QImage image;
-};
-
 // Four quarters of a pie, so large that lines are several pixels wide.
 CDrawnPie drawnPie(const char* setting)
 {
     constexpr int kScale = 10;
-    CPieInput pie(true);
-    for (int i = 0; i < 4; ++i)
-        pie.addItem(10, QStringLiteral("caption"), QColor(), QColor());
+    CTestPie pie(true);
+    pie.addEqual(4, "caption");
     EXPECT_EQ(applySetting(CSettingTarget(pie), setting, kTeal), "") << setting;
-    const CRequest request{3200, 2000, kScale};
-    QImage image(request.width, request.height, QImage::Format_ARGB32);
-    CCanvas canvas(image, pie.settings, request);
-    CPieLayout layout = computeLayout(pie, {0, 1, 2, 3}, request, canvas.measurer());
-    canvas.paint(layout);
-    return {std::move(layout), std::move(image)};
+    return drawn(pie, {3200, 2000, kScale});
 }
 
 QPoint onPicture(const CPieLayout& layout, const QPointF& fromCenter)

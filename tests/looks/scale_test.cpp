@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 // For a display of high density, a chart looks the same, with more pixels.
-#include "input/CPieInput.h"
 #include "layout/captions.h"
-#include "layout/pie_layout.h"
 #include "looks/chart_decisions.h"
 #include "support/CBarChart.h"
 #include "support/CDice.h"
+#include "support/CTestPie.h"
 
 #include <algorithm>
 #include <array>
@@ -65,20 +64,6 @@ CPieInput rollPie(CDice& dice)
          {CPieInput::ShortenFromLeft, CPieInput::RemoveLabelOverlaps, CPieInput::ShowSizes})
         pie.options.setFlag(option, dice.oneIn(2));
     return pie;
-}
-
-CPieLayout layOut(const CPieInput& pie, const CRequest& request)
-{
-    QImage image(1, 1, QImage::Format_ARGB32);
-    CCanvas canvas(image, pie.settings, request);
-    return computeLayout(pie, selectSlices(pie.items, 0).items, request, canvas.measurer());
-}
-
-QImage draw(const CPieInput& pie, const CRequest& request)
-{
-    QImage image(request.width, request.height, QImage::Format_ARGB32);
-    CCanvas(image, pie.settings, request).paint(layOut(pie, request));
-    return image;
 }
 
 TEST(Scale, MeasuresTextsAsMuchLargerThoughGlyphsAreWholePixelsWide)
@@ -251,7 +236,8 @@ TEST(Scale, GivesThePictureOfScaleOneWhenItIsShrunkAgain)
     const CRequest request = onScreen(300, 200);
     for (const bool hasBackground : {false, true}) {
         const CPieInput pie = pieWithoutTexts(hasBackground);
-        EXPECT_LT(meanDifference(draw(pie, request), draw(pie, scaled(request, 2))), kAlike);
+        EXPECT_LT(meanDifference(drawn(pie, request).image, drawn(pie, scaled(request, 2)).image),
+                  kAlike);
         for (const BarKind kind : {BarKind::Standing, BarKind::Lying}) {
             const CBarChart bars = barsWithoutTexts(kind, hasBackground);
             EXPECT_LT(

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What the themes promise to readers, measured on the layouts that are painted.
-#include "input/CPieInput.h"
 #include "input/default_palette.h"
 #include "input/setting_rules.h"
 #include "input/themes.h"
-#include "layout/pie_layout.h"
 #include "support/CBarChart.h"
+#include "support/CTestPie.h"
 #include "support/color_contrast.h"
 #include "support/color_distance.h"
 
@@ -22,6 +21,7 @@ using ::testing::ElementsAre;
 constexpr const char* kCaption = "caption";
 constexpr std::size_t kPaletteSize = 6;
 constexpr double kClearlyDifferent = 11; // CIEDE2000
+constexpr CRequest kPicture{500, 400};
 
 // A colour, and one on which it stands.
 struct CPlacedColor
@@ -66,7 +66,7 @@ Placed placedColors(BarKind kind, const char* theme, bool hasBackground)
     const CSettingTarget target(chart.input);
     apply(target, "theme", theme);
     apply(target, "category_title", "Categories");
-    const CBarLayout layout = chart.layout(onScreen(500, 400));
+    const CBarLayout layout = chart.layout(kPicture);
     const QColor picture = chart.input.settings.colors.picture;
     EXPECT_GT(layout.categoryAxis->texts.size(), kPaletteSize) << "captions and a title";
     Placed placed;
@@ -79,21 +79,18 @@ Placed placedColors(BarKind kind, const char* theme, bool hasBackground)
     return placed;
 }
 
-CPieLayout pieLayout(const CPieInput& input)
+CTestPie themedPie(const char* theme, bool hasBackground)
 {
-    QImage image(1, 1, QImage::Format_ARGB32);
-    CCanvas canvas(image, input.settings, CRequest());
-    const auto drawn = selectSlices(input.items, 0).items;
-    return computeLayout(input, drawn, onScreen(500, 400), canvas.measurer());
+    CTestPie pie(hasBackground);
+    pie.addEqual(kPaletteSize, kCaption);
+    apply(CSettingTarget(pie), "theme", theme);
+    return pie;
 }
 
 Placed placedPieColors(const char* theme, bool hasBackground)
 {
-    CPieInput pie(hasBackground);
-    for (std::size_t i = 0; i < kPaletteSize; ++i)
-        pie.addItem(10, QString(kCaption), QColor(), QColor());
-    apply(CSettingTarget(pie), "theme", theme);
-    const CPieLayout layout = pieLayout(pie);
+    const CTestPie pie = themedPie(theme, hasBackground);
+    const CPieLayout layout = pie.layOut(kPicture);
     std::optional<CVerticalFade> fill;
     if (layout.background)
         fill = layout.background->fill;
@@ -160,13 +157,18 @@ struct CFillings
     std::vector<QColor> outlines;
 };
 
-CFillings barFillings(const char* theme)
+CBarChart themedBars(const char* theme)
 {
     CBarChart chart(BarKind::Standing, true);
     chart.addMany(kPaletteSize);
     apply(CSettingTarget(chart.input), "theme", theme);
+    return chart;
+}
+
+CFillings barFillings(const char* theme)
+{
     CFillings fillings;
-    for (const CBar& bar : chart.layout(onScreen(500, 400)).bars) {
+    for (const CBar& bar : themedBars(theme).layout(kPicture).bars) {
         fillings.colors.push_back(bar.color);
         fillings.outlines.push_back(bar.outlineColor);
     }
@@ -175,11 +177,7 @@ CFillings barFillings(const char* theme)
 
 CFillings sliceFillings(const char* theme)
 {
-    CPieInput pie(true);
-    for (std::size_t i = 0; i < kPaletteSize; ++i)
-        pie.addItem(10, QString(kCaption), QColor(), QColor());
-    apply(CSettingTarget(pie), "theme", theme);
-    const CPieLayout layout = pieLayout(pie);
+    const CPieLayout layout = themedPie(theme, true).layOut(kPicture);
     CFillings fillings;
     for (const CPieSlice& slice : layout.slices) {
         fillings.colors.push_back(slice.color);
@@ -278,10 +276,7 @@ TEST_P(ThemePalette, IsSeenApartFromTheOthers)
 TEST_P(ThemePalette, HasAGridAndABorderThatAreSeenOnThePlot)
 {
     constexpr double kSeen = 5; // CIEDE2000
-    CBarChart chart(BarKind::Standing, true);
-    chart.addMany(kPaletteSize);
-    apply(CSettingTarget(chart.input), "theme", GetParam());
-    const CBarLayout layout = chart.layout(onScreen(500, 400));
+    const CBarLayout layout = themedBars(GetParam()).layout(kPicture);
     const QColor plot = layout.background->top;
     ASSERT_FALSE(layout.gridLines.empty());
     for (const CStraightLine& line : layout.gridLines)
@@ -304,9 +299,7 @@ TEST_P(Others, LookLikeNoItemOfATheme)
 
 TEST_P(Others, StandOutFromTheGroundOfATheme)
 {
-    CPieInput pie(true);
-    apply(CSettingTarget(pie), "theme", GetParam());
-    const CChartColors& colors = pie.settings.colors;
+    const CChartColors colors = themedPie(GetParam(), true).settings.colors;
     EXPECT_TRUE(isSeen(othersColor(), colors.picture));
     EXPECT_TRUE(!colors.plot.isValid() || isSeen(othersColor(), colors.plot));
 }

@@ -26,11 +26,10 @@ QColor pixelAt(const QImage& image, const QPointF& point)
 }
 
 // A pie with its picture.
-struct CPaintedPie
+struct CPaintedPie : CDrawnPie
 {
     explicit CPaintedPie(const CTestPie& pie, const CRequest& request = kPicture)
-        : layout(pie.layOut(request))
-        , image(pie.paint(request))
+        : CDrawnPie(drawn(pie, request))
     {}
 
     // At an angle in degrees, counter-clockwise from three o'clock.
@@ -45,9 +44,6 @@ struct CPaintedPie
     {
         return pixelAt(image, pointOn(degrees, shareOfRadius));
     }
-
-    CPieLayout layout;
-    QImage image;
 };
 
 // Four quarters, from nine o'clock over the top.

@@ -8,19 +8,9 @@
 #include "layout/bar_layout.h"
 #include "paint/CCanvas.h"
 #include "support/pixels.h"
+#include "support/requests.h"
 
 namespace tovangl {
-
-[[nodiscard]] inline CRequest onScreen(int width, int height)
-{
-    return {width, height, 1, OutputDevice::Screen, kKilo1024};
-}
-
-/// A picture so many times as large as one on a screen.
-[[nodiscard]] inline CRequest inPrint(int width, int height, int factor)
-{
-    return {width * factor, height * factor, factor, OutputDevice::Printer, kKilo1024};
-}
 
 /// The layout of a chart with a plot rectangle and axes of which nothing is seen.
 [[nodiscard]] inline CBarLayout bareBarLayout(const QRect& plotRect)

@@ -9,19 +9,31 @@
 #include "layout/pie_layout.h"
 #include "output/raster_surface.h"
 #include "paint/CCanvas.h"
+#include "support/requests.h"
 
 #include <QImage>
 
 namespace tovangl {
 
-[[nodiscard]] inline CRequest onScreen(int width, int height)
+struct CDrawnPie
 {
-    return {width, height};
+    CPieLayout layout;
+    QImage image;
+};
+
+[[nodiscard]] inline CPieLayout layOut(const CPieInput& pie, const CRequest& request)
+{
+    QImage image(1, 1, QImage::Format_ARGB32);
+    CCanvas canvas(image, pie.settings, request);
+    const auto drawn = selectSlices(pie.items, pie.settings.threshold).items;
+    return computeLayout(pie, drawn, request, canvas.measurer());
 }
 
-[[nodiscard]] inline CRequest inPrint(int width, int height, int factor)
+[[nodiscard]] inline CDrawnPie drawn(const CPieInput& pie, const CRequest& request)
 {
-    return {width * factor, height * factor, factor, OutputDevice::Printer};
+    CDrawnPie drawn{layOut(pie, request), makeRasterSurface(request.width, request.height)};
+    CCanvas(drawn.image, pie.settings, request).paint(drawn.layout);
+    return drawn;
 }
 
 struct CTestPie : CPieInput
@@ -44,10 +56,7 @@ struct CTestPie : CPieInput
 
     [[nodiscard]] CPieLayout layOut(const CRequest& request) const
     {
-        QImage image(1, 1, QImage::Format_ARGB32);
-        CCanvas canvas(image, settings, request);
-        const auto drawn = selectSlices(items, settings.threshold).items;
-        return computeLayout(*this, drawn, request, canvas.measurer());
+        return tovangl::layOut(*this, request);
     }
     [[nodiscard]] bool fitsInto(int width, int height) const
     {
@@ -55,9 +64,7 @@ struct CTestPie : CPieInput
     }
     [[nodiscard]] QImage paint(const CRequest& request) const
     {
-        QImage image = makeRasterSurface(request.width, request.height);
-        CCanvas(image, settings, request).paint(layOut(request));
-        return image;
+        return drawn(*this, request).image;
     }
 };
 
