@@ -6,11 +6,16 @@
 
 #include <QLinearGradient>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace tovangl {
 namespace cdraw {
 namespace {
+
+using ::testing::Each;
+using ::testing::Ne;
 
 // On a painter that antialiases.
 template <typename Paint>
@@ -37,6 +42,23 @@ QImage paintedRect(int width, int height, int radius)
     });
 }
 
+const std::vector<QPoint> kCorners = {{0, 0}, {39, 0}, {0, 29}, {39, 29}}; // of 40 by 30 pixels
+
+std::vector<QRgb> pixelsAt(const QImage& image, const std::vector<QPoint>& places)
+{
+    std::vector<QRgb> pixels;
+    for (const QPoint& place : places)
+        pixels.push_back(image.pixel(place));
+    return pixels;
+}
+
+QImage defaultBackground(int width, int height)
+{
+    return smoothly(width, height, [](QPainter& painter) {
+        drawGradientBackground(painter, CPieBackground(), 1);
+    });
+}
+
 bool isNear(QRgb pixel, const QColor& color, int tolerance)
 {
     return std::abs(qRed(pixel) - color.red()) <= tolerance &&
@@ -47,32 +69,20 @@ bool isNear(QRgb pixel, const QColor& color, int tolerance)
 TEST(GradientRoundRect, FillsTheWindowAndOutlinesItOnePixelWide)
 {
     const QImage image = paintedRect(40, 30, 11);
-    EXPECT_EQ(image.pixel(20, 15), kRedPixel);
-    EXPECT_EQ(image.pixel(20, 1), kRedPixel);
-    EXPECT_EQ(image.pixel(20, 0), kBluePixel);
-    EXPECT_EQ(image.pixel(20, 29), kBluePixel);
-    EXPECT_EQ(image.pixel(0, 15), kBluePixel);
-    EXPECT_EQ(image.pixel(39, 15), kBluePixel);
+    EXPECT_THAT(pixelsAt(image, {{20, 15}, {20, 1}}), Each(kRedPixel));
+    EXPECT_THAT(pixelsAt(image, {{20, 0}, {20, 29}, {0, 15}, {39, 15}}), Each(kBluePixel));
 }
 
 TEST(GradientRoundRect, LeavesItsCornersOpen)
 {
-    const QImage image = paintedRect(40, 30, 11);
-    EXPECT_EQ(image.pixel(0, 0), kWhitePixel);
-    EXPECT_EQ(image.pixel(39, 0), kWhitePixel);
-    EXPECT_EQ(image.pixel(0, 29), kWhitePixel);
-    EXPECT_EQ(image.pixel(39, 29), kWhitePixel);
+    EXPECT_THAT(pixelsAt(paintedRect(40, 30, 11), kCorners), Each(kWhitePixel));
 }
 
 TEST(GradientRoundRect, OfRadiusZeroIsAPlainRectangle)
 {
     const QImage image = paintedRect(40, 30, 0);
-    EXPECT_EQ(image.pixel(0, 0), kBluePixel);
-    EXPECT_EQ(image.pixel(39, 0), kBluePixel);
-    EXPECT_EQ(image.pixel(0, 29), kBluePixel);
-    EXPECT_EQ(image.pixel(39, 29), kBluePixel);
-    EXPECT_EQ(image.pixel(1, 1), kRedPixel);
-    EXPECT_EQ(image.pixel(38, 28), kRedPixel);
+    EXPECT_THAT(pixelsAt(image, kCorners), Each(kBluePixel));
+    EXPECT_THAT(pixelsAt(image, {{1, 1}, {38, 28}}), Each(kRedPixel));
 }
 
 TEST(GradientRoundRect, LeavesThePainterTranslatedByHalfAPixel)
@@ -90,17 +100,14 @@ TEST(GradientRoundRect, RightAndBottomSidesLieAtTheExtentsOfAWindowThatStartsEls
         painter.setWindow(QRect(6, 4, 40, 30));
         drawGradientRoundRect(painter, 0, plainGradient(Qt::red), plainGradient(Qt::blue), 1);
     });
-    EXPECT_EQ(image.pixel(0, 10), kBluePixel);
-    EXPECT_EQ(image.pixel(33, 10), kBluePixel); // 39 - 6
-    EXPECT_EQ(image.pixel(34, 10), kWhitePixel);
-    EXPECT_EQ(image.pixel(10, 25), kBluePixel); // 29 - 4
-    EXPECT_EQ(image.pixel(10, 26), kWhitePixel);
+    // The sides that are seen lie at 39 - 6 and at 29 - 4.
+    EXPECT_THAT(pixelsAt(image, {{0, 10}, {33, 10}, {10, 25}}), Each(kBluePixel));
+    EXPECT_THAT(pixelsAt(image, {{34, 10}, {10, 26}}), Each(kWhitePixel));
 }
 
 TEST(DefaultGradientBackground, IsLightestAtTheBottom)
 {
-    const QImage image = smoothly(
-        60, 101, [](QPainter& painter) { drawGradientBackground(painter, CPieBackground(), 1); });
+    const QImage image = defaultBackground(60, 101);
     EXPECT_TRUE(isNear(image.pixel(30, 99), QColor(232, 242, 255), 1));
     EXPECT_TRUE(isNear(image.pixel(30, 50), QColor(209, 226, 247), 1));
     EXPECT_TRUE(isNear(image.pixel(30, 1), QColor(186, 209, 238), 1));
@@ -108,8 +115,7 @@ TEST(DefaultGradientBackground, IsLightestAtTheBottom)
 
 TEST(DefaultGradientBackground, IsOutlinedInGreyThatIsLightestAtTheBottom)
 {
-    const QImage image = smoothly(
-        60, 101, [](QPainter& painter) { drawGradientBackground(painter, CPieBackground(), 1); });
+    const QImage image = defaultBackground(60, 101);
     EXPECT_TRUE(isNear(image.pixel(30, 100), QColor(186, 194, 204), 1));
     EXPECT_TRUE(isNear(image.pixel(0, 50), QColor(168, 181, 197), 1));
     EXPECT_TRUE(isNear(image.pixel(30, 0), QColor(149, 167, 190), 1));
@@ -117,12 +123,9 @@ TEST(DefaultGradientBackground, IsOutlinedInGreyThatIsLightestAtTheBottom)
 
 TEST(DefaultGradientBackground, HasCornersOfElevenPixelsWhateverTheSize)
 {
-    const QImage image = smoothly(
-        200, 150, [](QPainter& painter) { drawGradientBackground(painter, CPieBackground(), 1); });
-    EXPECT_EQ(image.pixel(2, 2), kWhitePixel);
-    EXPECT_NE(image.pixel(4, 4), kWhitePixel);
-    EXPECT_EQ(image.pixel(0, 0), kWhitePixel);
-    EXPECT_NE(image.pixel(12, 0), kWhitePixel);
+    const QImage image = defaultBackground(200, 150);
+    EXPECT_THAT(pixelsAt(image, {{0, 0}, {2, 2}}), Each(kWhitePixel));
+    EXPECT_THAT(pixelsAt(image, {{4, 4}, {12, 0}}), Each(Ne(kWhitePixel)));
 }
 
 TEST(GradientLine, FollowsTheGradient)
@@ -143,14 +146,8 @@ TEST(GradientLine, HasTheWidthAskedForAndSquareCaps)
     const QImage image = smoothly(40, 20, [](QPainter& painter) {
         drawGradientLine(painter, QPoint(10, 10), QPoint(30, 10), plainGradient(Qt::red), 4);
     });
-    EXPECT_EQ(image.pixel(20, 7), kWhitePixel);
-    EXPECT_EQ(image.pixel(20, 8), kRedPixel);
-    EXPECT_EQ(image.pixel(20, 11), kRedPixel);
-    EXPECT_EQ(image.pixel(20, 12), kWhitePixel);
-    EXPECT_EQ(image.pixel(7, 10), kWhitePixel);
-    EXPECT_EQ(image.pixel(8, 10), kRedPixel);
-    EXPECT_EQ(image.pixel(31, 10), kRedPixel);
-    EXPECT_EQ(image.pixel(32, 10), kWhitePixel);
+    EXPECT_THAT(pixelsAt(image, {{20, 7}, {20, 12}, {7, 10}, {32, 10}}), Each(kWhitePixel));
+    EXPECT_THAT(pixelsAt(image, {{20, 8}, {20, 11}, {8, 10}, {31, 10}}), Each(kRedPixel));
 }
 
 TEST(GradientLine, DoesNotUseThePaintersPen)
