@@ -67,44 +67,34 @@ constexpr double kAnchor = 81;
 struct CSizeText
 {
     long long value;
+    const char* unit;
+    CKilo kilo;
     const char* text;
 };
 
 class SizeText : public testing::TestWithParam<CSizeText>
 {};
 
-TEST_P(SizeText, HasOneSpaceBeforeTheUnit)
+// The unit stands behind the prefix; a text without a unit ends in the number.
+TEST_P(SizeText, HasOneSpaceBeforePrefixAndUnit)
 {
     const QLocale locale(QLocale::English, QLocale::UnitedStates);
-    EXPECT_EQ(getSizeText(GetParam().value, "B", locale, kKilo1024), QString(GetParam().text));
+    const CSizeText& size = GetParam();
+    EXPECT_EQ(getSizeText(size.value, size.unit, locale, size.kilo), QString(size.text));
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, SizeText,
-                         testing::Values(CSizeText{0, " [0 B]"}, CSizeText{999, " [999 B]"},
-                                         CSizeText{1000, " [1,000 B]"},
-                                         CSizeText{1536, " [1.5 KB]"},
-                                         CSizeText{146 * 1024, " [146 KB]"}));
-
-TEST(SizeTextOfAPie, HasTheUnitBehindThePrefix)
-{
-    const QLocale locale(QString("en_US"));
-    EXPECT_EQ(getSizeText(700, "bit", locale, kKilo1024), QString(" [700 bit]"));
-    EXPECT_EQ(getSizeText(1536, "bit", locale, kKilo1024), QString(" [1.5 Kbit]"));
-}
-
-TEST(SizeTextOfAPie, EndsInTheNumberWhereThereIsNoUnit)
-{
-    const QLocale locale(QString("en_US"));
-    EXPECT_EQ(getSizeText(700, "", locale, kKilo1024), QString(" [700]"));
-    EXPECT_EQ(getSizeText(1536, "", locale, kKilo1024), QString(" [1.5 K]"));
-}
-
-TEST(SizeTextOfAPie, CountsInTheKiloOfTheChart)
-{
-    const QLocale locale(QString("en_US"));
-    EXPECT_EQ(getSizeText(1500, "B", locale, kKilo1000), QString(" [1.5 KB]"));
-    EXPECT_EQ(getSizeText(999, "B", locale, kKilo1000), QString(" [999 B]"));
-}
+                         testing::Values(CSizeText{0, "B", kKilo1024, " [0 B]"},
+                                         CSizeText{999, "B", kKilo1024, " [999 B]"},
+                                         CSizeText{1000, "B", kKilo1024, " [1,000 B]"},
+                                         CSizeText{1536, "B", kKilo1024, " [1.5 KB]"},
+                                         CSizeText{146 * 1024, "B", kKilo1024, " [146 KB]"},
+                                         CSizeText{999, "B", kKilo1000, " [999 B]"},
+                                         CSizeText{1500, "B", kKilo1000, " [1.5 KB]"},
+                                         CSizeText{700, "bit", kKilo1024, " [700 bit]"},
+                                         CSizeText{1536, "bit", kKilo1024, " [1.5 Kbit]"},
+                                         CSizeText{700, "", kKilo1024, " [700]"},
+                                         CSizeText{1536, "", kKilo1024, " [1.5 K]"}));
 
 TEST_F(PieTextLabel, PointsToTheMiddleOfItsSliceUpTowardSmallerHeights)
 {
