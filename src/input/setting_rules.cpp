@@ -37,21 +37,17 @@ bool store(Value& field, const std::optional<Value>& value)
     return value.has_value();
 }
 
-template <QColor CChartColors::*field>
+// What is stored as it is read.
+template <auto field, auto parse>
+bool writeAsRead(Target target, Text value)
+{
+    return store(target.settings.*field, parse(value));
+}
+
+template <QColor CChartColors::*field, auto parse = parseColor>
 bool writeColor(Target target, Text value)
 {
-    return store(target.settings.colors.*field, parseColor(value));
-}
-
-template <QString CGraph1dSettings::*field>
-bool writeText(Target target, Text value)
-{
-    return store(target.settings.*field, parseText(value));
-}
-
-bool writeOthersLink(Target target, Text value)
-{
-    return store(target.settings.othersLink, parseLink(value));
+    return store(target.settings.colors.*field, parse(value));
 }
 
 template <CPieInput::Option option, bool whenTrue>
@@ -91,25 +87,10 @@ bool writeLocale(Target target, Text value)
     return name.has_value();
 }
 
-bool writeThreshold(Target target, Text value)
-{
-    return store(target.settings.threshold, parseReal(value));
-}
-
-bool writePictureColor(Target target, Text value)
-{
-    return store(target.settings.colors.picture, parsePictureColor(value));
-}
-
 bool writePalette(Target target, Text value)
 {
     const Text ofTheme = themeValue(value, "palette");
     return store(target.settings.colors.palette, parseColors(ofTheme.empty() ? value : ofTheme));
-}
-
-bool writeBackground(Target target, Text value)
-{
-    return store(target.settings.hasBackground, parseBoolean(value));
 }
 
 bool writeScale(Target target, Text value)
@@ -127,11 +108,6 @@ bool writeKilo(Target target, Text value)
         return false;
     target.settings.setKilo(isDefault ? 0 : value == "1024" ? 1024 : 1000);
     return true;
-}
-
-bool writeFollowsDisplay(Target target, Text value)
-{
-    return store(target.settings.followsDisplay, parseBoolean(value));
 }
 
 bool writeFast(Target target, Text value)
@@ -265,7 +241,7 @@ constexpr std::array kRules = {
     choice("theme", kAll, kThemeNames, "light",
            "Gives the chart a look: sets the palette and all colours.", writeTheme),
     text("title", kAll, "", "The chart's title, one bold line above it.",
-         writeText<&CGraph1dSettings::title>),
+         writeAsRead<&CGraph1dSettings::title, parseText>),
     text("font", kAll, "Tahoma", "The font family of all texts.", writeFont),
     whole("font_size", kAll, kLeastInt, kGreatestInt, "11",
           "The font's size in pixels; below 1 it is the system's, and above 30,000 it is 30,000.",
@@ -273,18 +249,21 @@ constexpr std::array kRules = {
     other("locale", SettingType::Locale, kAll, "default",
           "How numbers are written; the default follows the process's locale.", writeLocale),
     other("threshold", SettingType::Real, kAll, "0",
-          "Leaves out items whose share of the total, in per cent, is smaller.", writeThreshold),
+          "Leaves out items whose share of the total, in per cent, is smaller.",
+          writeAsRead<&CGraph1dSettings::threshold, parseReal>),
     text("others", kAll, "",
          "Gathers what the threshold leaves out into one last item of this caption.",
-         writeText<&CGraph1dSettings::othersCaption>),
+         writeAsRead<&CGraph1dSettings::othersCaption, parseText>),
     other("others_link", SettingType::Link, kAll, "",
-          "Where the item that gathers the others leads in an SVG picture.", writeOthersLink),
+          "Where the item that gathers the others leads in an SVG picture.",
+          writeAsRead<&CGraph1dSettings::othersLink, parseLink>),
     other("palette", SettingType::Palette, kAll, "default",
           "The colours of items without a colour of their own, in turn.", writePalette),
     flag("background", kAll, "Paints a gradient behind the chart, and a border around bars.",
-         writeBackground),
+         writeAsRead<&CGraph1dSettings::hasBackground, parseBoolean>),
     other("picture_color", SettingType::PictureColor, kAll, "default",
-          "What the picture is filled with: white by default.", writePictureColor),
+          "What the picture is filled with: white by default.",
+          writeColor<&CChartColors::picture, parsePictureColor>),
     color("text_color", kAll,
           "The colour of captions, numbers and the title; also of axis lines, where their own is "
           "not set.",
@@ -304,7 +283,7 @@ constexpr std::array kRules = {
           writeScale),
     flag("follow_display", kAll,
          "Gives an SVG picture the colours of the theme dark on displays that are set to dark.",
-         writeFollowsDisplay),
+         writeAsRead<&CGraph1dSettings::followsDisplay, parseBoolean>),
     flag("fast", kAll, "Saves faster, in a larger file.", writeFast),
     axis("category_axis", kBars, "line,labels,hide-overlapped",
          "What the axis with the captions shows.", writeCategoryAxis),
