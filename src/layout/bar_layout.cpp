@@ -151,16 +151,10 @@ void setBackground(CBarLayout& layout, const CBarTask& task)
                                       orElse(plot, kBackgroundBottom)};
 }
 
-CVerticalFade borderColors(const CBarTask& task)
+// Of the border or the grid.
+CVerticalFade lineColors(const QColor& ofHost)
 {
-    const QColor& border = task.colors().border;
-    return {orElse(border, kBorderTop), orElse(border, kBorderBottom)};
-}
-
-CVerticalFade gridColors(const CBarTask& task)
-{
-    const QColor& grid = task.colors().grid;
-    return {orElse(grid, kBorderTop), orElse(grid, kBorderBottom)};
+    return {orElse(ofHost, kBorderTop), orElse(ofHost, kBorderBottom)};
 }
 
 // Standing bars: categories below, numbers at the left, grid lines behind the bars.
@@ -193,10 +187,11 @@ CBarLayout layOutStandingBars(const CBarTask& task)
             numberAxis, QRect(QPoint(ofNumbers.space, top), QPoint(left - 1, bottom + 1)),
             task.measurer);
     setBackground(layout, task);
-    layout.gridLines = drawLabelLines(
-        *layout.numberAxis, layout.plotRect.width() - task.request.scale, gridColors(task));
+    layout.gridLines =
+        drawLabelLines(*layout.numberAxis, layout.plotRect.width() - task.request.scale,
+                       lineColors(task.colors().grid));
     if (task.input.settings.hasBackground)
-        layout.border = CPlotBorder{borderColors(task), std::nullopt};
+        layout.border = CPlotBorder{lineColors(task.colors().border), std::nullopt};
     layout.bars = setItemBars(layout, task.input, task.drawn);
     return layout;
 }
@@ -227,7 +222,7 @@ void setBorder(CBarLayout& layout, const CBarTask& task)
 {
     if (!task.input.settings.hasBackground || task.request.device != OutputDevice::Screen)
         return;
-    const CVerticalFade colors = borderColors(task);
+    const CVerticalFade colors = lineColors(task.colors().border);
     layout.border = CPlotBorder{colors, CStraightLine{layout.plotRect.bottomLeft(),
                                                       layout.plotRect.bottomRight(), colors.bottom,
                                                       layout.lineWidth}};
