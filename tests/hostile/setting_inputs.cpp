@@ -16,8 +16,8 @@ constexpr std::size_t kMillion = 1000000;
 
 using Setting = std::function<void(CAnyChart&)>;
 
-// One input that draws every kind of chart with the setting.
-CHostileInput withSetting(const std::string& name, const Setting& apply, bool isHeavy = !kHeavy)
+// Adds one input that draws every kind of chart with the setting.
+void addSetting(HostileTable& table, const std::string& name, const Setting& apply)
 {
     const auto run = [apply] {
         for (ChartKind kind : kChartKinds) {
@@ -27,29 +27,27 @@ CHostileInput withSetting(const std::string& name, const Setting& apply, bool is
             drawEverything(chart);
         }
     };
-    return {name, run, isHeavy};
+    table.push_back({name, run});
 }
 
 void addFontSizes(HostileTable& table)
 {
     for (int size : {kMin, kMin + 1, -1, 0, 1, 2, 3, 100, 1000, 10000, 29999, 30000, 30001, 1 << 20,
                      kMax - 1, kMax}) {
-        table.push_back(withSetting("font size " + std::to_string(size), [=](CAnyChart& chart) {
-            chart.graph().setFont("Tahoma", size);
-        }));
-        table.push_back(
-            withSetting("outline font of size " + std::to_string(size), [=](CAnyChart& chart) {
-                chart.graph().setFont("DejaVu Sans", size);
-                chart.setProperties(0x1cf, "title");
-            }));
+        addSetting(table, "font size " + std::to_string(size),
+                   [=](CAnyChart& chart) { chart.graph().setFont("Tahoma", size); });
+        addSetting(table, "outline font of size " + std::to_string(size), [=](CAnyChart& chart) {
+            chart.graph().setFont("DejaVu Sans", size);
+            chart.setProperties(0x1cf, "title");
+        });
     }
 }
 
 void addFamilies(HostileTable& table)
 {
     const auto add = [&table](const char* name, const std::string& family) {
-        table.push_back(withSetting(std::string("font family ") + name,
-                                    [=](CAnyChart& chart) { chart.graph().setFont(family, 11); }));
+        addSetting(table, std::string("font family ") + name,
+                   [=](CAnyChart& chart) { chart.graph().setFont(family, 11); });
     };
     add("empty", "");
     add("unknown", "no such family");
@@ -68,10 +66,10 @@ void addLocales(HostileTable& table)
 {
     const auto add = [&table](const char* name, const std::string& language,
                               const std::string& country) {
-        table.push_back(withSetting(std::string("locale ") + name, [=](CAnyChart& chart) {
+        addSetting(table, std::string("locale ") + name, [=](CAnyChart& chart) {
             chart.graph().setLocale(language, country);
             chart.setProperties(0x1ff, "title");
-        }));
+        });
     };
     add("empty", "", "");
     add("without a country", "de", "");
@@ -95,8 +93,8 @@ void addLocales(HostileTable& table)
 void addThresholds(HostileTable& table)
 {
     const auto add = [&table](const std::string& name, double percent) {
-        table.push_back(withSetting(
-            "threshold " + name, [=](CAnyChart& chart) { chart.graph().setThreshold(percent); }));
+        addSetting(table, "threshold " + name,
+                   [=](CAnyChart& chart) { chart.graph().setThreshold(percent); });
     };
     add("NaN", kNotANumber);
     add("minus NaN", -kNotANumber);
@@ -115,20 +113,19 @@ void addPositions(HostileTable& table)
     const std::vector<int> ends = {kMin, kMin + 1, -2, -1, 0, 1, 399, 400, kMax - 1, kMax};
     for (int x : ends) {
         const std::string name = "position " + std::to_string(x);
-        table.push_back(
-            withSetting(name + " along both", [=](CAnyChart& chart) { chart.setPosition(x, x); }));
-        table.push_back(withSetting(name + " from the left",
-                                    [=](CAnyChart& chart) { chart.setPosition(x, 150); }));
-        table.push_back(withSetting(name + " from the top",
-                                    [=](CAnyChart& chart) { chart.setPosition(200, x); }));
+        addSetting(table, name + " along both", [=](CAnyChart& chart) { chart.setPosition(x, x); });
+        addSetting(table, name + " from the left",
+                   [=](CAnyChart& chart) { chart.setPosition(x, 150); });
+        addSetting(table, name + " from the top",
+                   [=](CAnyChart& chart) { chart.setPosition(200, x); });
     }
 }
 
 void addBarWidths(HostileTable& table)
 {
     for (int width : {kMin, -1, 1, 2, 400, 10000, 1 << 16, 1 << 30, kMax - 1, kMax}) {
-        table.push_back(withSetting("bar width " + std::to_string(width),
-                                    [=](CAnyChart& chart) { chart.setBarWidth(width); }));
+        addSetting(table, "bar width " + std::to_string(width),
+                   [=](CAnyChart& chart) { chart.setBarWidth(width); });
     }
 }
 
@@ -136,24 +133,22 @@ void addProperties(HostileTable& table)
 {
     constexpr int kLowBits = 31;
     for (int bit = 0; bit < kLowBits; ++bit) {
-        table.push_back(withSetting("property bit " + std::to_string(bit), [=](CAnyChart& chart) {
-            chart.setProperties(1 << bit, "title");
-        }));
+        addSetting(table, "property bit " + std::to_string(bit),
+                   [=](CAnyChart& chart) { chart.setProperties(1 << bit, "title"); });
     }
     for (int properties : {0, -1, kMin, kMax, kMin + 1, 0x5555, 0xaaaa}) {
-        table.push_back(
-            withSetting("properties " + std::to_string(properties),
-                        [=](CAnyChart& chart) { chart.setProperties(properties, "title"); }));
+        addSetting(table, "properties " + std::to_string(properties),
+                   [=](CAnyChart& chart) { chart.setProperties(properties, "title"); });
     }
 }
 
 void addColors(HostileTable& table)
 {
     const auto add = [&table](const std::string& name, const Color& color) {
-        table.push_back(withSetting("colour " + name, [=](CAnyChart& chart) {
+        addSetting(table, "colour " + name, [=](CAnyChart& chart) {
             chart.addItem(1000, "coloured", color, color);
             chart.setColors(color, color, color);
-        }));
+        });
     };
     add("one below the range", {-1, -1, -1});
     add("one above the range", {256, 256, 256});
@@ -194,31 +189,30 @@ void addSettingsByName(HostileTable& table)
                                              std::string(kMillion, ',')};
     for (const auto& row : settings()) {
         const std::string name = row.name;
-        table.push_back(withSetting("by name: " + name, [=](CAnyChart& chart) {
+        addSetting(table, "by name: " + name, [=](CAnyChart& chart) {
             for (const std::string& value : values)
                 (void)chart.graph().setByName(name, value);
-        }));
+        });
     }
-    table.push_back(withSetting("by a name that there is not", [=](CAnyChart& chart) {
+    addSetting(table, "by a name that there is not", [=](CAnyChart& chart) {
         for (const std::string& value : values)
             (void)chart.graph().setByName(value, value);
-    }));
+    });
 }
 
 // All settings at once at the ends of their types.
 void addEverything(HostileTable& table)
 {
     for (int end : {kMin, kMax}) {
-        table.push_back(
-            withSetting("every number at " + std::to_string(end), [=](CAnyChart& chart) {
-                chart.graph().setFont("", end);
-                chart.graph().setThreshold(end);
-                chart.setProperties(end, "title");
-                chart.setPosition(end, end);
-                chart.setBarWidth(end);
-                chart.setColors({end, end, end}, {end, end, end}, {end, end, end});
-                chart.addItem(end, "item", {end, end, end}, {end, end, end});
-            }));
+        addSetting(table, "every number at " + std::to_string(end), [=](CAnyChart& chart) {
+            chart.graph().setFont("", end);
+            chart.graph().setThreshold(end);
+            chart.setProperties(end, "title");
+            chart.setPosition(end, end);
+            chart.setBarWidth(end);
+            chart.setColors({end, end, end}, {end, end, end}, {end, end, end});
+            chart.addItem(end, "item", {end, end, end}, {end, end, end});
+        });
     }
 }
 
