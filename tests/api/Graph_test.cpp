@@ -68,50 +68,49 @@ TEST(GraphWithoutChart, IgnoresSettings)
     EXPECT_TRUE(graph.getRectangle()->empty());
 }
 
-TEST(Graph, ExportsAPngOfTheSizeAskedFor)
+class GraphTest : public ::testing::Test
 {
+protected:
     CTestGraph graph;
+};
+
+TEST_F(GraphTest, ExportsAPngOfTheSizeAskedFor)
+{
     EXPECT_EQ(exported(graph, 400, 300).decoded().size(), QSize(400, 300));
 }
 
-TEST(Graph, ExportsThePixelsOfTheChart)
+TEST_F(GraphTest, ExportsThePixelsOfTheChart)
 {
-    CTestGraph graph;
     graph.addItem(1, "caption");
     const QImage image = exported(graph, 400, 300).decoded();
     EXPECT_EQ(image, graph.getGraph()->getImage(400, 300));
 }
 
-TEST(Graph, PrintsAtAMultipleOfTheSize)
+TEST_F(GraphTest, PrintsAtAMultipleOfTheSize)
 {
-    CTestGraph graph;
     EXPECT_EQ(printed(graph, 400, 300, 2).decoded().size(), QSize(800, 600));
 }
 
-TEST(Graph, PrintsAtOnceTheSizeForAFactorBelowOne)
+TEST_F(GraphTest, PrintsAtOnceTheSizeForAFactorBelowOne)
 {
-    CTestGraph graph;
     EXPECT_EQ(printed(graph, 40, 30, -3).decoded().size(), QSize(40, 30));
 }
 
-TEST(Graph, ExportsTheSamePixelsTwice)
+TEST_F(GraphTest, ExportsTheSamePixelsTwice)
 {
-    CTestGraph graph;
     const QImage first = exported(graph, 40, 30).decoded();
     EXPECT_EQ(exported(graph, 40, 30).decoded(), first);
 }
 
-TEST(Graph, ExportsTheSamePixelsWithEveryCompression)
+TEST_F(GraphTest, ExportsTheSamePixelsWithEveryCompression)
 {
-    CTestGraph graph;
     const QImage balanced = exported(graph, 400, 700).decoded();
     graph.setCompression(Compression::Fast);
     EXPECT_EQ(exported(graph, 400, 700).decoded(), balanced);
 }
 
-TEST(Graph, ExportsItsSmallerFileUnlessAskedForSpeed)
+TEST_F(GraphTest, ExportsItsSmallerFileUnlessAskedForSpeed)
 {
-    VerticalBarGraph graph(false);
     for (long value = 1; value < 60; ++value)
         graph.addItem(value * value, "item");
     const int before = exported(graph, 1600, 800).size;
@@ -121,21 +120,19 @@ TEST(Graph, ExportsItsSmallerFileUnlessAskedForSpeed)
     EXPECT_EQ(exported(graph, 1600, 800).size, before);
 }
 
-TEST(Graph, FreesItsBytesOnRequestAndTwiceIsHarmless)
+TEST_F(GraphTest, FreesItsBytesOnRequestAndTwiceIsHarmless)
 {
-    CTestGraph graph;
     (void)exported(graph, 40, 30);
     graph.freePixmap();
     graph.freePixmap();
     EXPECT_EQ(exported(graph, 40, 30).decoded().size(), QSize(40, 30));
 }
 
-class SizeOfNoPicture : public ::testing::TestWithParam<std::pair<int, int>>
+class SizeOfNoPicture : public GraphTest, public ::testing::WithParamInterface<std::pair<int, int>>
 {};
 
 TEST_P(SizeOfNoPicture, GivesABufferOfNoLengthAndIsTheProblem)
 {
-    CTestGraph graph;
     const CHostPicture picture = exported(graph, GetParam().first, GetParam().second);
     EXPECT_NE(picture.data, nullptr);
     EXPECT_EQ(picture.size, 0);
@@ -147,24 +144,21 @@ INSTANTIATE_TEST_SUITE_P(Graph, SizeOfNoPicture,
                                            std::pair(1000001, 1), std::pair(40000, 40000),
                                            std::pair(kMost, kMost)));
 
-TEST(Graph, AnEmptyPictureReplacesTheOneBefore)
+TEST_F(GraphTest, AnEmptyPictureReplacesTheOneBefore)
 {
-    CTestGraph graph;
     (void)exported(graph, 40, 30);
     EXPECT_EQ(exported(graph, 0, 0).size, 0);
 }
 
-TEST(Graph, ListsOneZeroRectangleForEachItemBeforeAnyExport)
+TEST_F(GraphTest, ListsOneZeroRectangleForEachItemBeforeAnyExport)
 {
-    CTestGraph graph;
     graph.addItem(1, "a");
     graph.addItem(2, "b");
     EXPECT_THAT(*graph.getRectangle(), ElementsAre(kNoRectangle, kNoRectangle));
 }
 
-TEST(Graph, ListsTheCaptionsOfTheLastExport)
+TEST_F(GraphTest, ListsTheCaptionsOfTheLastExport)
 {
-    CTestGraph graph;
     graph.addItem(1, "a");
     (void)exported(graph, 400, 300);
     const QRect caption = graph.getGraph()->itemRectangles().front();
@@ -172,9 +166,8 @@ TEST(Graph, ListsTheCaptionsOfTheLastExport)
                                                              caption.width(), caption.height()}));
 }
 
-TEST(Graph, ListsZerosForACaptionThatIsHidden)
+TEST_F(GraphTest, ListsZerosForACaptionThatIsHidden)
 {
-    CTestGraph graph;
     graph.addItem(1, "a");
     (void)exported(graph, 400, 300);
     graph.setHorizontalAxis(AxisProperty::ShowLine, "");
@@ -182,18 +175,16 @@ TEST(Graph, ListsZerosForACaptionThatIsHidden)
     EXPECT_THAT(*graph.getRectangle(), ElementsAre(kNoRectangle));
 }
 
-TEST(Graph, HandsOutTheSameListEachTime)
+TEST_F(GraphTest, HandsOutTheSameListEachTime)
 {
-    CTestGraph graph;
     graph.addItem(1, "a");
     const auto* list = graph.getRectangle();
     EXPECT_EQ(graph.getRectangle(), list);
     EXPECT_EQ(list->size(), 1u);
 }
 
-TEST(Graph, ClearRemovesItemsAndKeepsSettings)
+TEST_F(GraphTest, ClearRemovesItemsAndKeepsSettings)
 {
-    CTestGraph graph;
     graph.addItem(1, "a");
     graph.setThreshold(3);
     graph.setFont("DejaVu Sans", 20);
@@ -203,18 +194,16 @@ TEST(Graph, ClearRemovesItemsAndKeepsSettings)
     EXPECT_EQ(graph.settings().fontSize, 20);
 }
 
-TEST(Graph, ANegativeThresholdActsAsZeroAtTheNextExport)
+TEST_F(GraphTest, ANegativeThresholdActsAsZeroAtTheNextExport)
 {
-    CTestGraph graph;
     graph.setThreshold(-4);
     EXPECT_EQ(graph.threshold(), -4.0);
     (void)exported(graph, 10, 10);
     EXPECT_EQ(graph.threshold(), 0.0);
 }
 
-TEST(Graph, SetsTheFont)
+TEST_F(GraphTest, SetsTheFont)
 {
-    CTestGraph graph;
     graph.setFont("DejaVu S\xc3\xa4ns", 20);
     EXPECT_EQ(graph.settings().fontFamily, QString::fromUtf8("DejaVu S\xc3\xa4ns"));
     graph.setFont("Tahoma", 11);
@@ -222,9 +211,8 @@ TEST(Graph, SetsTheFont)
     EXPECT_EQ(graph.settings().fontSize, 11);
 }
 
-TEST(Graph, SetsTheLocale)
+TEST_F(GraphTest, SetsTheLocale)
 {
-    CTestGraph graph;
     graph.setLocale("Deutsch", "at");
     EXPECT_EQ(graph.settings().locale.name(), QString("de_AT"));
 }

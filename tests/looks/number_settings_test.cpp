@@ -10,33 +10,26 @@
 namespace tovangl {
 namespace {
 
-VerticalBarGraph& withBars(VerticalBarGraph& chart)
+template <typename Chart>
+Chart& withItems(Chart& chart)
 {
     chart.setLocale("en", "us");
     for (const long value : {600L, 1500L, 1100L})
-        chart.addItem(value, "bar");
-    return chart;
-}
-
-PieGraph& withSlices(PieGraph& chart)
-{
-    chart.setLocale("en", "us");
-    for (const long value : {600L, 1500L, 1100L})
-        chart.addItem(value, "slice");
+        chart.addItem(value, "item");
     return chart;
 }
 
 QImage barsWithKilo(int size)
 {
     VerticalBarGraph chart(false);
-    withBars(chart).setKilo(size);
+    withItems(chart).setKilo(size);
     return render(chart);
 }
 
 QImage pieWithUnit(const std::string& unit)
 {
     PieGraph chart(false);
-    withSlices(chart).setUnit(unit);
+    withItems(chart).setUnit(unit);
     return render(chart);
 }
 
@@ -48,7 +41,7 @@ TEST(Kilo, ChangesStepsAndPrefixes)
 TEST(Kilo, IsTheDefaultForAnyOtherNumber)
 {
     VerticalBarGraph plain(false);
-    const QImage picture = render(withBars(plain));
+    const QImage picture = render(withItems(plain));
     for (const int size : {0, -1000, 1, 999, 1001, 1023, 2147483647})
         EXPECT_EQ(barsWithKilo(size), picture) << size;
     EXPECT_EQ(barsWithKilo(1024), picture);
@@ -66,7 +59,7 @@ TEST(Kilo, OfAChartWinsOverThatOfTheProcess)
 TEST(Kilo, IsSetByItsNameLikewise)
 {
     VerticalBarGraph chart(false);
-    withBars(chart);
+    withItems(chart);
     EXPECT_EQ(chart.setByName("kilo", "1000"), "");
     EXPECT_EQ(render(chart), barsWithKilo(1000));
     EXPECT_EQ(chart.setByName("kilo", "default"), "");
@@ -76,7 +69,7 @@ TEST(Kilo, IsSetByItsNameLikewise)
 TEST(Unit, IsBytesByDefault)
 {
     PieGraph plain(false);
-    EXPECT_EQ(render(withSlices(plain)), pieWithUnit("B"));
+    EXPECT_EQ(render(withItems(plain)), pieWithUnit("B"));
     EXPECT_NE(pieWithUnit("bit"), pieWithUnit("B"));
 }
 
@@ -84,7 +77,7 @@ TEST(Unit, IsSetByItsNameLikewise)
 {
     for (const char* unit : {"", "bit", "Öre", "a unit of many words"}) {
         PieGraph chart(false);
-        EXPECT_EQ(withSlices(chart).setByName("unit", unit), "");
+        EXPECT_EQ(withItems(chart).setByName("unit", unit), "");
         EXPECT_EQ(render(chart), pieWithUnit(unit)) << unit;
     }
 }
@@ -92,7 +85,7 @@ TEST(Unit, IsSetByItsNameLikewise)
 TEST(Unit, OfBrokenUtf8IsDrawnButNotTakenByName)
 {
     PieGraph chart(false);
-    EXPECT_NE(withSlices(chart).setByName("unit", "\xff"), "");
+    EXPECT_NE(withItems(chart).setByName("unit", "\xff"), "");
     EXPECT_EQ(render(chart), pieWithUnit("B"));
     EXPECT_EQ(pieWithUnit("\xff"), pieWithUnit("\xef\xbf\xbd"));
 }
@@ -100,7 +93,7 @@ TEST(Unit, OfBrokenUtf8IsDrawnButNotTakenByName)
 TEST(Unit, OfAnyLengthLeavesAPictureWithAPie)
 {
     PieGraph chart(false);
-    withSlices(chart).setUnit(std::string(1000, 'x'));
+    withItems(chart).setUnit(std::string(1000, 'x'));
     EXPECT_FALSE(render(chart).isNull());
     EXPECT_EQ(chart.problem(), Problem::None);
 }
@@ -109,8 +102,8 @@ TEST(ScaleSetting, IsSetByItsNameLikewise)
 {
     PieGraph bySetter(true);
     PieGraph byName(true);
-    withSlices(bySetter).setScale(2);
-    EXPECT_EQ(withSlices(byName).setByName("scale", "2"), "");
+    withItems(bySetter).setScale(2);
+    EXPECT_EQ(withItems(byName).setByName("scale", "2"), "");
     const QImage picture = render(bySetter, 200, 100);
     EXPECT_EQ(picture.size(), QSize(400, 200));
     EXPECT_EQ(render(byName, 200, 100), picture);
@@ -120,15 +113,15 @@ TEST(ScaleSetting, IsIgnoredInPrint)
 {
     PieGraph plain(true);
     PieGraph scaled(true);
-    withSlices(scaled).setScale(3);
+    withItems(scaled).setScale(3);
     EXPECT_EQ(printed(scaled, 200, 100, 2).decoded(),
-              printed(withSlices(plain), 200, 100, 2).decoded());
+              printed(withItems(plain), 200, 100, 2).decoded());
 }
 
 TEST(ScaleSetting, IsBroughtIntoItsRange)
 {
     PieGraph chart(false);
-    withSlices(chart).setScale(-5);
+    withItems(chart).setScale(-5);
     EXPECT_EQ(render(chart, 200, 100).size(), QSize(200, 100));
     chart.setScale(5000);
     EXPECT_EQ(render(chart, 2, 1).size(), QSize(2000, 1000));
@@ -137,7 +130,7 @@ TEST(ScaleSetting, IsBroughtIntoItsRange)
 TEST(ScaleSetting, HasRectanglesInPixelsOfThePicture)
 {
     PieGraph chart(false);
-    withSlices(chart);
+    withItems(chart);
     render(chart, 300, 150);
     const Slice once = chart.getSlice()->front();
     chart.setScale(2);
@@ -150,7 +143,7 @@ TEST(ScaleSetting, HasRectanglesInPixelsOfThePicture)
 TEST(ScaleSetting, ThatMakesThePictureTooLargeIsAProblem)
 {
     PieGraph chart(false);
-    withSlices(chart).setScale(1000);
+    withItems(chart).setScale(1000);
     EXPECT_TRUE(render(chart, 2000, 100).isNull());
     EXPECT_EQ(chart.problem(), Problem::SizeOutOfRange);
 }

@@ -12,12 +12,19 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-void addThree(PieGraph& pie)
+class Description : public ::testing::Test
 {
-    pie.addItem(430, "Food");
-    pie.addItem(12000, "Rent");
-    pie.addItem(20, "Books");
-}
+protected:
+    void addThree()
+    {
+        pie.addItem(430, "Food");
+        pie.addItem(12000, "Rent");
+        pie.addItem(20, "Books");
+    }
+
+    PieGraph pie{false};
+    VerticalBarGraph bars{false};
+};
 
 std::string describeAlone(const std::string& caption)
 {
@@ -27,93 +34,83 @@ std::string describeAlone(const std::string& caption)
     return pie.describe();
 }
 
-TEST(Description, NamesKindCountsAndExtremes)
+TEST_F(Description, NamesKindCountsAndExtremes)
 {
-    PieGraph pie(false);
     pie.setLocale("en", "us");
-    addThree(pie);
+    addThree();
     render(pie, 400, 300);
     EXPECT_EQ(pie.describe(), "Pie chart, 3 of 3 items drawn: the greatest is “Rent” with 12,000, "
                               "the least is “Books” with 20.");
 }
 
-TEST(Description, NamesTheKindOfBarChart)
+TEST_F(Description, NamesTheKindOfBarChart)
 {
-    VerticalBarGraph upright(false);
     HorizontalBarGraph lying(false);
-    EXPECT_THAT(upright.describe(), HasSubstr("Vertical bar chart, 0 of 0"));
+    EXPECT_THAT(bars.describe(), HasSubstr("Vertical bar chart, 0 of 0"));
     EXPECT_THAT(lying.describe(), HasSubstr("Horizontal bar chart, 0 of 0"));
 }
 
-TEST(Description, BeginsWithTheTitle)
+TEST_F(Description, BeginsWithTheTitle)
 {
-    PieGraph pie(false);
     pie.setTitle("Sales");
     EXPECT_EQ(pie.describe(), "“Sales”. Pie chart, 0 of 0 items drawn.");
     pie.setTitle(" \n ");
     EXPECT_EQ(pie.describe(), "Pie chart, 0 of 0 items drawn.");
 }
 
-TEST(Description, SaysATitleThatHasNoRoom)
+TEST_F(Description, SaysATitleThatHasNoRoom)
 {
-    VerticalBarGraph bars(false);
     bars.setTitle("Sales");
     render(bars, 20, 20);
     EXPECT_THAT(bars.describe(), HasSubstr("“Sales”. Vertical bar chart"));
 }
 
-TEST(Description, SaysALongTitleShortenedAndOnOneLine)
+TEST_F(Description, SaysALongTitleShortenedAndOnOneLine)
 {
-    PieGraph pie(false);
     pie.setTitle("a\nb" + std::string(1000, 'x'));
     EXPECT_THAT(pie.describe(), HasSubstr("“a b" + std::string(253, 'x') + "…”. Pie"));
 }
 
-TEST(Description, IsEmptyWithoutAChart)
+TEST_F(Description, IsEmptyWithoutAChart)
 {
     const Graph graph;
     EXPECT_EQ(graph.describe(), "");
 }
 
-TEST(Description, WritesNumbersAsTheLocaleHasIt)
+TEST_F(Description, WritesNumbersAsTheLocaleHasIt)
 {
-    PieGraph pie(false);
     pie.setLocale("de", "de");
-    addThree(pie);
+    addThree();
     render(pie, 400, 300);
     EXPECT_THAT(pie.describe(), HasSubstr("with 12.000,"));
 }
 
-TEST(Description, TellsWhatTheThresholdLeftIn)
+TEST_F(Description, TellsWhatTheThresholdLeftIn)
 {
-    PieGraph pie(false);
-    addThree(pie);
+    addThree();
     pie.setThreshold(1);
     render(pie, 400, 300);
     EXPECT_THAT(pie.describe(), HasSubstr("2 of 3 items drawn"));
     EXPECT_THAT(pie.describe(), HasSubstr("the least is “Food” with 430."));
 }
 
-TEST(Description, TellsThatNothingIsDrawnBeforeAnyRendering)
+TEST_F(Description, TellsThatNothingIsDrawnBeforeAnyRendering)
 {
-    PieGraph pie(false);
-    addThree(pie);
+    addThree();
     EXPECT_EQ(pie.describe(), "Pie chart, 0 of 3 items drawn.");
 }
 
-TEST(Description, TellsThatNothingIsDrawnAfterClear)
+TEST_F(Description, TellsThatNothingIsDrawnAfterClear)
 {
-    PieGraph pie(false);
-    addThree(pie);
+    addThree();
     render(pie, 400, 300);
     pie.clear();
     EXPECT_EQ(pie.describe(), "Pie chart, 0 of 0 items drawn.");
 }
 
-TEST(Description, TellsThatNothingIsDrawnWhereThePictureHasNoRoom)
+TEST_F(Description, TellsThatNothingIsDrawnWhereThePictureHasNoRoom)
 {
-    PieGraph pie(false);
-    addThree(pie);
+    addThree();
     render(pie, 400, 300);
     render(pie, 20, 300);
     EXPECT_EQ(pie.describe(), "Pie chart, 0 of 3 items drawn.");
@@ -121,9 +118,8 @@ TEST(Description, TellsThatNothingIsDrawnWhereThePictureHasNoRoom)
     EXPECT_EQ(pie.describe(), "Pie chart, 0 of 3 items drawn.");
 }
 
-TEST(Description, CountsABarWithoutExtent)
+TEST_F(Description, CountsABarWithoutExtent)
 {
-    VerticalBarGraph bars(false);
     bars.addItem(5, "five");
     bars.addItem(-5, "minus");
     render(bars, 400, 300);
@@ -131,14 +127,13 @@ TEST(Description, CountsABarWithoutExtent)
     EXPECT_THAT(bars.describe(), HasSubstr("the least is “minus” with -5."));
 }
 
-TEST(Description, MentionsOneItemOnce)
+TEST_F(Description, MentionsOneItemOnce)
 {
     EXPECT_EQ(describeAlone("Rent"), "Pie chart, 1 of 1 items drawn: “Rent” with 5.");
 }
 
-TEST(Description, MentionsTwoItemsWhereAllAreEqual)
+TEST_F(Description, MentionsTwoItemsWhereAllAreEqual)
 {
-    PieGraph pie(false);
     pie.addItem(5, "first");
     pie.addItem(5, "last");
     render(pie, 400, 300);
@@ -146,30 +141,30 @@ TEST(Description, MentionsTwoItemsWhereAllAreEqual)
     EXPECT_THAT(pie.describe(), HasSubstr("least is “last”"));
 }
 
-TEST(Description, LeavesOutAnEmptyCaption)
+TEST_F(Description, LeavesOutAnEmptyCaption)
 {
     EXPECT_EQ(describeAlone(""), "Pie chart, 1 of 1 items drawn: 5.");
 }
 
-TEST(Description, IsOneLineWithoutControlCharacters)
+TEST_F(Description, IsOneLineWithoutControlCharacters)
 {
     const std::string caption("a\nb\t\x01\x7f c\0d", 11);
     EXPECT_EQ(describeAlone(caption), "Pie chart, 1 of 1 items drawn: “a b c d” with 5.");
 }
 
-TEST(Description, CutsAHugeCaption)
+TEST_F(Description, CutsAHugeCaption)
 {
     const std::string sentence = describeAlone(std::string(1000000, 'x'));
     EXPECT_THAT(sentence, HasSubstr(std::string(256, 'x') + "…”"));
     EXPECT_THAT(sentence, Not(HasSubstr(std::string(257, 'x'))));
 }
 
-TEST(Description, LeavesACaptionOfTheGreatestLengthWhole)
+TEST_F(Description, LeavesACaptionOfTheGreatestLengthWhole)
 {
     EXPECT_THAT(describeAlone(std::string(256, 'x')), HasSubstr(std::string(256, 'x') + "”"));
 }
 
-TEST(Description, NeverCutsACharacterInTwo)
+TEST_F(Description, NeverCutsACharacterInTwo)
 {
     const std::string sentence = describeAlone("x" + std::string(255, 'y') + "😀😀");
     EXPECT_THAT(sentence, HasSubstr("y…”"));
@@ -177,9 +172,8 @@ TEST(Description, NeverCutsACharacterInTwo)
     EXPECT_THAT(shifted, HasSubstr(std::string(255, 'y') + "…”"));
 }
 
-TEST(Description, TakesTheExtremesOfTheNumbers)
+TEST_F(Description, TakesTheExtremesOfTheNumbers)
 {
-    VerticalBarGraph bars(false);
     bars.setLocale("en", "us");
     bars.addItem(std::numeric_limits<long>::max(), "most");
     bars.addItem(std::numeric_limits<long>::min(), "least");
