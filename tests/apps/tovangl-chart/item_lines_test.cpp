@@ -3,6 +3,7 @@
 #include "common/CFailure.h"
 #include "tovangl-chart/item_lines.h"
 
+#include <array>
 #include <gmock/gmock.h>
 #include <limits>
 
@@ -11,11 +12,6 @@ namespace {
 
 using ::testing::ThrowsMessage;
 
-ChartItem fillLine(std::string_view line)
-{
-    return parseItemLine(line, LineColors::Fill);
-}
-
 ChartItems itemsOf(const std::string& path)
 {
     ItemSource source;
@@ -23,93 +19,74 @@ ChartItems itemsOf(const std::string& path)
     return readItems(source, LineColors::Fill);
 }
 
-ChartItem barLine(std::string_view line)
+struct ReadLine
 {
-    return parseItemLine(line, LineColors::FillAndOutline);
+    const char* name;
+    LineColors colors;
+    const char* line;
+    long value;
+    const char* caption;
+    std::optional<Color> fill = {};
+    std::optional<Color> outline = {};
+};
+
+void PrintTo(const ReadLine& line, std::ostream* stream)
+{
+    *stream << line.name;
 }
 
-void expectColor(const std::optional<Color>& color, int red, int green, int blue)
+std::string shown(const std::optional<Color>& color)
 {
-    ASSERT_TRUE(color);
-    EXPECT_EQ(color->red, red);
-    EXPECT_EQ(color->green, green);
-    EXPECT_EQ(color->blue, blue);
+    return color ? ::testing::PrintToString(std::array{color->red, color->green, color->blue})
+                 : "none";
 }
 
-TEST(ItemLines, TheCaptionFollowsTheFirstWhiteSpace)
+class ItemOfALine : public ::testing::TestWithParam<ReadLine>
+{};
+
+TEST_P(ItemOfALine, HasValueCaptionAndColors)
 {
-    const ChartItem item = fillLine("12 two  words ");
-    EXPECT_EQ(item.value, 12);
-    EXPECT_EQ(item.caption, "two  words ");
-    EXPECT_FALSE(item.fill);
+    const ChartItem item = parseItemLine(GetParam().line, GetParam().colors);
+    EXPECT_EQ(item.value, GetParam().value);
+    EXPECT_EQ(item.caption, GetParam().caption);
+    EXPECT_EQ(shown(item.fill), shown(GetParam().fill));
+    EXPECT_EQ(shown(item.outline), shown(GetParam().outline));
 }
 
-TEST(ItemLines, ATabSeparatesAsABlankDoes)
-{
-    EXPECT_EQ(fillLine("4096\t/usr/share/a b").caption, "/usr/share/a b");
-    EXPECT_EQ(fillLine("4096 \t  /usr").caption, "/usr");
-}
+constexpr LineColors kSlice = LineColors::Fill;
+constexpr LineColors kBar = LineColors::FillAndOutline;
+constexpr Color kBlue = {0x10, 0xa0, 0xff};
 
-TEST(ItemLines, WhiteSpaceBeforeTheNumberIsSkipped)
-{
-    EXPECT_EQ(fillLine("     12 /bin/sh").value, 12);
-}
-
-TEST(ItemLines, NumbersReachTheEndsOf64Bits)
-{
-    EXPECT_EQ(fillLine("9223372036854775807 x").value, std::numeric_limits<long>::max());
-    EXPECT_EQ(fillLine("-9223372036854775808 x").value, std::numeric_limits<long>::min());
-    EXPECT_EQ(fillLine("+7 x").value, 7);
-    EXPECT_EQ(fillLine("0010 x").value, 10);
-}
-
-TEST(ItemLines, AColorFollowsATab)
-{
-    const ChartItem item = fillLine("5 rent\t#10A0ff");
-    EXPECT_EQ(item.caption, "rent");
-    expectColor(item.fill, 0x10, 0xa0, 0xff);
-}
-
-TEST(ItemLines, OnlyTheLastTabLeadsToAColor)
-{
-    EXPECT_EQ(fillLine("5 a\t#000000\tb").caption, "a\t#000000\tb");
-    EXPECT_EQ(fillLine("5 a\tb\t#000000").caption, "a\tb");
-}
+INSTANTIATE_TEST_SUITE_P(
+    ItemLines, ItemOfALine,
+    ::testing::Values(
+        ReadLine{"TheCaptionFollowsTheFirstBlank", kSlice, "12 two  words ", 12, "two  words "},
+        ReadLine{"ATabSeparates", kSlice, "4096\t/usr/share/a b", 4096, "/usr/share/a b"},
+        ReadLine{"WhiteSpaceOfBothKinds", kSlice, "4096 \t  /usr", 4096, "/usr"},
+        ReadLine{"WhiteSpaceBeforeTheNumber", kSlice, "     12 /bin/sh", 12, "/bin/sh"},
+        ReadLine{"TheGreatestNumber", kSlice, "9223372036854775807 x",
+                 std::numeric_limits<long>::max(), "x"},
+        ReadLine{"TheLeastNumber", kSlice, "-9223372036854775808 x",
+                 std::numeric_limits<long>::min(), "x"},
+        ReadLine{"APlusSign", kSlice, "+7 x", 7, "x"},
+        ReadLine{"ZerosBeforeANumber", kSlice, "0010 x", 10, "x"},
+        ReadLine{"AColorFollowsATab", kSlice, "5 rent\t#10A0ff", 5, "rent", kBlue},
+        ReadLine{"OnlyTheLastTabLeadsToAColor", kSlice, "5 a\t#000000\tb", 5, "a\t#000000\tb"},
+        ReadLine{"TabsBeforeThatBelongToTheCaption", kSlice, "5 a\tb\t#10a0ff", 5, "a\tb", kBlue},
+        ReadLine{"AColorIsNotTakenForTheCaption", kSlice, "5\t#102030", 5, "#102030"},
+        ReadLine{"ASliceTakesOneColor", kSlice, "5 a\t#010203\t#10a0ff", 5, "a\t#010203", kBlue},
+        ReadLine{"ABarTakesFillAndOutline", kBar, "5 a\t#10a0ff\t#040506", 5, "a", kBlue,
+                 Color{4, 5, 6}},
+        ReadLine{"ABarsOnlyColorIsItsFill", kBar, "5 a\t#10a0ff", 5, "a", kBlue}),
+    [](const auto& info) { return info.param.name; });
 
 TEST(ItemLines, WhatHasNotTheFormOfAColorBelongsToTheCaption)
 {
     for (const char* text : {"#12345", "#1234567", "#12345g", "123456", "red", "#12345 ", ""}) {
-        const ChartItem item = fillLine(std::string("5 a\t") + text);
+        const ChartItem item = parseItemLine(std::string("5 a\t") + text, kSlice);
         EXPECT_EQ(item.caption, std::string("a\t") + text);
         EXPECT_FALSE(item.fill) << text;
     }
-}
-
-TEST(ItemLines, AColorIsNotTakenForTheCaption)
-{
-    const ChartItem item = fillLine("5\t#102030");
-    EXPECT_EQ(item.caption, "#102030");
-    EXPECT_FALSE(item.fill);
-}
-
-TEST(ItemLines, ABarTakesFillAndOutline)
-{
-    const ChartItem item = barLine("5 a\t#010203\t#040506");
-    EXPECT_EQ(item.caption, "a");
-    expectColor(item.fill, 1, 2, 3);
-    expectColor(item.outline, 4, 5, 6);
-}
-
-TEST(ItemLines, ABarsOnlyColorIsItsFill)
-{
-    const ChartItem item = barLine("5 a\t#010203");
-    expectColor(item.fill, 1, 2, 3);
-    EXPECT_FALSE(item.outline);
-}
-
-TEST(ItemLines, ASliceTakesOneColor)
-{
-    EXPECT_EQ(fillLine("5 a\t#010203\t#040506").caption, "a\t#010203");
 }
 
 struct BadLine
@@ -129,7 +106,7 @@ class BadItemLines : public ::testing::TestWithParam<BadLine>
 
 TEST_P(BadItemLines, AreRefusedWithTheReason)
 {
-    EXPECT_THAT([] { (void)fillLine(GetParam().line); },
+    EXPECT_THAT([] { (void)parseItemLine(GetParam().line, kSlice); },
                 ThrowsMessage<CFailure>(GetParam().reason));
 }
 
