@@ -91,17 +91,6 @@ TEST_F(GraphTest, PrintsAtAMultipleOfTheSize)
     EXPECT_EQ(printed(graph, 400, 300, 2).decoded().size(), QSize(800, 600));
 }
 
-TEST_F(GraphTest, PrintsAtOnceTheSizeForAFactorBelowOne)
-{
-    EXPECT_EQ(printed(graph, 40, 30, -3).decoded().size(), QSize(40, 30));
-}
-
-TEST_F(GraphTest, ExportsTheSamePixelsTwice)
-{
-    const QImage first = exported(graph, 40, 30).decoded();
-    EXPECT_EQ(exported(graph, 40, 30).decoded(), first);
-}
-
 TEST_F(GraphTest, ExportsTheSamePixelsWithEveryCompression)
 {
     const QImage balanced = exported(graph, 400, 700).decoded();
@@ -150,13 +139,6 @@ TEST_F(GraphTest, AnEmptyPictureReplacesTheOneBefore)
     EXPECT_EQ(exported(graph, 0, 0).size, 0);
 }
 
-TEST_F(GraphTest, ListsOneZeroRectangleForEachItemBeforeAnyExport)
-{
-    graph.addItem(1, "a");
-    graph.addItem(2, "b");
-    EXPECT_THAT(*graph.getRectangle(), ElementsAre(kNoRectangle, kNoRectangle));
-}
-
 TEST_F(GraphTest, ListsTheCaptionsOfTheLastExport)
 {
     graph.addItem(1, "a");
@@ -181,25 +163,6 @@ TEST_F(GraphTest, HandsOutTheSameListEachTime)
     const auto* list = graph.getRectangle();
     EXPECT_EQ(graph.getRectangle(), list);
     EXPECT_EQ(list->size(), 1u);
-}
-
-TEST_F(GraphTest, ClearRemovesItemsAndKeepsSettings)
-{
-    graph.addItem(1, "a");
-    graph.setThreshold(3);
-    graph.setFont("DejaVu Sans", 20);
-    graph.clear();
-    EXPECT_TRUE(graph.getRectangle()->empty());
-    EXPECT_EQ(graph.threshold(), 3.0);
-    EXPECT_EQ(graph.settings().fontSize, 20);
-}
-
-TEST_F(GraphTest, ANegativeThresholdActsAsZeroAtTheNextExport)
-{
-    graph.setThreshold(-4);
-    EXPECT_EQ(graph.threshold(), -4.0);
-    (void)exported(graph, 10, 10);
-    EXPECT_EQ(graph.threshold(), 0.0);
 }
 
 TEST_F(GraphTest, SetsTheFont)

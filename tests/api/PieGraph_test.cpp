@@ -71,29 +71,6 @@ TEST_F(PieFacade, AColourOutOfRangeCountsAsNotSet)
     EXPECT_EQ(sliceAt(render(), 1, 1), QColor(23, 52, 124));
 }
 
-TEST_F(PieFacade, ASliceBelowTheThresholdKeepsAnEmptyPlaceInTheList)
-{
-    pie.setThreshold(5.0);
-    pie.addItem(4, "small");
-    pie.addItem(96, "large");
-    (void)render();
-    ASSERT_EQ(rectangles().size(), 2u);
-    EXPECT_EQ(rectangles()[0], kNoRectangle);
-    EXPECT_NE(rectangles()[1], kNoRectangle);
-}
-
-TEST_F(PieFacade, ASliceBelowTheThresholdKeepsTheRectangleOfAnEarlierRendering)
-{
-    pie.addItem(4, "small");
-    pie.addItem(96, "large");
-    (void)render();
-    const Rectangle earlier = rectangles()[0];
-    ASSERT_NE(earlier, kNoRectangle);
-    pie.setThreshold(5.0);
-    (void)render(2 * kWidth, kHeight);
-    EXPECT_EQ(rectangles()[0], earlier);
-}
-
 TEST_F(PieFacade, NegativeAndZeroValuesAreAcceptedButNotDrawn)
 {
     EXPECT_TRUE(pie.addItem(-100, "negative"));

@@ -176,19 +176,6 @@ TYPED_TEST(BarFacade, HasNoBarRectanglesBeforeAnExport)
     EXPECT_EQ(copied(chart.getRectangle()), std::vector<Rectangle>{kNoRectangle});
 }
 
-TYPED_TEST(BarFacade, HasOneBarRectangleForEveryBarDrawn)
-{
-    TypeParam chart;
-    chart.addItem(100, "a");
-    chart.addItem(1, "b");
-    chart.addItem(90, "c");
-    chart.setThreshold(5);
-    (void)render(chart);
-    EXPECT_THAT(copied(chart.getBarRectangle()), SizeIs(2));
-    EXPECT_THAT(copied(chart.getRectangle()), SizeIs(3));
-    EXPECT_EQ(copied(chart.getRectangle())[1], kNoRectangle);
-}
-
 TYPED_TEST(BarFacade, BarRectanglesAreThoseOfTheChart)
 {
     TypeParam chart;

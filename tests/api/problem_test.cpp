@@ -45,13 +45,6 @@ TEST_P(ProblemOfEveryChart, IsNoneWhereTheChartWasDrawn)
     EXPECT_EQ(graph().problem(), Problem::None);
 }
 
-TEST_P(ProblemOfEveryChart, IsNoneForAChartWithoutItems)
-{
-    graph().clear();
-    render(kSide, kSide);
-    EXPECT_EQ(graph().problem(), Problem::None);
-}
-
 TEST_P(ProblemOfEveryChart, IsAPictureWithoutRoomThatIsMadeAllTheSame)
 {
     render(kSideWithoutRoom, kSideWithoutRoom);

@@ -245,18 +245,6 @@ TEST_F(StandingBars, FixedBelowTheTopLeaveTheOtherAxisFree)
     EXPECT_EQ(chart.layout(kScreen).plotRect.bottomLeft(), QPoint(left, 120));
 }
 
-TEST_F(StandingBars, StandOnTheCategoryLineInTheirOrder)
-{
-    chart.addMany(4);
-    const CBarLayout layout = chart.layout(kScreen);
-    int behind = layout.plotRect.left();
-    for (const CBar& bar : layout.bars) {
-        EXPECT_EQ(bar.rect.bottom(), layout.plotRect.bottom());
-        EXPECT_GE(bar.rect.left(), behind);
-        behind = bar.rect.right() + 1;
-    }
-}
-
 TEST_F(StandingBars, HaveNoValuesBesideThem)
 {
     chart.addMany(3);

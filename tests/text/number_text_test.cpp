@@ -104,11 +104,6 @@ TEST(NumberText, GroupsByTwoWhereALocaleDoes)
     EXPECT_EQ(written(1234567, PlainNumber, kKilo1024, "en_IN"), "12,34,567");
 }
 
-TEST(NumberText, APlainNegativeNumberKeepsItsGrouping)
-{
-    EXPECT_EQ(written(-5000, PlainNumber), "-5,000");
-}
-
 TEST(NumberText, APlainNegativeNumberHasTheSignOfTheLocale)
 {
     const QString minus = QString(QChar(0x2212));
@@ -120,13 +115,6 @@ TEST(NumberText, APrefixedNegativeNumberHasAnAsciiHyphenDeliberately)
     EXPECT_EQ(written(-5, PrefixedWhole, kKilo1024, "sv_SE"), "-5");
     EXPECT_EQ(written(-5, PrefixedFromTen, kKilo1024, "sv_SE"), "-5");
     EXPECT_EQ(written(-5, PrefixedOneDecimal, kKilo1024, "sv_SE"), "-5");
-}
-
-TEST(NumberText, BelowTheThresholdThereIsNeitherPrefixNorTrailingSpace)
-{
-    EXPECT_EQ(written(999, PrefixedWhole), "999");
-    EXPECT_EQ(written(9, PrefixedFromTen), "9");
-    EXPECT_EQ(written(999, PrefixedOneDecimal), "999");
 }
 
 TEST(NumberText, PrefixedFromTenScalesFromTenButDividesByAWholeKiloDeliberately)
