@@ -4,7 +4,6 @@
 
 #include "common/CFailure.h"
 #include "common/COpenFile.h"
-#include "common/text_checks.h"
 
 #include <cerrno>
 #include <csignal>

@@ -10,7 +10,6 @@
 #include "tovangl-chart/option_adding.h"
 
 #include <cstdlib>
-#include <limits>
 #include <memory>
 #include <sched.h>
 #include <thread>

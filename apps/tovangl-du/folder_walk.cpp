@@ -3,7 +3,6 @@
 #include "tovangl-du/folder_walk.h"
 
 #include "common/CFailure.h"
-#include "common/text_checks.h"
 
 #include <chrono>
 #include <filesystem>

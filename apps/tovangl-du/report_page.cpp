@@ -7,7 +7,6 @@
 #include "common/page_picture.h"
 #include "tovangl-du/byte_text.h"
 
-#include <algorithm>
 #include <iterator>
 #include <utility>
 

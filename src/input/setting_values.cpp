@@ -7,7 +7,6 @@
 
 #include <array>
 #include <charconv>
-#include <limits>
 
 namespace tovangl {
 

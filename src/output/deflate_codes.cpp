@@ -3,7 +3,6 @@
 #include "output/deflate_codes.h"
 
 #include <algorithm>
-#include <cstdint>
 
 namespace tovangl {
 

@@ -5,7 +5,6 @@
 #include "text/character_map.h"
 #include "text/font_names.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>

@@ -6,7 +6,6 @@
 #include "support/small_font.h"
 #include <tovangl/tovangl.h>
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 

@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
-#include <memory>
 #include <type_traits>
 
 namespace tovangl {

@@ -3,7 +3,6 @@
 #include "layout/plain_slice_angles.h"
 #include "layout/slice_angles.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
 #include <numeric>

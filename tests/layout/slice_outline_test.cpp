@@ -2,7 +2,6 @@
 #include "layout/slice_outline.h"
 
 #include <QPainterPath>
-#include <QPolygonF>
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,6 @@
 #include "output/CDeflater.h"
 #include "output/deflate_streams.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace tovangl {

@@ -52,6 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
                       WantedColumns{"ACaption", want(&CsvColumns::caption, "amount"), 1, 0},
                       WantedColumns{"AColor", want(&CsvColumns::color, "region"), 1, 2, 0},
                       WantedColumns{"ANumber", want(&CsvColumns::value, "4"), 0, 3},
+                      WantedColumns{"TheFirstNumber", want(&CsvColumns::value, "1"), 1, 0},
                       WantedColumns{"ANameBeforeANumber", want(&CsvColumns::value, "2"), 0, 2}),
     [](const auto& info) { return info.param.name; });
 

@@ -3,10 +3,8 @@
 #include "apps/support/CProgramTest.h"
 #include "apps/support/batch_lines.h"
 
-#include <filesystem>
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
-#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
