@@ -22,8 +22,10 @@ CAnyChart randomChart(ChartKind kind, CDice& dice)
                                                       "two\nlines", "Größe & Maß",
                                                       "\xd8\xa7\xd9\x84\xd8\xb9"};
     CAnyChart chart(kind, dice.oneIn(2));
-    for (int count = dice.roll(1, 12); count > 0; --count)
-        chart.addItem(dice.roll(0, 90000), dice.pick(kCaptions));
+    for (int count = dice.roll(1, 12); count > 0; --count) {
+        const char* caption = dice.pick(kCaptions); // first, whichever compiler it is
+        chart.addItem(dice.roll(0, 90000), caption);
+    }
     if (dice.oneIn(3))
         chart.graph().setTitle("A title");
     if (dice.oneIn(3))
