@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // How the time of a chart is split: layout, picture (layout and painting), packing and
 // compressing.
-#include "api/CBarBase.h"
-#include "api/CPieGraph.h"
+#include "chart/CBarBase.h"
+#include "chart/CPieGraph.h"
 #include "charts/case_list.h"
 #include "output/CDeflater.h"
 #include "output/packed_picture.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Times what Qt's own writers of SVG and PDF make of this library's charts: the same layout,
 // painted on them. After the arguments of every measuring program it takes "svg" or "pdf".
-#include "api/CBarBase.h"
-#include "api/CPieGraph.h"
-#include "api/CRendering.h"
+#include "chart/CBarBase.h"
+#include "chart/CPieGraph.h"
 #include "paint/CCanvas.h"
+#include "process/CRendering.h"
 #include "support/timed_rounds.h"
 
 #include <QBuffer>

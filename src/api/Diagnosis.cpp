@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // What the library finds on the machine.
-#include "api/CAddedFonts.h"
-#include "api/CRendering.h"
 #include "api/conversions.h"
-#include "api/qt_threads.h"
 #include "input/CGraph1dSettings.h"
 #include "layout/CRequest.h"
 #include "paint/CCanvas.h"
+#include "process/CAddedFonts.h"
+#include "process/CRendering.h"
+#include "process/qt_threads.h"
 #include <tovangl/Diagnosis.h>
 
 #include <QGuiApplication>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Fonts that the host brings along.
-#include "api/CAddedFonts.h"
-#include "api/CMessageSilencer.h"
-#include "api/CRendering.h"
-#include "api/font_gate.h"
-#include "api/host_file.h"
+#include "process/CAddedFonts.h"
+#include "process/CMessageSilencer.h"
+#include "process/CRendering.h"
+#include "process/font_gate.h"
+#include "process/host_file.h"
 #include "text/font_file.h"
 #include <tovangl/Font.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What every chart of the public interface can do.
-#include "api/CGraph1dBase.h"
-#include "api/chart_rendering.h"
 #include "api/conversions.h"
+#include "chart/CGraph1dBase.h"
+#include "chart/chart_rendering.h"
 #include "input/CGraph1dInput.h"
 #include "input/themes.h"
 #include <tovangl/Graph.h>

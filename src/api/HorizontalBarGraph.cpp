@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The horizontal bar chart.
-#include "api/CBarBase.h"
 #include "api/bar_facade.h"
 #include "api/conversions.h"
+#include "chart/CBarBase.h"
 #include <tovangl/HorizontalBarGraph.h>
 
 #include <memory>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The pie chart of the public interface.
-#include "api/CPieGraph.h"
 #include "api/conversions.h"
-#include "api/slice_records.h"
+#include "chart/CPieGraph.h"
+#include "chart/slice_records.h"
 #include <tovangl/PieGraph.h>
 
 #include <memory>

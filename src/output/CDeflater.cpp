@@ -2,8 +2,8 @@
 // Compresses the rows of one picture.
 #include "output/CDeflater.h"
 
+#include "deflate/row_deflating.h"
 #include "output/piecewise_deflating.h"
-#include "output/row_deflating.h"
 
 #include <libdeflate.h>
 #include <new>

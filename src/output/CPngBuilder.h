@@ -4,7 +4,7 @@
 #ifndef TOVANGL_OUTPUT_CPNGBUILDER_H
 #define TOVANGL_OUTPUT_CPNGBUILDER_H
 
-#include "output/CByteRange.h"
+#include "deflate/CByteRange.h"
 #include "output/CPictureFile.h"
 #include "output/packed_picture.h"
 

@@ -2,7 +2,7 @@
 // A picture's rows in the form that a PNG file compresses.
 #include "output/packed_picture.h"
 
-#include "output/deflate_codes.h"
+#include "deflate/deflate_codes.h"
 #include "output/opacity.h"
 #include "output/picture_colors.h"
 #include "output/pixel_blocks.h"

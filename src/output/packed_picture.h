@@ -4,8 +4,8 @@
 #ifndef TOVANGL_OUTPUT_PACKED_PICTURE_H
 #define TOVANGL_OUTPUT_PACKED_PICTURE_H
 
-#include "output/CByteRange.h"
-#include "output/CMatchFinder.h"
+#include "deflate/CByteRange.h"
+#include "deflate/CMatchFinder.h"
 #include <tovangl/Compression.h>
 
 #include <QRgb>

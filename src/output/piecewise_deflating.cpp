@@ -2,10 +2,10 @@
 // Compresses rows of which many repeat the row above.
 #include "output/piecewise_deflating.h"
 
-#include "output/CBitWriter.h"
-#include "output/last_block.h"
+#include "deflate/CBitWriter.h"
+#include "deflate/last_block.h"
+#include "deflate/zlib_frame.h"
 #include "output/still_rows_block.h"
-#include "output/zlib_frame.h"
 
 #include <libdeflate.h>
 

@@ -2,7 +2,7 @@
 // Compresses rows of which it is known that they are all the same.
 #include "output/still_rows_block.h"
 
-#include "output/block_header.h"
+#include "deflate/block_header.h"
 #include "output/packed_picture.h"
 
 namespace tovangl {

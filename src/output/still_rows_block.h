@@ -4,7 +4,7 @@
 #ifndef TOVANGL_OUTPUT_STILL_ROWS_BLOCK_H
 #define TOVANGL_OUTPUT_STILL_ROWS_BLOCK_H
 
-#include "output/CBitWriter.h"
+#include "deflate/CBitWriter.h"
 
 namespace tovangl {
 

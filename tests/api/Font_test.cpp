@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Fonts that the host brings along. They stay for the process, so that each test has its own
 // family.
-#include "api/CAddedFonts.h"
+#include "process/CAddedFonts.h"
 #include "support/host_pictures.h"
 #include "support/small_font.h"
 #include <tovangl/tovangl.h>

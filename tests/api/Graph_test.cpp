@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "api/CBarBase.h"
+#include "chart/CBarBase.h"
 #include "support/host_pictures.h"
 #include <tovangl/tovangl.h>
 

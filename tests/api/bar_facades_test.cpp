@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The facades of the two bar charts.
-#include "api/CBarBase.h"
+#include "chart/CBarBase.h"
 #include "support/host_pictures.h"
 #include <tovangl/tovangl.h>
 

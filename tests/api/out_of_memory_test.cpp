@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Charts while memory runs out at every place in turn. This program replaces operator new, for Qt
 // too: renderings, in which Qt would lose some memory of its own, are for the programs in memory/.
-#include "api/CBarBase.h"
-#include "api/CPieGraph.h"
 #include "api/conversions.h"
+#include "chart/CBarBase.h"
+#include "chart/CPieGraph.h"
 #include "output/CDeflater.h"
 #include "support/public_records.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a chart of any kind says of a rendering that went wrong.
-#include "api/problem_text.h"
+#include "chart/problem_text.h"
 #include "support/CAnyChart.h"
 #include "support/host_pictures.h"
 #include <tovangl/tovangl.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a plugin with a static copy of the library inside adds: the scope that a rendering opens.
-#include "api/CMessageSilencer.h"
+#include "process/CMessageSilencer.h"
 
 extern "C" __attribute__((visibility("default"))) void* openRendering()
 {

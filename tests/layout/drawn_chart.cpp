@@ -2,9 +2,9 @@
 // Draws a described chart and tells its layout.
 #include "layout/drawn_chart.h"
 
-#include "api/CBarBase.h"
-#include "api/CPieGraph.h"
 #include "api/bar_facade.h"
+#include "chart/CBarBase.h"
+#include "chart/CPieGraph.h"
 #include "layout/CDump.h"
 #include "layout/CTextRecorder.h"
 #include "layout/layout_dump.h"

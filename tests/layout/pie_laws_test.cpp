@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What holds for every pie, tried on random ones.
-#include "api/CPieGraph.h"
+#include "chart/CPieGraph.h"
 #include "support/CTestPie.h"
 
 #include <algorithm>

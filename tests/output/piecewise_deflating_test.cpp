@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "deflate/deflate_streams.h"
 #include "output/CDeflater.h"
-#include "output/deflate_streams.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output/deflate_streams.h"
+#include "deflate/deflate_streams.h"
 #include "output/still_rows_block.h"
 
 #include <gtest/gtest.h>
