@@ -12,7 +12,8 @@ namespace tovangl {
 enum class Compression
 {
     Balanced, ///< small files, which is the default
-    Fast      ///< files of about the same size, seldom twice as large, in about half the time
+    Fast      ///< files of about the same size, seldom twice as large, in about half the time;
+              ///< the same files as Balanced where a large picture has more than 256 colours
 };
 
 /// The name of the compressor that Compression::Fast uses in this build of the library: "tovangl",

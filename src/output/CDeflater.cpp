@@ -14,7 +14,7 @@ namespace tovangl {
 namespace {
 
 // Small pictures can afford a longer search, which saves an eighth of the file and costs a tenth of
-// a millisecond. In large ones it takes long in the antialiased edges of pies, and gains little.
+// a millisecond. In large ones it takes long, and gains little.
 constexpr std::size_t kSmallPicture = 128 * 1024; // bytes of packed rows
 constexpr std::size_t kLargePicture = 512 * 1024;
 constexpr int kSmallPictureLevel = 7;
@@ -32,6 +32,13 @@ constexpr std::size_t kCrowded = 20;
 bool isCrowded(std::size_t bytes, std::size_t stream)
 {
     return bytes < kSmallPicture && stream * kCrowded > bytes;
+}
+
+// In large pictures of many colours it takes a quarter of the time, and all files together are as
+// large as by the longer search, within a fiftieth.
+bool isOwnCompressorBest(std::size_t bytes, CRowShape shape)
+{
+    return bytes >= kSmallPicture && shape.pixelBytes > 1;
 }
 
 int levelFor(std::size_t bytes, Compression compression)
@@ -65,7 +72,7 @@ CDeflater::CDeflater(CByteRange bytes, Compression compression, CStillRows still
 
 std::size_t CDeflater::deflate(CByteRoom room)
 {
-    if (m_compression == Compression::Fast) {
+    if (m_compression == Compression::Fast || isOwnCompressorBest(m_bytes.size, m_shape)) {
         const std::size_t size = deflateRows(m_bytes, m_shape, room);
         if (size > 0 && !isCrowded(m_bytes.size, size))
             return size;

@@ -352,8 +352,8 @@ INSTANTIATE_TEST_SUITE_P(Pictures, EveryOption, ::testing::ValuesIn(kOptionCases
 TEST_F(Pictures, AreTheSameWhenSavedFastInOtherFiles)
 {
     folder.write("items", kItems);
-    runWell("tovangl-chart pie items -o small.png");
-    runWell("tovangl-chart pie --fast items -o fast.png");
+    runWell("tovangl-chart bars items -o small.png");
+    runWell("tovangl-chart bars --fast items -o fast.png");
     EXPECT_EQ(decodePng(folder.read("fast.png")), decodePng(folder.read("small.png")));
     EXPECT_NE(folder.read("fast.png"), folder.read("small.png"));
 }
