@@ -37,7 +37,7 @@ const char* CBarBase::kindName() const
 
 CItemSelection CBarBase::selectItems() const
 {
-    return selectBars(input().items, input().settings.threshold);
+    return selectBars(input().items, threshold());
 }
 
 } // namespace tovangl

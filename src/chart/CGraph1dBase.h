@@ -47,7 +47,7 @@ public:
     void clear();
     /// Items whose share of the total is smaller are left out; per cent.
     void setThreshold(double percent);
-    /// The threshold that was set; after a rendering, as applied there.
+    /// The threshold that was set; as it was applied, once a rendering has done so.
     [[nodiscard]] double threshold() const;
     /// Sets a setting by its name; returns what is wrong with that, or nothing.
     [[nodiscard]] std::string setByName(std::string_view name, std::string_view value);

@@ -22,7 +22,7 @@ protected:
     [[nodiscard]] const char* kindName() const override { return "Pie chart"; }
     [[nodiscard]] CItemSelection selectItems() const override
     {
-        return selectSlices(input().items, input().settings.threshold);
+        return selectSlices(input().items, threshold());
     }
 };
 

@@ -255,6 +255,16 @@ TEST(PieWithoutAnyShare, TellsTheNegativeThresholdThatWasSet)
     EXPECT_EQ(pie.threshold(), -4.0);
 }
 
+TEST_P(EveryChart, TellsTheThresholdThatActedAlsoAfterARenderingWithoutItems)
+{
+    add(1);
+    chart->setThreshold(-4);
+    (void)render();
+    chart->clear();
+    (void)render();
+    EXPECT_EQ(chart->threshold(), 0.0);
+}
+
 // --- clear()
 
 TEST_P(EveryChart, HasNoItemsAndTellsOfNoneAfterClear)
