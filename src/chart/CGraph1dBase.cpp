@@ -217,6 +217,7 @@ QImage CGraph1dBase::draw(const CRequest& request)
     if (!begin(request))
         return QImage();
     QImage image = makeRasterSurface(request.width, request.height);
+    fillBeyondPainters(image, input().settings.colors.picture);
     if (!image.isNull())
         m_problem = paintOn(image, request);
     return image;

@@ -2,8 +2,10 @@
 // Makes the picture that a chart is drawn into.
 #include "output/raster_surface.h"
 
+#include <QColor>
 #include <QImage>
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 
@@ -14,6 +16,7 @@ namespace {
 constexpr int kLargestSide = 1000000; // pixels
 constexpr std::int64_t kBytesPerPixel = 4;
 constexpr std::int64_t kLargestPicture = std::numeric_limits<std::int32_t>::max(); // bytes
+constexpr int kLargestPaintedSide = 32767;                                         // pixels
 
 } // namespace
 
@@ -27,6 +30,12 @@ bool isRasterSize(int width, int height)
 QImage makeRasterSurface(int width, int height)
 {
     return isRasterSize(width, height) ? QImage(width, height, QImage::Format_ARGB32) : QImage();
+}
+
+void fillBeyondPainters(QImage& image, const QColor& color)
+{
+    if (std::max(image.width(), image.height()) > kLargestPaintedSide)
+        image.fill(color);
 }
 
 } // namespace tovangl

@@ -4,6 +4,7 @@
 #ifndef TOVANGL_OUTPUT_RASTER_SURFACE_H
 #define TOVANGL_OUTPUT_RASTER_SURFACE_H
 
+class QColor;
 class QImage;
 
 namespace tovangl {
@@ -15,6 +16,11 @@ namespace tovangl {
 /// A new picture in ARGB32, not yet painted. Null if isRasterSize() is false, or if memory runs
 /// out.
 [[nodiscard]] QImage makeRasterSurface(int width, int height);
+
+/// Fills a new picture that is longer or higher than a painter reaches: the pixels beyond column or
+/// row 32,766 would otherwise stay what was in memory before. Smaller pictures stay as they are,
+/// because painters fill them.
+void fillBeyondPainters(QImage& image, const QColor& color);
 
 } // namespace tovangl
 

@@ -123,6 +123,20 @@ TEST_P(EveryChart, HasNoPictureOfASizeThatNoneCanHave)
     EXPECT_FALSE(chart->isDrawn());
 }
 
+TEST_P(EveryChart, LeavesNothingOfTheMemoryWhereNoPainterReaches)
+{
+    constexpr int kPaintedSide = 32767;
+    constexpr int kBeyond = 40;
+    constexpr int kLong = kPaintedSide + kBeyond;
+    addLargeAndSmall();
+    chart->input().settings.colors.picture = Qt::yellow;
+    const QRgb yellow = QColor(Qt::yellow).rgba();
+    const QRect columns(kPaintedSide, 0, kBeyond, kHeight);
+    EXPECT_TRUE(isFilled(render(kLong, kHeight), columns, yellow));
+    const QRect rows(0, kPaintedSide, kWidth, kBeyond);
+    EXPECT_TRUE(isFilled(render(kWidth, kLong), rows, yellow));
+}
+
 TEST_P(EveryChart, IsAWhitePictureWhereThereIsNoRoom)
 {
     addLargeAndSmall();
