@@ -2,6 +2,7 @@
 // What surrounds every rendering of a facade.
 #include "process/CRendering.h"
 
+#include "process/message_filter.h"
 #include "process/offscreen_application.h"
 
 #include <atomic>
@@ -13,9 +14,14 @@ namespace {
 
 std::atomic<bool> processEnds{false};
 
+// What is drawn from here on is refused. Other threads finish their pictures first, because all
+// that they paint with is destroyed next. A thread that ends the process while it draws itself, as
+// a handler of signals may, cannot wait for its own picture.
 void noteEnd()
 {
     processEnds = true;
+    if (!isSilenced())
+        const CFontChange pictures;
 }
 
 } // namespace

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// A host whose processes end while several of their threads draw.
+#include "draw_pie.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+constexpr int kChildren = 30;
+constexpr int kThreads = 4;
+constexpr unsigned kPatience = 30; // seconds
+
+void drawOn()
+{
+    for (;;)
+        static_cast<void>(exportPie());
+}
+
+[[noreturn]] void endWhileThreadsDraw()
+{
+    alarm(kPatience);
+    static_cast<void>(exportPie());
+    for (int thread = 0; thread < kThreads; ++thread)
+        std::thread(drawOn).detach();
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    std::exit(0);
+}
+
+} // namespace
+
+int main(int, char** arguments)
+{
+    for (int i = 0; i < kChildren; ++i) {
+        const pid_t child = fork();
+        if (child == 0)
+            endWhileThreadsDraw();
+        int status = -1;
+        if (waitpid(child, &status, 0) != child || status != 0)
+            return 1;
+    }
+    return drawPie(arguments[1], "main") ? 0 : 1;
+}
