@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <random>
 #include <unistd.h>
 
 namespace tovangl::program {
@@ -43,10 +44,7 @@ void CWholeFile::publish()
             m_file.close();
             return;
         }
-        const std::string name = provisionalName();
-        if (!link(name))
-            throw systemFailure(m_path);
-        m_provisional = name;
+        m_provisional = linkProvisionally();
     }
     m_file.close();
     if (::rename(m_provisional.c_str(), m_path.c_str()) != 0)
@@ -79,10 +77,20 @@ bool CWholeFile::link(const std::string& name) const
     return ::linkat(AT_FDCWD, descriptor.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-std::string CWholeFile::provisionalName() const
+// Another process can have the name already: in containers that share a folder, many have the same
+// number, and a killed one leaves its file.
+std::string CWholeFile::linkProvisionally() const
 {
-    return folderOf(m_path) + ".tovangl-" + std::to_string(::getpid()) + '-' +
-           std::to_string(m_descriptor);
+    constexpr int kMostNames = 100;
+    std::random_device random;
+    for (int names = 0; names < kMostNames; ++names) {
+        std::string name = folderOf(m_path) + ".tovangl-" + std::to_string(random());
+        if (link(name))
+            return name;
+        if (errno != EEXIST)
+            break;
+    }
+    throw systemFailure(m_path);
 }
 
 } // namespace tovangl::program

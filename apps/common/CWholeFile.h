@@ -36,7 +36,7 @@ private:
     [[nodiscard]] int open();
     [[nodiscard]] int openNamed();
     [[nodiscard]] bool link(const std::string& name) const;
-    [[nodiscard]] std::string provisionalName() const;
+    [[nodiscard]] std::string linkProvisionally() const;
 
     std::string m_path;
     std::string m_provisional; // empty: no name yet, or no more

@@ -5,6 +5,7 @@
 #include "common/CWholeFile.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 namespace tovangl::program {
 namespace {
@@ -68,6 +69,18 @@ TEST(WholeFile, OfTwoWritersTheLaterOneStays)
     second.publish();
     first.publish();
     EXPECT_EQ(folder.read("a"), "first");
+}
+
+// A process of the same number has left them: in containers, many have it.
+TEST(WholeFile, ReplacesAFileBesideThoseOfAKilledProcess)
+{
+    constexpr int kDescriptors = 100;
+    const CTemporaryFolder folder;
+    folder.write("a", "old");
+    for (int i = 0; i < kDescriptors; ++i)
+        folder.write(".tovangl-" + std::to_string(::getpid()) + '-' + std::to_string(i), "");
+    writeWhole(folder.pathOf("a"), "new");
+    EXPECT_EQ(folder.read("a"), "new");
 }
 
 TEST(WholeFile, HasTheUsualPermissions)
