@@ -45,9 +45,13 @@ std::string_view pictureEnd(PictureFormat format)
     return kPngEnd;
 }
 
-// After a failure of the machine, a file can be there without its bytes.
+// After a failure of the machine, a file can be there without its bytes. Only a file is opened: a
+// pipe would wait for somebody to write.
 bool endsIn(const std::string& path, std::string_view end)
 {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        return false;
     std::ifstream file(path, std::ios::binary);
     std::string found(end.size(), ' ');
     file.seekg(-static_cast<std::streamoff>(end.size()), std::ios::end);

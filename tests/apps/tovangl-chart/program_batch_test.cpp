@@ -175,6 +175,15 @@ TEST_F(Batch, ResumesWithoutDrawingWhatIsThere)
     EXPECT_EQ(shell("rm */c0.png; diff -r p whole").status, 0);
 }
 
+TEST_F(Batch, ResumesWhereAPipeHasTheNameOfAPicture)
+{
+    folder.write("line", chartLine("a"));
+    const ShellResult result =
+        shell("mkdir p; mkfifo p/a.png; timeout 20 tovangl-chart batch line -o p --resume");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(shell("test -s p/a.png").status, 0);
+}
+
 class BatchFormat : public CProgramTest, public ::testing::WithParamInterface<const char*>
 {};
 
