@@ -49,9 +49,12 @@ BatchCounts CBatchRun::run()
     return m_counts;
 }
 
+// Where a thread has failed, whoever writes the lines may wait for the end of this run and write no
+// more of them.
 void CBatchRun::readLines()
 {
-    while (std::optional<NumberedLine> line = m_lines.next()) {
+    const auto isWanted = [this] { return !m_queue.isStopped(); };
+    while (std::optional<NumberedLine> line = m_lines.next(isWanted)) {
         if (!put(std::move(*line)))
             return;
     }

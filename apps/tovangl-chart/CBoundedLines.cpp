@@ -68,22 +68,22 @@ CBoundedLines::~CBoundedLines()
         ::close(m_file);
 }
 
-std::optional<NumberedLine> CBoundedLines::next()
+std::optional<NumberedLine> CBoundedLines::next(const IsWanted& isWanted)
 {
-    std::optional<NumberedLine> line = readLine();
+    std::optional<NumberedLine> line = readLine(isWanted);
     while (line && isBlank(*line))
-        line = readLine();
+        line = readLine(isWanted);
     return line;
 }
 
-std::optional<NumberedLine> CBoundedLines::readLine()
+std::optional<NumberedLine> CBoundedLines::readLine(const IsWanted& isWanted)
 {
     NumberedLine line;
     std::size_t end = m_buffer.find('\n', m_next);
     bool isThere = m_next < m_buffer.size();
     while (end == std::string::npos) {
         append(line, m_buffer.size());
-        if (!fillBuffer())
+        if (!fillBuffer(isWanted))
             break;
         isThere = true;
         end = m_buffer.find('\n');
@@ -116,14 +116,13 @@ void CBoundedLines::append(NumberedLine& line, std::size_t end)
 }
 
 // Replaces what the buffer holds; false at the end of the input.
-bool CBoundedLines::fillBuffer()
+bool CBoundedLines::fillBuffer(const IsWanted& isWanted)
 {
     m_buffer.resize(kChunkBytes);
     m_next = 0;
     ssize_t count = -1;
     do {
-        waitForInput();
-        count = ::read(m_file, m_buffer.data(), kChunkBytes);
+        count = waitForInput(isWanted) ? ::read(m_file, m_buffer.data(), kChunkBytes) : 0;
     } while (count < 0 && (errno == EINTR || errno == EAGAIN));
     if (count < 0)
         throw systemFailure(m_name);
@@ -131,12 +130,16 @@ bool CBoundedLines::fillBuffer()
     return count > 0;
 }
 
-void CBoundedLines::waitForInput() const
+// False if no more input is wanted.
+bool CBoundedLines::waitForInput(const IsWanted& isWanted) const
 {
     pollfd input = {m_file, POLLIN, 0};
     do {
         stopIfInterrupted();
+        if (!isWanted())
+            return false;
     } while (::poll(&input, 1, kInterruptionDelay) <= 0);
+    return true;
 }
 
 } // namespace tovangl::program

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -24,6 +25,8 @@ struct NumberedLine
 class CBoundedLines
 {
 public:
+    using IsWanted = std::function<bool()>;
+
     /// @param path         the file; "-" is standard input
     /// @param longestLine  bytes; what is longer is read over, and never held in memory
     CBoundedLines(const std::string& path, std::size_t longestLine);
@@ -35,17 +38,18 @@ public:
     /// Reads the next line, as soon as its end is there. Blank lines are passed over. The last line
     /// needs no line break.
     ///
+    /// @param isWanted  asked while the input is waited for; once it says false, the input ends
     /// @return nothing at the end of the input
-    [[nodiscard]] std::optional<NumberedLine> next();
+    [[nodiscard]] std::optional<NumberedLine> next(const IsWanted& isWanted = [] { return true; });
 
     /// The size of the input in bytes, where it is known beforehand.
     [[nodiscard]] std::optional<std::uintmax_t> size() const { return m_size; }
 
 private:
-    [[nodiscard]] std::optional<NumberedLine> readLine();
+    [[nodiscard]] std::optional<NumberedLine> readLine(const IsWanted& isWanted);
     void append(NumberedLine& line, std::size_t end);
-    [[nodiscard]] bool fillBuffer();
-    void waitForInput() const;
+    [[nodiscard]] bool fillBuffer(const IsWanted& isWanted);
+    [[nodiscard]] bool waitForInput(const IsWanted& isWanted) const;
 
     std::string m_name;
     std::size_t m_longestLine;

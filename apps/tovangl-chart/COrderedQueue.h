@@ -82,6 +82,12 @@ public:
         m_jobIsThere.notify_all();
     }
 
+    [[nodiscard]] bool isStopped()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_isStopped;
+    }
+
     /// Waits for a job. Nothing comes after the last one.
     [[nodiscard]] std::optional<Task> takeJob()
     {

@@ -79,6 +79,18 @@ TEST_F(BrokenBatches, AClosedPipeIsOneError)
     EXPECT_EQ(result.errors, "tovangl-chart: standard output: Broken pipe\n");
 }
 
+// A host can wait for the end of the program before it closes the pipe.
+TEST_F(BrokenBatches, AFullDiskEndsARunThatWaitsForMoreLines)
+{
+    folder.write("line", kLine);
+    const ShellResult result =
+        shell("mkfifo in\n"
+              "{ timeout 20 tovangl-chart batch --frames <in >/dev/full; echo $? >status; } &\n"
+              "exec 3>in; { cat line; echo; } >&3; wait");
+    EXPECT_EQ(folder.read("status"), "2\n");
+    EXPECT_EQ(result.errors, "tovangl-chart: standard output: No space left on device\n");
+}
+
 // A file system of its own, which only this command sees.
 TEST_F(BrokenBatches, AFullDiskIsOneErrorAndLeavesWholeFiles)
 {
