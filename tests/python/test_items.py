@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """What items can be written as."""
 
+import ctypes
 import pickle
 from array import array
 from collections import Counter
@@ -41,6 +42,9 @@ class Series:
         Items(array("i", [1, 2]), iter("ab")),
         Items(memoryview(array("q", [1, 0, 2, 0]))[::2], "ab"),
         Items(b"\1\2", "ab"),
+        Items((ctypes.c_int64 * 2)(1, 2), "ab"),
+        Items(memoryview((ctypes.c_int64 * 2)(1, 2)), "ab"),
+        Items(memoryview((ctypes.c_int16.__ctype_be__ * 4)(1, 0, 2, 0))[::2], "ab"),
         Series(array("q", [1, 2]), ["a", "b"]),
         Series([1, 2], "ab"),
     ],

@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import re
+import struct
 from array import array
 from collections.abc import Iterable, Iterator, Mapping, Sequence
 from itertools import accumulate
@@ -237,7 +238,18 @@ def _value_column(values: Any) -> Any:
         raise TypeError(f"values are one column of whole numbers, not {values!r}")
     if view.format in _VALUE_FORMATS and view.itemsize == _VALUE_SIZE and view.c_contiguous:
         return view
-    return _packed_values(list(values))
+    return _packed_values(_numbers(values) if isinstance(values, memoryview) else list(values))
+
+
+def _numbers(view: memoryview) -> Sequence[int]:
+    """The numbers of a view, which itself reads none whose format names a byte order."""
+    try:
+        return view.tolist()
+    except NotImplementedError:
+        order, code = view.format[:-1], view.format[-1]
+        if code not in _WHOLE_FORMATS:
+            raise TypeError("a view of objects has no whole numbers to read") from None
+        return struct.unpack(f"{order}{len(view)}{code}", view.tobytes())
 
 
 def _packed_values(values: Sequence[Any]) -> array[int]:
