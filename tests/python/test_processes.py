@@ -3,6 +3,7 @@
 
 import multiprocessing
 import os
+import signal
 import subprocess
 import sys
 
@@ -79,6 +80,33 @@ def test_children_draw_although_threads_of_their_parent_draw():
             os._exit(0 if png_of(CHARTS[0]) == expected else 1)
         assert os.waitpid(child, 0)[1] == 0
     pictures.close()
+
+
+def test_a_child_goes_on_with_the_results_of_its_parent():
+    results = render_many(CHARTS * 8, 3)
+    begun = [next(results).png for _ in range(3)]
+    child = os.fork()
+    if child == 0:
+        signal.alarm(60)
+        drawn = begun + [result.png for result in results]
+        os._exit(0 if drawn == [png_of(chart) for chart in CHARTS * 8] else 1)
+    assert os.waitpid(child, 0)[1] == 0
+    assert len(begun + list(results)) == len(CHARTS * 8)
+
+
+def test_charts_are_drawn_at_exit_where_no_thread_can_be_started():
+    assert (
+        run(
+            """
+import atexit, tovangl
+def draw():
+    print(len(list(tovangl.render_many([tovangl.pie({"a": 1})] * 50, 3))))
+draw()
+atexit.register(draw)
+"""
+        )
+        == "50\n50\n"
+    )
 
 
 def test_a_child_reads_a_picture_of_its_parent():

@@ -18,7 +18,7 @@ from tovangl._picture import PdfPicture, Picture, SvgPicture
 
 if TYPE_CHECKING:
     from collections.abc import Callable
-    from concurrent.futures import ThreadPoolExecutor
+    from concurrent.futures import Future, ThreadPoolExecutor
 
     Result = Union[Picture, SvgPicture, PdfPicture, Exception]
     Results = Generator[Result, None, None]
@@ -106,11 +106,15 @@ def _render_all(render: Render, charts: List[Chart]) -> List[Result]:
 class _Task:
     """Charts that one thread draws one after the other: whichever comes to them first."""
 
-    def __init__(self, charts: List[Chart], render: Render, threads: ThreadPoolExecutor) -> None:
+    def __init__(
+        self, charts: List[Chart], render: Render, threads: Optional[ThreadPoolExecutor]
+    ) -> None:
         self._charts = charts
         self._render = render
-        self._results: List[Result] = []
-        self._future = threads.submit(_render_all, render, charts)
+        self._results: Optional[List[Result]] = None
+        self._process = os.getpid()
+        draw = partial(_render_all, render, charts)
+        self._future = _begin(threads, draw) if threads else None
 
     def draw(self) -> None:
         """Draws the charts in the caller's thread, if no other has begun to."""
@@ -119,26 +123,51 @@ class _Task:
 
     def is_drawn(self) -> bool:
         """Whether the results are there; for the caller's thread."""
-        return self._future.done()
+        future = self._living_future()
+        return self._results is not None or (future is not None and future.done())
 
     def results(self) -> List[Result]:
         """One for each chart, as soon as all are drawn."""
-        return self._results if self._future.cancelled() else self._future.result()
+        future = self._living_future()
+        if self._results is None and future is not None:
+            self._results = future.result()
+        return self._results or []
 
     def cancel(self) -> bool:
         """Keeps other threads from beginning; False if one has begun."""
-        return self._future.cancel()
+        future = self._living_future()
+        return future is None or future.cancel()
+
+    def _living_future(self) -> Optional[Future[List[Result]]]:
+        """None where no thread will ever draw: a forked child has none of its parent's threads, and
+        must not ask for locks that they held."""
+        return self._future if os.getpid() == self._process else None
+
+
+def _begin(
+    threads: ThreadPoolExecutor, draw: Callable[[], List[Result]]
+) -> Optional[Future[List[Result]]]:
+    """None where no thread can be started: the interpreter ends, or the machine has no more."""
+    try:
+        return threads.submit(draw)
+    except RuntimeError:
+        return None
 
 
 def _render_in_threads(charts: Iterable[Chart], jobs: int, render: Render) -> Results:
     from concurrent.futures import ThreadPoolExecutor
 
     started: List[int] = []
+    process = os.getpid()
+
+    def begin_task(task: List[Chart]) -> _Task:
+        return _Task(task, render, threads if os.getpid() == process else None)
+
     try:
         with ThreadPoolExecutor(
             jobs - 1, "tovangl", initializer=lambda: started.append(get_native_id())
         ) as threads:
-            yield from _render_tasks(charts, jobs, lambda task: _Task(task, render, threads))
+            yield from _render_tasks(charts, jobs, begin_task)
     finally:
         _wait_for_end(started)
 
