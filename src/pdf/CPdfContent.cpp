@@ -42,6 +42,18 @@ std::string textMatrix(const QTransform& toPage, const QPointF& position)
     return text + pdfPoint(toPage.map(position)) + "Tm\n";
 }
 
+// Images are squares with a side of 1 that stand upright where y grows upward.
+std::string imageMatrix(const QTransform& toPage, const QRectF& box)
+{
+    const double width = box.width();
+    const double height = box.height();
+    std::string text;
+    for (const qreal part : {toPage.m11() * width, toPage.m12() * width, -toPage.m21() * height,
+                             -toPage.m22() * height})
+        text += pdfNumber(part) + ' ';
+    return text + pdfPoint(toPage.map(box.bottomLeft())) + "cm";
+}
+
 // Nothing is left of a byte order mark that a text holds.
 uint characterOf(const QString& letter)
 {
@@ -106,11 +118,13 @@ void CPdfContent::stroke(const QPainterPath& path, const QPen& pen)
     m_bytes += pathOperators(path) + "S\n";
 }
 
-void CPdfContent::showText(const QString& text, const std::vector<CShapedRun>& runs,
-                           const QColor& color, const QTransform& toPage)
+void CPdfContent::showText(const QString& text, std::vector<CShapedRun> runs, const QColor& color,
+                           const QTransform& toPage)
 {
     if (color.alpha() == 0)
         return;
+    for (CShapedRun& run : runs)
+        showPictures(run, color, toPage);
     change(m_state.fill, pdfColor(color) + "rg\n");
     const bool isOne = runs.size() == 1;
     if (isOne && tellLetters(runs.front())) {
@@ -140,7 +154,9 @@ std::string CPdfContent::writeResources(CPdfObjects& objects) const
     std::string shadings;
     for (std::size_t i = 0; i < m_shadings.size(); ++i)
         shadings += "/S" + std::to_string(i) + ' ' + pdfReference(objects.add(m_shadings[i]));
-    return "<</Font<<" + fonts + ">>/Shading<<" + shadings + ">>>>";
+    const std::string images = m_images.write(objects);
+    const std::string named = images.empty() ? images : "/XObject<<" + images + ">>";
+    return "<</Font<<" + fonts + ">>/Shading<<" + shadings + ">>" + named + ">>";
 }
 
 void CPdfContent::change(std::string& setting, const std::string& wanted)
@@ -171,10 +187,31 @@ std::size_t CPdfContent::fontFor(const CShapedRun& run)
     return i;
 }
 
+void CPdfContent::showPictures(CShapedRun& run, const QColor& color, const QTransform& toPage)
+{
+    const std::size_t font = fontFor(run);
+    for (std::size_t i = 0; i < run.glyphs.size(); ++i) {
+        const auto image =
+            m_images.find(font, m_fonts[font].form(), run.face, run.glyphs[i], color);
+        if (!image)
+            continue;
+        run.pictures.insert(run.glyphs[i]);
+        m_bytes += "q\n" + imageMatrix(toPage, image->box.translated(run.positions[i])) + "\n/I" +
+                   std::to_string(image->image) + " Do\nQ\n";
+    }
+}
+
+std::uint16_t CPdfContent::numberOf(std::size_t font, const CShapedRun& run, std::size_t glyph)
+{
+    const std::uint32_t number = run.glyphs[glyph];
+    return run.isPicture(glyph) ? m_fonts[font].useUnseen(number) : m_fonts[font].use(number);
+}
+
 // Whether readers find the text by its glyphs alone.
 bool CPdfContent::tellLetters(const CShapedRun& run)
 {
-    CPdfFont& font = m_fonts[fontFor(run)];
+    const std::size_t index = fontFor(run);
+    CPdfFont& font = m_fonts[index];
     bool isTold = !run.letters.empty();
     for (std::size_t i = 0; i < run.letters.size(); ++i) {
         const QString& letters = run.letters[i];
@@ -183,7 +220,7 @@ bool CPdfContent::tellLetters(const CShapedRun& run)
             isTold = font.tell(halves.right, letters.left(1)) && isTold;
             isTold = font.tell(halves.left, letters.mid(1)) && isTold;
         } else {
-            isTold = font.tell(font.use(run.glyphs[i]), letters) && isTold;
+            isTold = font.tell(numberOf(index, run, i), letters) && isTold;
         }
     }
     return isTold;
@@ -194,7 +231,7 @@ std::vector<std::uint16_t> CPdfContent::numbersOf(std::size_t font, const CShape
                                                   std::size_t glyph)
 {
     if (glyph >= run.letters.size() || !isLamAlef(run.letters[glyph]))
-        return {m_fonts[font].use(run.glyphs[glyph])};
+        return {numberOf(font, run, glyph)};
     const CGlyphHalves halves = m_fonts[font].useInHalves(run.glyphs[glyph]);
     return {halves.left, halves.right};
 }
@@ -237,7 +274,8 @@ void CPdfContent::showRun(const CShapedRun& run, const CFileGlyphs& glyphs,
                           const QTransform& toPage)
 {
     const double size = run.face.pixelSize();
-    if (m_fonts[glyphs.font].isEmbeddable()) {
+    const CPdfFont& font = m_fonts[glyphs.font];
+    if (font.isEmbeddable() || font.form() == GlyphForm::Pictures) {
         showGlyphs(glyphs, size, toPage);
         return;
     }
@@ -277,8 +315,11 @@ void CPdfContent::fillOutlines(const CShapedRun& run, const QTransform& toPage)
 {
     QPainterPath outlines;
     outlines.setFillRule(Qt::WindingFill);
-    for (std::size_t i = 0; i < run.glyphs.size(); ++i)
+    for (std::size_t i = 0; i < run.glyphs.size(); ++i) {
+        if (run.isPicture(i))
+            continue;
         outlines.addPath(run.face.pathForGlyph(run.glyphs[i]).translated(run.positions[i]));
+    }
     m_bytes += pathOperators(toPage.map(outlines)) + "f\n";
 }
 

@@ -5,6 +5,7 @@
 #define TOVANGL_PDF_CPDFCONTENT_H
 
 #include "pdf/CPdfFont.h"
+#include "pdf/CPdfGlyphImages.h"
 #include "pdf/text_shaping.h"
 
 #include <list>
@@ -21,8 +22,8 @@ class QTransform;
 
 namespace tovangl {
 
-/// Writes the operators of a page and collects the fonts and gradients that they name. Shapes are
-/// in pixels of the page. Colours are opaque or nothing at all, as those of charts are.
+/// Writes the operators of a page and collects the fonts, images and gradients that they name.
+/// Shapes are in pixels of the page. Colours are opaque or nothing at all, as those of charts are.
 class CPdfContent
 {
 public:
@@ -33,7 +34,7 @@ public:
     void stroke(const QPainterPath& path, const QPen& pen);
     /// @param text    as it reads
     /// @param toPage  from the baseline's left end
-    void showText(const QString& text, const std::vector<CShapedRun>& runs, const QColor& color,
+    void showText(const QString& text, std::vector<CShapedRun> runs, const QColor& color,
                   const QTransform& toPage);
 
     /// The operators so far.
@@ -62,6 +63,9 @@ private:
     void fillWithGradient(const QPainterPath& path, const QGradient& gradient,
                           const QTransform& toPage);
     [[nodiscard]] std::size_t fontFor(const CShapedRun& run);
+    void showPictures(CShapedRun& run, const QColor& color, const QTransform& toPage);
+    [[nodiscard]] std::uint16_t numberOf(std::size_t font, const CShapedRun& run,
+                                         std::size_t glyph);
     [[nodiscard]] bool tellLetters(const CShapedRun& run);
     [[nodiscard]] std::vector<std::uint16_t> numbersOf(std::size_t font, const CShapedRun& run,
                                                        std::size_t glyph);
@@ -76,6 +80,7 @@ private:
     CState m_state;
     std::optional<CState> m_unclippedState; // what comes back at the end of a clip
     std::vector<CPdfFont> m_fonts;
+    CPdfGlyphImages m_images;
     std::vector<std::string> m_shadings;
 };
 

@@ -12,6 +12,7 @@
 #include <QString>
 #include <QVector>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tovangl {
@@ -74,6 +75,7 @@ std::string mapping(std::size_t number, const QString& letters)
 
 CPdfFont::CPdfFont(const QRawFont& face, bool isBold)
     : m_face(face)
+    , m_form(glyphFormOf(face))
     , m_isBold(isBold)
     , m_head(face.fontTable("head"))
     , m_outlines(face)
@@ -107,6 +109,21 @@ std::uint16_t CPdfFont::use(std::uint32_t glyph)
     return number;
 }
 
+std::uint16_t CPdfFont::useUnseen(std::uint32_t glyph)
+{
+    const auto known = m_unseenNumbers.find(glyph);
+    if (known != m_unseenNumbers.end())
+        return known->second;
+    CFontGlyph unseen = outlineOf(glyph);
+    unseen.contours.clear();
+    // The advances that Qt tells of pictures are a third of those that it lays them out with.
+    const double right = m_outlines.boundingRect(glyph).right();
+    unseen.advance = std::max(unseen.advance, static_cast<int>(std::lround(right)));
+    const std::uint16_t number = add(std::move(unseen));
+    m_unseenNumbers[glyph] = number;
+    return number;
+}
+
 CGlyphHalves CPdfFont::useInHalves(std::uint32_t glyph)
 {
     const auto known = m_halves.find(glyph);
@@ -134,17 +151,22 @@ std::uint16_t CPdfFont::addCell(const CLetterCell& cell, double width, double si
     QPainterPath outlines;
     outlines.setFillRule(Qt::WindingFill);
     for (const CCellGlyph& part : cell.glyphs)
-        outlines.addPath(m_outlines.pathForGlyph(part.glyph).translated(part.place * units));
+        outlines.addPath(pathOf(part.glyph).translated(part.place * units));
     if (m_isEmbeddable)
         glyph.contours = toContours(outlines);
     return add(std::move(glyph));
+}
+
+QPainterPath CPdfFont::pathOf(std::uint32_t glyph) const
+{
+    return m_form == GlyphForm::Pictures ? QPainterPath() : m_outlines.pathForGlyph(glyph);
 }
 
 CFontGlyph CPdfFont::outlineOf(std::uint32_t glyph)
 {
     CFontGlyph outline;
     if (m_isEmbeddable)
-        outline.contours = toContours(m_outlines.pathForGlyph(glyph));
+        outline.contours = toContours(pathOf(glyph));
     const QVector<QPointF> advances = m_outlines.advancesForGlyphIndexes(QVector<quint32>{glyph});
     if (!advances.isEmpty())
         outline.advance = static_cast<int>(std::lround(advances.first().x()));

@@ -6,8 +6,10 @@
 
 #include "pdf/letter_cells.h"
 #include "pdf/true_type_file.h"
+#include "text/glyph_picture.h"
 
 #include <QByteArray>
+#include <QPainterPath>
 #include <QRawFont>
 #include <QString>
 
@@ -37,10 +39,13 @@ public:
     CPdfFont(const QRawFont& face, bool isBold);
 
     [[nodiscard]] bool isOf(const QRawFont& face, bool isBold) const;
+    [[nodiscard]] GlyphForm form() const { return m_form; }
     /// Whether its maker allows it in documents.
     [[nodiscard]] bool isEmbeddable() const { return m_isEmbeddable; }
     /// The number of a glyph in the file.
     [[nodiscard]] std::uint16_t use(std::uint32_t glyph);
+    /// The same for a glyph that something else shows.
+    [[nodiscard]] std::uint16_t useUnseen(std::uint32_t glyph);
     /// The same for a glyph that joins two letters: each gets half of its width. Of two letters of
     /// one glyph, readers that go by places take the left one for the first, whatever the script.
     [[nodiscard]] CGlyphHalves useInHalves(std::uint32_t glyph);
@@ -60,6 +65,7 @@ public:
     int write(CPdfObjects& objects) const;
 
 private:
+    [[nodiscard]] QPainterPath pathOf(std::uint32_t glyph) const;
     [[nodiscard]] CFontGlyph outlineOf(std::uint32_t glyph);
     [[nodiscard]] std::uint16_t add(CFontGlyph glyph);
     [[nodiscard]] int inThousandths(int fontUnits) const;
@@ -68,6 +74,7 @@ private:
     [[nodiscard]] int writeLetters(CPdfObjects& objects) const;
 
     QRawFont m_face;
+    GlyphForm m_form;
     bool m_isBold;
     QByteArray m_head;   // its table "head", which has a checksum of the font
     QRawFont m_outlines; // the face at the size whose pixels are font units
@@ -76,6 +83,7 @@ private:
     std::vector<CFontGlyph> m_glyphs;
     std::vector<QString> m_letters; // of the glyphs; empty where they are not told
     std::map<std::uint32_t, std::uint16_t> m_numbers;
+    std::map<std::uint32_t, std::uint16_t> m_unseenNumbers;
     std::map<std::uint32_t, CGlyphHalves> m_halves;
 };
 

@@ -35,6 +35,8 @@ CLetterCells letterCells(const CShapedRun& run, double right, std::size_t count)
     for (std::size_t i = 0; i < count; ++i)
         result.cells[i].left = left + static_cast<double>(i) * result.width;
     for (std::size_t i = 0; i < run.glyphs.size(); ++i) {
+        if (run.isPicture(i))
+            continue;
         const QPointF& position = run.positions[i];
         CLetterCell& cell = cellAt(result, position.x());
         cell.glyphs.push_back({run.glyphs[i], position - QPointF(cell.left, 0)});

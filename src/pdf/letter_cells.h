@@ -34,7 +34,8 @@ struct CLetterCells
     std::vector<CLetterCell> cells; ///< from left to right
 };
 
-/// Divides a run into cells, and its glyphs among them by where they begin.
+/// Divides a run into cells, and its glyphs among them by where they begin. Those that are pictures
+/// are left out.
 ///
 /// @param right  where the run ends, in pixels from the left end of the baseline
 /// @param count  of the cells; above 0

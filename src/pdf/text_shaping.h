@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <set>
 #include <vector>
 
 class QTextItem;
@@ -26,7 +27,10 @@ struct CShapedRun
     std::vector<QString> letters;
     /// The letters from left to right, if the text is read from right to left.
     std::vector<QString> turnedLetters;
-    double right = 0; ///< where the run ends, if it is the only one
+    double right = 0;                 ///< where the run ends, if it is the only one
+    std::set<std::uint32_t> pictures; ///< those of the glyphs that images show
+
+    [[nodiscard]] bool isPicture(std::size_t i) const { return pictures.count(glyphs[i]) > 0; }
 };
 
 /// Whether these are the two letters of Arabic that always become one glyph.

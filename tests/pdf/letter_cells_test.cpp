@@ -36,6 +36,15 @@ TEST(LetterCells, HaveTheGlyphsThatBeginInThem)
     EXPECT_EQ(cells.cells[2].glyphs[0].glyph, 2u);
 }
 
+TEST(LetterCells, HaveNoGlyphsThatImagesShow)
+{
+    CShapedRun run = runOf({{0, 0}, {9, 0}});
+    run.pictures = {1};
+    const CLetterCells cells = letterCells(run, kRight, 3);
+    EXPECT_EQ(cells.cells[0].glyphs.size(), 1u);
+    EXPECT_EQ(cells.cells[2].glyphs.size(), 0u);
+}
+
 TEST(LetterCells, LeaveGlyphsWhereTheyAre)
 {
     const CLetterCells cells = letterCells(runOf({{9, -3}}), kRight, 3);

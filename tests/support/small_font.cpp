@@ -114,6 +114,29 @@ std::string nameTable(const std::vector<CFontName>& names)
     return table.text(texts).bytes();
 }
 
+// Pictures of one size: none for the first glyph, and this one for the second.
+std::string pictureTable(const CSmallFont& font)
+{
+    const std::size_t begin =
+        4 + 3 * 4; // in the part for the size, behind the places of three ends
+    const std::size_t end = begin + 8 + font.picture.size();
+    return CTable()
+        .u16(1)
+        .u16(1)
+        .u32(1)
+        .u32(12)
+        .u16(font.pictureSize)
+        .u16(72)
+        .u32(begin)
+        .u32(begin)
+        .u32(end)
+        .u16(0)
+        .u16(0)
+        .text("png ")
+        .text(font.picture)
+        .bytes();
+}
+
 using Tables = std::vector<std::pair<std::string, std::string>>; // by their tags
 
 Tables tablesOf(const CSmallFont& font)
@@ -123,7 +146,7 @@ Tables tablesOf(const CSmallFont& font)
     CTable metrics;
     for (int i = 0; i < 2; ++i)
         metrics.u16(font.glyphWidth + kGap).u16(0);
-    return {
+    Tables tables = {
         {"cmap", characterTable(font.characterMap)},
         {"glyf", glyph + glyph},
         {"head", header(font)},
@@ -133,6 +156,9 @@ Tables tablesOf(const CSmallFont& font)
         {"maxp", CTable().u32(0x00010000).u16(2).u16(4).u16(1).zeros(22).bytes()},
         {"name", nameTable(font.names)},
     };
+    if (!font.picture.empty())
+        tables.emplace_back("sbix", pictureTable(font));
+    return tables;
 }
 
 } // namespace

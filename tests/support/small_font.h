@@ -37,6 +37,10 @@ struct CSmallFont
     int glyphWidth = 500;
     /// What says which characters the font has: one encoding of the format's table for them.
     std::string characterMap = charactersFrom(' ', '~');
+    /// A PNG file that is shown in place of the glyph, if there is one.
+    std::string picture = std::string();
+    /// The size of a font in pixels that the picture is made for.
+    int pictureSize = 64;
 };
 
 /// A font whose characters are rectangles.
