@@ -2,6 +2,8 @@
 // The addresses that an item can lead to.
 #include "input/link_address.h"
 
+#include "base/host_text.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -49,8 +51,11 @@ bool isSchemeGood(std::string_view address)
 
 } // namespace
 
+// With a mark before them, two slashes are no beginning for the checks, but one for readers.
 bool isLinkAddress(std::string_view address)
 {
+    if (address.substr(0, kByteOrderMark.size()) == kByteOrderMark)
+        return false;
     const QString text =
         QString::fromUtf8(address.data(), static_cast<int>(std::min(address.size(), kLongest + 1)));
     if (address.empty() || address.size() > kLongest ||

@@ -35,15 +35,15 @@ TEST(LinkAddress, HoldsNothingThatReadersLeaveOut)
           "a\x7f", "\xe2\x80\x8bjavascript:x",
           "a\xc2\xa0"
           "b",
-          "\xef\xbb\xbfhttps://example.org", "a\xe2\x80\xae"})
+          "\xef\xbb\xbfhttps://example.org", "\xef\xbb\xbfpage.html", "a\xe2\x80\xae"})
         EXPECT_FALSE(isLinkAddress(address)) << address;
     EXPECT_FALSE(isLinkAddress(std::string("a\0b", 3)));
 }
 
 TEST(LinkAddress, StaysWithTheSchemeOfThePage)
 {
-    for (const char* address :
-         {"//example.org", "\\\\example.org", "/\\example.org", "\\/example.org"})
+    for (const char* address : {"//example.org", "\\\\example.org", "/\\example.org",
+                                "\\/example.org", "\xef\xbb\xbf//example.org"})
         EXPECT_FALSE(isLinkAddress(address)) << address;
 }
 
