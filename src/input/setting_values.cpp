@@ -101,7 +101,8 @@ std::optional<QString> parseText(std::string_view text)
 {
     const QString decoded = toQString(text);
     const QByteArray bytes = decoded.toUtf8();
-    if (std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())) != text)
+    const std::string_view read(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    if (read != text && std::string(kByteOrderMark).append(read) != text)
         return std::nullopt;
     return decoded;
 }

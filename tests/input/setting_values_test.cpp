@@ -70,6 +70,14 @@ TEST(TextValue, IsAnyUtf8)
     EXPECT_EQ(parseText(std::string("a\0b", 3)), QString(QStringLiteral("a\0b")));
 }
 
+// Spreadsheets write it before the first text of a file.
+TEST(TextValue, LosesAByteOrderMarkAtItsBeginning)
+{
+    EXPECT_EQ(parseText("\xef\xbb\xbf"), QString());
+    EXPECT_EQ(parseText("\xef\xbb\xbfGr\xc3\xb6\xc3\x9f\x65"), QString::fromUtf8("Größe"));
+    EXPECT_FALSE(parseText("\xef\xbb\xbf\xff"));
+}
+
 TEST(TextValue, IsNotWhatIsNoUtf8)
 {
     for (const char* text : {"\xff", "broken \xc3", "\xc0\xaf", "\xed\xa0\x80"})
