@@ -21,6 +21,7 @@ def draw_archive(customers, folder):
     """Draws a partition into one archive, which appears when it is whole; gives the failures."""
     charts = [chart_of(customer) for customer in customers]
     results = list(tovangl.render_many(charts, jobs=1))  # Dask has a process for each processor
+    Path(folder).mkdir(parents=True, exist_ok=True)
     unfinished = Path(folder, f"{uuid.uuid4()}.unfinished")
     with tarfile.open(unfinished, "w") as archive:
         for chart, result in zip(charts, results):

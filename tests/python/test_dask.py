@@ -22,7 +22,9 @@ PATIENCE = 600  # seconds, for machines that do much else
 
 def start(folder):
     command = [sys.executable, EXAMPLE, folder, str(CHARTS)]
-    return subprocess.Popen(command, cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+    return subprocess.Popen(
+        command, cwd=folder.parent, stdout=subprocess.PIPE, stderr=subprocess.PIPE
+    )
 
 
 def finish(run):
@@ -70,11 +72,12 @@ print(draw_archive(range(int(count)), folder))
     return hashes_in(folder)
 
 
-def test_two_processes_draw_the_pictures_of_one(tmp_path, hashes_of_one_process):
-    finish(start(tmp_path))
-    assert len(archives_in(tmp_path)) == ARCHIVES
+def test_two_processes_draw_the_pictures_of_one_into_a_new_folder(tmp_path, hashes_of_one_process):
+    folder = tmp_path / "new"
+    finish(start(folder))
+    assert len(archives_in(folder)) == ARCHIVES
     assert len(hashes_of_one_process) == CHARTS
-    assert hashes_in(tmp_path) == hashes_of_one_process
+    assert hashes_in(folder) == hashes_of_one_process
 
 
 def test_a_worker_that_is_killed_midway_loses_nothing(tmp_path, hashes_of_one_process):
