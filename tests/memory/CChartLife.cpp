@@ -3,8 +3,11 @@
 #include "memory/CChartLife.h"
 
 #include "memory/allocation_faults.h"
+#include "support/small_font.h"
 
+#include <iterator>
 #include <new>
+#include <string>
 
 namespace tovangl {
 
@@ -17,11 +20,33 @@ constexpr int kFactor = 2;
 // Labels, titles and everything that needs room of its own; the same word for axes and pies.
 constexpr int kEverythingShown = 0x1ff;
 
+constexpr const char* kPictureFamily = "Letters that are pictures";
+
+// A PNG file of one red pixel.
+constexpr unsigned char kRedPixel[] = {
+    0x89, 0x50, 0x4e, 0x47, 0x0d, 0x0a, 0x1a, 0x0a, 0x00, 0x00, 0x00, 0x0d, 0x49, 0x48,
+    0x44, 0x52, 0x00, 0x00, 0x00, 0x01, 0x00, 0x00, 0x00, 0x01, 0x08, 0x02, 0x00, 0x00,
+    0x00, 0x90, 0x77, 0x53, 0xde, 0x00, 0x00, 0x00, 0x0c, 0x49, 0x44, 0x41, 0x54, 0x78,
+    0x9c, 0x63, 0xf8, 0xcf, 0xc0, 0x00, 0x00, 0x03, 0x01, 0x01, 0x00, 0xc9, 0xfe, 0x92,
+    0xef, 0x00, 0x00, 0x00, 0x00, 0x49, 0x45, 0x4e, 0x44, 0xae, 0x42, 0x60, 0x82};
+
+// It stays for the process, and is added once.
+void addPictureFont()
+{
+    CSmallFont font{{windowsName(1, kPictureFamily)}};
+    font.picture.assign(std::begin(kRedPixel), std::end(kRedPixel));
+    font.pictureSize = 4;
+    const std::string file = smallFont(font);
+    (void)addFont(reinterpret_cast<const unsigned char*>(file.data()), file.size());
+}
+
 } // namespace
 
 CChartLife::CChartLife(ChartKind kind)
     : m_kind(kind)
-{}
+{
+    addPictureFont();
+}
 
 void CChartLife::live()
 {
@@ -33,6 +58,8 @@ void CChartLife::live()
     call([this] { m_chart->graph().setCompression(Compression::Fast); });
     render(PictureKind::Print);
     render(PictureKind::Svg);
+    render(PictureKind::Pdf);
+    call([this] { m_chart->graph().setFont(kPictureFamily, 9); });
     render(PictureKind::Pdf);
     call([this] { m_chart->graph().setByName("follow_display", "true"); });
     render(PictureKind::Svg);
