@@ -83,6 +83,16 @@ TEST_F(GlyphImages, HaveAnImageForEachSize)
     EXPECT_NE(small->image, large->image);
 }
 
+TEST_F(GlyphImages, HaveNoMorePixelsThanFontsHaveWhereTheFontIsLarge)
+{
+    constexpr int kSize = 40 * 57;
+    const QRawFont large = face(kSize);
+    const CGlyphPicture picture = pictureOfGlyph(large, glyphFormOf(large), kGlyph, Qt::black);
+    EXPECT_NEAR(picture.box.height(), 40 * 44, 10);
+    EXPECT_GT(picture.pixels.height(), 300);
+    EXPECT_LT(picture.pixels.height(), 512);
+}
+
 // Eight million pixels are enough for two thousand emoji.
 TEST_F(GlyphImages, EndWhereAllOfThemTogetherHaveTooManyPixels)
 {
