@@ -5,7 +5,6 @@ import tarfile
 import uuid
 from io import BytesIO
 from pathlib import Path
-
 import tovangl
 from dask import bag, config
 from distributed import Client
