@@ -44,9 +44,7 @@ void addPictureFont()
 
 CChartLife::CChartLife(ChartKind kind)
     : m_kind(kind)
-{
-    addPictureFont();
-}
+{}
 
 void CChartLife::live()
 {
@@ -59,8 +57,6 @@ void CChartLife::live()
     render(PictureKind::Print);
     render(PictureKind::Svg);
     render(PictureKind::Pdf);
-    call([this] { m_chart->graph().setFont(kPictureFamily, 9); });
-    render(PictureKind::Pdf);
     call([this] { m_chart->graph().setByName("follow_display", "true"); });
     render(PictureKind::Svg);
     call([this] { m_chart->graph().setPictureTransparent(); });
@@ -70,6 +66,21 @@ void CChartLife::live()
     addItems();
     render(PictureKind::Screen);
     call([this] { m_chart->graph().freePixmap(); });
+    call([this] { m_chart.reset(); });
+}
+
+CPictureLife::CPictureLife(ChartKind kind)
+    : CChartLife(kind)
+{
+    addPictureFont();
+}
+
+void CPictureLife::live()
+{
+    call([this] { m_chart = std::make_unique<CAnyChart>(m_kind, true); });
+    call([this] { m_chart->graph().setFont(kPictureFamily, 9); });
+    call([this] { m_chart->addItem(34000, "usr"); });
+    render(PictureKind::Pdf);
     call([this] { m_chart.reset(); });
 }
 

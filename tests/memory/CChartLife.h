@@ -34,23 +34,35 @@ public:
     void addItemAfterFailure() { m_addsItemAfterFailure = true; }
     void swallowFailure() { m_swallowsFailure = true; }
 
-private:
+protected:
     using Call = std::function<void()>;
 
     void call(const Call& operation);
-    void handleFailure(const Call& operation);
-    void applySettings();
-    void addItems();
     void render(PictureKind kind);
-    CExport exportPicture(PictureKind kind);
 
     ChartKind m_kind;
     std::unique_ptr<CAnyChart> m_chart;
+
+private:
+    void handleFailure(const Call& operation);
+    void applySettings();
+    void addItems();
+    CExport exportPicture(PictureKind kind);
+
     std::vector<CRenderedChart> m_renderings;
     int m_failureCount = 0;
     bool m_tellsLackOfMemory = true;
     bool m_addsItemAfterFailure = false;
     bool m_swallowsFailure = false;
+};
+
+/// A short one, of a page whose letters are pictures.
+class CPictureLife : public CChartLife
+{
+public:
+    explicit CPictureLife(ChartKind kind);
+
+    void live();
 };
 
 } // namespace tovangl

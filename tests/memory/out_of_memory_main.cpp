@@ -176,6 +176,7 @@ CSummary tryAll(long every, SeededFault seeded)
     tryFonts(FaultPattern::FromThenOn, summary);
     tryEveryKind<CChartLife>(every, seeded, summary);
     tryEveryKind<CChartLifeInC>(every, seeded, summary);
+    tryKind<CPictureLife>(ChartKind::HorizontalBars, FaultPattern::Once, every, seeded, summary);
     return summary;
 }
 
