@@ -17,9 +17,9 @@ namespace tovangl {
 /// out.
 [[nodiscard]] QImage makeRasterSurface(int width, int height);
 
-/// Fills a new picture that is longer or higher than a painter reaches: the pixels beyond column or
-/// row 32,766 would otherwise stay what was in memory before. Smaller pictures stay as they are,
-/// because painters fill them.
+/// Fills a new picture that is longer or higher than a painter reaches: with Qt 5, the pixels
+/// beyond column or row 32,766 would otherwise stay what was in memory before. Smaller pictures
+/// stay as they are, because painters fill them.
 void fillBeyondPainters(QImage& image, const QColor& color);
 
 } // namespace tovangl

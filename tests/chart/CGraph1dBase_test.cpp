@@ -123,17 +123,18 @@ TEST_P(EveryChart, HasNoPictureOfASizeThatNoneCanHave)
     EXPECT_FALSE(chart->isDrawn());
 }
 
+// The margin at the far end, where charts paint nothing: painters of Qt 5 do not reach it, those of
+// Qt 6 do.
 TEST_P(EveryChart, LeavesNothingOfTheMemoryWhereNoPainterReaches)
 {
-    constexpr int kPaintedSide = 32767;
-    constexpr int kBeyond = 40;
-    constexpr int kLong = kPaintedSide + kBeyond;
+    constexpr int kMargin = 5;
+    constexpr int kLong = 32767 + 8 * kMargin;
     addLargeAndSmall();
     chart->input().settings.colors.picture = Qt::yellow;
     const QRgb yellow = QColor(Qt::yellow).rgba();
-    const QRect columns(kPaintedSide, 0, kBeyond, kHeight);
+    const QRect columns(kLong - kMargin, 0, kMargin, kHeight);
     EXPECT_TRUE(isFilled(render(kLong, kHeight), columns, yellow));
-    const QRect rows(0, kPaintedSide, kWidth, kBeyond);
+    const QRect rows(0, kLong - kMargin, kWidth, kMargin);
     EXPECT_TRUE(isFilled(render(kWidth, kLong), rows, yellow));
 }
 
