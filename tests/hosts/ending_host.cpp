@@ -2,6 +2,7 @@
 // A host whose processes end while several of their threads draw.
 #include "draw_pie.h"
 
+#include <atomic>
 #include <chrono>
 #include <cstdlib>
 #include <sys/wait.h>
@@ -14,6 +15,8 @@ constexpr int kChildren = 30;
 constexpr int kThreads = 4;
 constexpr unsigned kPatience = 30; // seconds
 
+std::atomic<int> drawing{0}; // threads
+
 // Draws one chart again and again: at the end, pictures are refused, but whatever Qt has for new
 // charts is no more.
 void drawOn()
@@ -21,10 +24,12 @@ void drawOn()
     tovangl::PieGraph pie(false);
     pie.addItem(1, "one");
     pie.addItem(2, "two");
-    for (;;) {
+    for (bool isFirst = true;; isFirst = false) {
         unsigned char* data = nullptr;
         int size = 0;
         pie.createPixmap(400, 300, &data, &size);
+        if (isFirst)
+            ++drawing;
     }
 }
 
@@ -34,7 +39,9 @@ void drawOn()
     static_cast<void>(exportPie());
     for (int thread = 0; thread < kThreads; ++thread)
         std::thread(drawOn).detach();
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    do
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    while (drawing < kThreads);
     std::exit(0);
 }
 
