@@ -22,8 +22,7 @@ public:
     ~CRendering();
     Q_DISABLE_COPY(CRendering)
 
-    /// Why nothing can be painted: Qt's offscreen plugin is missing, or the process is ending. Exit
-    /// handlers older than the first rendering run after Qt has destroyed what painting needs.
+    /// Why nothing can be painted: Qt's offscreen plugin is missing, or the process is ending.
     [[nodiscard]] Problem obstacle() const { return m_obstacle; }
 
 private:

@@ -1,61 +1,99 @@
 // SPDX-License-Identifier: MIT
-// A host whose processes end while several of their threads draw.
+// A host whose processes end while several of their threads draw: at their first pictures, or
+// later.
 #include "draw_pie.h"
 
 #include <atomic>
 #include <chrono>
 #include <cstdlib>
+#include <pthread.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
 namespace {
 
-constexpr int kChildren = 30;
+constexpr int kChildren = 60;
 constexpr int kThreads = 4;
 constexpr unsigned kPatience = 30; // seconds
 
 std::atomic<int> drawing{0}; // threads
 
-// Draws one chart again and again: at the end, pictures are refused, but whatever Qt has for new
-// charts is no more.
+void draw(tovangl::PieGraph& pie)
+{
+    unsigned char* data = nullptr;
+    int size = 0;
+    pie.createPixmap(400, 300, &data, &size);
+}
+
+// At the end, pictures are refused, and charts can still be made.
 void drawOn()
 {
     tovangl::PieGraph pie(false);
     pie.addItem(1, "one");
     pie.addItem(2, "two");
     for (bool isFirst = true;; isFirst = false) {
-        unsigned char* data = nullptr;
-        int size = 0;
-        pie.createPixmap(400, 300, &data, &size);
+        draw(pie);
+        tovangl::PieGraph newPie(false);
+        newPie.setLocale("de", "AT");
+        newPie.addItem(1, "one");
+        draw(newPie);
         if (isFirst)
             ++drawing;
     }
 }
 
-[[noreturn]] void endWhileThreadsDraw()
+[[noreturn]] void endAfter(std::chrono::milliseconds time)
 {
-    alarm(kPatience);
-    static_cast<void>(exportPie());
+    std::this_thread::sleep_for(time);
+    std::exit(0);
+}
+
+[[noreturn]] void endWhileThreadsDraw(int child)
+{
+    const bool drewBefore = child % 2 == 0;
+    if (drewBefore)
+        static_cast<void>(exportPie());
     for (int thread = 0; thread < kThreads; ++thread)
         std::thread(drawOn).detach();
-    do
+    if (!drewBefore)
+        endAfter(std::chrono::milliseconds(child / 2));
+    while (drawing < kThreads)
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    while (drawing < kThreads);
-    std::exit(0);
+    endAfter(std::chrono::milliseconds(20));
+}
+
+// The thread that has loaded the library is no more, and another one draws.
+[[noreturn]] void goOnWithoutMainThread()
+{
+    std::thread([mainThread = pthread_self()] {
+        const bool hasEnded = pthread_join(mainThread, nullptr) == 0;
+        std::exit(hasEnded && !exportPie().bytes.empty() ? 0 : 1);
+    }).detach();
+    pthread_exit(nullptr);
+}
+
+template <typename Run>
+bool succeedsInChild(const Run& run)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        alarm(kPatience);
+        run();
+    }
+    int status = -1;
+    return waitpid(child, &status, 0) == child && status == 0;
 }
 
 } // namespace
 
 int main(int, char** arguments)
 {
-    for (int i = 0; i < kChildren; ++i) {
-        const pid_t child = fork();
-        if (child == 0)
-            endWhileThreadsDraw();
-        int status = -1;
-        if (waitpid(child, &status, 0) != child || status != 0)
+    for (int child = 0; child < kChildren; ++child) {
+        if (!succeedsInChild([child] { endWhileThreadsDraw(child); }))
             return 1;
     }
+    if (!succeedsInChild(goOnWithoutMainThread))
+        return 1;
     return drawPie(arguments[1], "main") ? 0 : 1;
 }

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// What happens when exit() ends the process while threads draw.
+#include "process/process_end.h"
+
+#include "process/font_gate.h"
+#include "process/message_filter.h"
+
+#include <QLocale>
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+#include <thread>
+
+namespace tovangl {
+
+namespace {
+
+std::atomic<bool> isEnd{false};
+std::atomic<std::thread::id> endingThread; // has called exit()
+
+// A thread that ends the process while it draws itself, as a handler of signals may, cannot wait
+// for its own picture.
+void finishPictures()
+{
+    if (!isSilenced())
+        const CFontChange pictures;
+}
+
+// Threads that go on making charts ask Qt for the process's locale. Qt gives it up, but does not
+// notice if it is asked once more, which is harmless while somebody else has the locale too.
+void keepLocale()
+{
+    alignas(QLocale) static unsigned char place[sizeof(QLocale)]; // is never destroyed
+    [[maybe_unused]] static const auto* const locale = new (place) QLocale;
+}
+
+void endOtherThreads()
+{
+    endingThread = std::this_thread::get_id();
+    finishPictures();
+    keepLocale();
+}
+
+void endAllThreads()
+{
+    isEnd = true;
+    finishPictures();
+    keepLocale();
+}
+
+// exit() first destroys what belongs to the calling thread. Should the thread just end, the handler
+// waits for the end of the process.
+class CThreadEnd
+{
+public:
+    CThreadEnd() = default;
+    ~CThreadEnd()
+    {
+        finishPictures(); // with all that they register
+        static_cast<void>(std::atexit(endOtherThreads));
+    }
+    Q_DISABLE_COPY(CThreadEnd)
+};
+
+bool watchThisThread()
+{
+    static thread_local const CThreadEnd threadEnd;
+    return true;
+}
+
+[[maybe_unused]] const bool watchesLoadingThread = watchThisThread();
+
+} // namespace
+
+bool isProcessEnding()
+{
+    const std::thread::id ending = endingThread;
+    return isEnd || (ending != std::thread::id() && ending != std::this_thread::get_id());
+}
+
+void noteFirstPicture()
+{
+    [[maybe_unused]] static const int isRegistered = std::atexit(endAllThreads);
+}
+
+} // namespace tovangl

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// What happens when exit() ends the process while threads draw.
+///
+/// Qt creates tables when it first paints this or that, and registers their destruction as an exit
+/// handler. exit() runs the latest handler first, while other threads go on. So the library's own
+/// handlers let pictures be finished, and refuse further ones, before that:
+///
+/// - One is registered when exit() has just begun, where the thread that loaded the library calls
+///   it, which is the main thread of most hosts. It runs before all others. From then on this
+///   thread alone may draw, for handlers of the host's.
+/// - One is registered after the first picture. From then on no thread may draw. Where another
+///   thread calls exit(), or where the library was loaded by a thread that has ended, it is the
+///   only one: a process that ends so during its first pictures can crash.
+#ifndef TOVANGL_PROCESS_PROCESS_END_H
+#define TOVANGL_PROCESS_PROCESS_END_H
+
+namespace tovangl {
+
+/// Whether the end of the process has come so far that the calling thread may not draw.
+[[nodiscard]] bool isProcessEnding();
+
+/// To be called after each picture, in its scope, so that what it was painted with outlives others.
+void noteFirstPicture();
+
+} // namespace tovangl
+
+#endif
