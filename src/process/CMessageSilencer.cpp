@@ -10,15 +10,16 @@ namespace tovangl {
 
 /// The filter of the copy of the library that made this object. All copies in a process must agree
 /// on its name and its layout, so a new layout needs a new name.
-struct CMessageFilter1
+struct CMessageFilter2
 {
     void (*begin)() = beginSilence;
     void (*end)() = endSilence;
+    void (*silenceOthers)() = silenceOtherThreads;
 };
 
 } // namespace tovangl
 
-Q_DECLARE_METATYPE(tovangl::CMessageFilter1)
+Q_DECLARE_METATYPE(tovangl::CMessageFilter2)
 
 namespace tovangl {
 
@@ -27,16 +28,16 @@ namespace {
 // Static copies of the library in one process, for example in several plugins, share one filter:
 // several filters would stack up in front of each other without end. Qt registers types by name,
 // and has the first copy make an object of this one.
-CMessageFilter1 filterOfFirstCopy()
+CMessageFilter2 filterOfFirstCopy()
 {
-    CMessageFilter1 filter;
-    QMetaType(qRegisterMetaType<CMessageFilter1>()).construct(&filter);
+    CMessageFilter2 filter;
+    QMetaType(qRegisterMetaType<CMessageFilter2>()).construct(&filter);
     return filter;
 }
 
-const CMessageFilter1& sharedFilter()
+const CMessageFilter2& sharedFilter()
 {
-    static const CMessageFilter1 filter = filterOfFirstCopy();
+    static const CMessageFilter2 filter = filterOfFirstCopy();
     return filter;
 }
 
@@ -50,6 +51,11 @@ CMessageSilencer::CMessageSilencer()
 CMessageSilencer::~CMessageSilencer()
 {
     sharedFilter().end();
+}
+
+void CMessageSilencer::silenceOtherThreads()
+{
+    sharedFilter().silenceOthers();
 }
 
 } // namespace tovangl

@@ -16,6 +16,10 @@ public:
     CMessageSilencer();
     ~CMessageSilencer();
     Q_DISABLE_COPY(CMessageSilencer)
+
+    /// Discards, until the process has ended, the messages of all threads that ever had such a
+    /// scope, but for the calling one.
+    static void silenceOtherThreads();
 };
 
 } // namespace tovangl

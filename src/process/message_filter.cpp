@@ -7,6 +7,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <mutex>
 #include <thread>
@@ -19,6 +20,8 @@ namespace {
 extern CMessageFilters filters;
 
 thread_local int silencedScopes = 0;
+thread_local bool wasSilenced = false;
+std::atomic<bool> areOthersSilent{false};
 
 // --- passing a message on
 
@@ -67,7 +70,7 @@ QtMessageHandler waitForHostHandler(std::size_t filter)
 void passOn(std::size_t filter, QtMsgType type, const QMessageLogContext& context,
             const QString& message)
 {
-    if (silencedScopes > 0)
+    if (silencedScopes > 0 || (wasSilenced && areOthersSilent))
         return;
     const QtMessageHandler hostHandler = waitForHostHandler(filter);
     if (CPassage::leadsTo(hostHandler))
@@ -96,6 +99,7 @@ CMessageFilters filters = {makeFilters(std::make_index_sequence<CMessageFilters:
 std::mutex exchangeMutex;
 CHandlerExchange handlerExchange(filters, qInstallMessageHandler, CHandlerExchange::Clock::now);
 int scopesOfAllThreads = 0;
+int silencedThreads = 0; // ever
 
 } // namespace
 
@@ -105,6 +109,10 @@ void beginSilence()
     const std::lock_guard<std::mutex> lock(exchangeMutex);
     ++scopesOfAllThreads;
     handlerExchange.putFilterInFront();
+    if (!wasSilenced && !areOthersSilent) {
+        wasSilenced = true;
+        ++silencedThreads;
+    }
 }
 
 void endSilence()
@@ -113,6 +121,18 @@ void endSilence()
     const std::lock_guard<std::mutex> lock(exchangeMutex);
     if (--scopesOfAllThreads == 0)
         handlerExchange.takeFilterAway();
+}
+
+void silenceOtherThreads()
+{
+    const std::lock_guard<std::mutex> lock(exchangeMutex);
+    const int otherThreads = silencedThreads - (wasSilenced ? 1 : 0);
+    if (areOthersSilent || otherThreads == 0)
+        return;
+    wasSilenced = false;
+    areOthersSilent = true;
+    ++scopesOfAllThreads;
+    handlerExchange.putFilterInFront();
 }
 
 bool isSilenced()

@@ -26,6 +26,9 @@
 ///
 /// A handler that the host installs *while* a thread draws gets the rest of that rendering's
 /// messages, because it is the host's latest choice.
+///
+/// When the process ends, a filter stays in force if several threads have drawn: Qt 5 complains
+/// about each that ends after Qt's tables.
 #ifndef TOVANGL_PROCESS_MESSAGE_FILTER_H
 #define TOVANGL_PROCESS_MESSAGE_FILTER_H
 
@@ -39,6 +42,10 @@ void endSilence();
 
 /// Whether the calling thread is between the two.
 [[nodiscard]] bool isSilenced();
+
+/// Discards, until the process has ended, the messages of all threads that were ever silent, but
+/// for the calling one, which ends the process.
+void silenceOtherThreads();
 
 } // namespace tovangl
 

@@ -2,6 +2,7 @@
 // What happens when exit() ends the process while threads draw.
 #include "process/process_end.h"
 
+#include "process/CMessageSilencer.h"
 #include "process/font_gate.h"
 #include "process/message_filter.h"
 
@@ -19,14 +20,6 @@ namespace {
 std::atomic<bool> isEnd{false};
 std::atomic<std::thread::id> endingThread; // has called exit()
 
-// A thread that ends the process while it draws itself, as a handler of signals may, cannot wait
-// for its own picture.
-void finishPictures()
-{
-    if (!isSilenced())
-        const CFontChange pictures;
-}
-
 // Threads that go on making charts ask Qt for the process's locale. Qt gives it up, but does not
 // notice if it is asked once more, which is harmless while somebody else has the locale too.
 void keepLocale()
@@ -35,18 +28,33 @@ void keepLocale()
     [[maybe_unused]] static const auto* const locale = new (place) QLocale;
 }
 
+// A thread that ends the process while it draws itself, as a handler of signals may, cannot wait
+// for its own picture.
+void finishPictures()
+{
+    if (!isSilenced())
+        const CFontChange pictures;
+}
+
+// Other threads finish their pictures. Qt 5 complains about each that ends after Qt's tables.
+void settleOtherThreads()
+{
+    finishPictures();
+    if (!isSilenced())
+        CMessageSilencer::silenceOtherThreads();
+    keepLocale();
+}
+
 void endOtherThreads()
 {
     endingThread = std::this_thread::get_id();
-    finishPictures();
-    keepLocale();
+    settleOtherThreads();
 }
 
 void endAllThreads()
 {
     isEnd = true;
-    finishPictures();
-    keepLocale();
+    settleOtherThreads();
 }
 
 // exit() first destroys what belongs to the calling thread. Should the thread just end, the handler

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A host whose processes end while several of their threads draw: at their first pictures, or
-// later.
+// A host whose processes end while several of their threads draw, at their first pictures or later,
+// or before threads that have drawn.
 #include "draw_pie.h"
 
 #include <atomic>
@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -43,6 +44,41 @@ void drawOn()
     }
 }
 
+// Threads that have drawn, and end when Qt's tables are gone.
+class CPool
+{
+public:
+    CPool() = default;
+    CPool(const CPool&) = delete;
+    CPool& operator=(const CPool&) = delete;
+    ~CPool()
+    {
+        isEnd = true;
+        for (std::thread& thread : threads)
+            thread.join();
+    }
+
+    void start()
+    {
+        for (int i = 0; i < kThreads; ++i)
+            threads.emplace_back([this] { work(); });
+    }
+
+private:
+    void work() const
+    {
+        static_cast<void>(exportPie());
+        ++drawing;
+        while (!isEnd)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+
+    std::vector<std::thread> threads;
+    std::atomic<bool> isEnd{false};
+};
+
+CPool pool;
+
 [[noreturn]] void endAfter(std::chrono::milliseconds time)
 {
     std::this_thread::sleep_for(time);
@@ -61,6 +97,14 @@ void drawOn()
     while (drawing < kThreads)
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     endAfter(std::chrono::milliseconds(20));
+}
+
+[[noreturn]] void endBeforeThreads(bool afterPictures)
+{
+    pool.start();
+    while (afterPictures && drawing < kThreads)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    endAfter(std::chrono::milliseconds(1));
 }
 
 // The thread that has loaded the library is no more, and another one draws.
@@ -91,6 +135,10 @@ int main(int, char** arguments)
 {
     for (int child = 0; child < kChildren; ++child) {
         if (!succeedsInChild([child] { endWhileThreadsDraw(child); }))
+            return 1;
+    }
+    for (const bool afterPictures : {false, true}) {
+        if (!succeedsInChild([=] { endBeforeThreads(afterPictures); }))
             return 1;
     }
     if (!succeedsInChild(goOnWithoutMainThread))
