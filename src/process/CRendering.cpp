@@ -20,7 +20,7 @@ CRendering::CRendering()
 
 CRendering::~CRendering()
 {
-    noteFirstPicture();
+    notePicture();
 }
 
 } // namespace tovangl

@@ -9,6 +9,7 @@
 #include <QLocale>
 
 #include <atomic>
+#include <cstdint>
 #include <cstdlib>
 #include <new>
 #include <thread>
@@ -87,9 +88,12 @@ bool isProcessEnding()
     return isEnd || (ending != std::thread::id() && ending != std::this_thread::get_id());
 }
 
-void noteFirstPicture()
+void notePicture()
 {
-    [[maybe_unused]] static const int isRegistered = std::atexit(endAllThreads);
+    static std::atomic<std::uint64_t> pictures{0};
+    const std::uint64_t count = ++pictures;
+    if ((count & (count - 1)) == 0)
+        static_cast<void>(std::atexit(count == 1 ? endAllThreads : endOtherThreads));
 }
 
 } // namespace tovangl

@@ -9,9 +9,10 @@
 /// - One is registered when exit() has just begun, where the thread that loaded the library calls
 ///   it, which is the main thread of most hosts. It runs before all others. From then on this
 ///   thread alone may draw, for handlers of the host's.
-/// - One is registered after the first picture. From then on no thread may draw. Where another
-///   thread calls exit(), or where the library was loaded by a thread that has ended, it is the
-///   only one: a process that ends so during its first pictures can crash.
+/// - The same is registered again after the second, fourth, eighth picture and so on, for other
+///   threads that call exit(). It is older than what Qt has created since. A process that ends so
+///   during its first pictures can crash.
+/// - One is registered after the first picture. From then on no thread may draw.
 #ifndef TOVANGL_PROCESS_PROCESS_END_H
 #define TOVANGL_PROCESS_PROCESS_END_H
 
@@ -20,8 +21,8 @@ namespace tovangl {
 /// Whether the end of the process has come so far that the calling thread may not draw.
 [[nodiscard]] bool isProcessEnding();
 
-/// To be called after each picture, in its scope, so that what it was painted with outlives others.
-void noteFirstPicture();
+/// To be called at the end of each picture, in its scope.
+void notePicture();
 
 } // namespace tovangl
 

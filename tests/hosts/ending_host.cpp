@@ -14,33 +14,41 @@
 
 namespace {
 
-constexpr int kChildren = 60;
+constexpr int kChildren = 20; // of each kind
 constexpr int kThreads = 4;
 constexpr unsigned kPatience = 30; // seconds
 
-std::atomic<int> drawing{0}; // threads
+constexpr int kManyPictures = 100;
 
-void draw(tovangl::PieGraph& pie)
+std::atomic<int> pictures{0}; // of all threads
+
+void drawPlainPie()
 {
     unsigned char* data = nullptr;
     int size = 0;
+    tovangl::PieGraph pie(false);
+    pie.addItem(1, "one");
     pie.createPixmap(400, 300, &data, &size);
 }
 
 // At the end, pictures are refused, and charts can still be made.
 void drawOn()
 {
+    unsigned char* data = nullptr;
+    int size = 0;
     tovangl::PieGraph pie(false);
     pie.addItem(1, "one");
     pie.addItem(2, "two");
-    for (bool isFirst = true;; isFirst = false) {
-        draw(pie);
-        tovangl::PieGraph newPie(false);
+    for (;;) {
+        pie.createPixmap(400, 300, &data, &size);
+        ++pictures;
+        tovangl::PieGraph newPie(true);
         newPie.setLocale("de", "AT");
+        newPie.setTitle("A title");
         newPie.addItem(1, "one");
-        draw(newPie);
-        if (isFirst)
-            ++drawing;
+        newPie.createPdf(400, 300, &data, &size);
+        newPie.createPixmap(400, 300, &data, &size);
+        ++pictures;
     }
 }
 
@@ -68,7 +76,7 @@ private:
     void work() const
     {
         static_cast<void>(exportPie());
-        ++drawing;
+        ++pictures;
         while (!isEnd)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
@@ -79,32 +87,48 @@ private:
 
 CPool pool;
 
-[[noreturn]] void endAfter(std::chrono::milliseconds time)
+void waitForPictures(int count)
 {
-    std::this_thread::sleep_for(time);
+    while (pictures < count)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
+void startDrawing()
+{
+    for (int thread = 0; thread < kThreads; ++thread)
+        std::thread(drawOn).detach();
+}
+
+[[noreturn]] void endAtFirstPictures(int milliseconds)
+{
+    startDrawing();
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
     std::exit(0);
 }
 
-[[noreturn]] void endWhileThreadsDraw(int child)
+[[noreturn]] void endInMainThread()
 {
-    const bool drewBefore = child % 2 == 0;
-    if (drewBefore)
-        static_cast<void>(exportPie());
-    for (int thread = 0; thread < kThreads; ++thread)
-        std::thread(drawOn).detach();
-    if (!drewBefore)
-        endAfter(std::chrono::milliseconds(child / 2));
-    while (drawing < kThreads)
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    endAfter(std::chrono::milliseconds(20));
+    startDrawing();
+    waitForPictures(kManyPictures);
+    std::exit(0);
+}
+
+// Qt makes its cache of gradients after the first picture.
+[[noreturn]] void endInAnotherThread()
+{
+    drawPlainPie();
+    startDrawing();
+    waitForPictures(kManyPictures);
+    std::thread([] { std::exit(0); }).detach();
+    for (;;)
+        pause();
 }
 
 [[noreturn]] void endBeforeThreads(bool afterPictures)
 {
     pool.start();
-    while (afterPictures && drawing < kThreads)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    endAfter(std::chrono::milliseconds(1));
+    waitForPictures(afterPictures ? kThreads : 0);
+    std::exit(0);
 }
 
 // The thread that has loaded the library is no more, and another one draws.
@@ -134,7 +158,8 @@ bool succeedsInChild(const Run& run)
 int main(int, char** arguments)
 {
     for (int child = 0; child < kChildren; ++child) {
-        if (!succeedsInChild([child] { endWhileThreadsDraw(child); }))
+        if (!succeedsInChild([child] { endAtFirstPictures(child); }) ||
+            !succeedsInChild(endInMainThread) || !succeedsInChild(endInAnotherThread))
             return 1;
     }
     for (const bool afterPictures : {false, true}) {
