@@ -13,8 +13,10 @@
 class CModule
 {
 public:
-    explicit CModule(const char* path)
-        : m_handle(dlopen(path, RTLD_NOW | RTLD_LOCAL))
+    using Open = void* (*)(const char* path, int mode);
+
+    explicit CModule(const char* path, Open open = dlopen)
+        : m_handle(open(path, RTLD_NOW | RTLD_LOCAL))
     {
         requireHandle(m_handle);
     }
