@@ -2,6 +2,7 @@
 // The fonts of the machine.
 #include "process/CInstalledFonts.h"
 
+#include "process/CStderrSilencer.h"
 #include "text/qt_text.h"
 
 #include <QFont>
@@ -49,6 +50,16 @@ CInstalledFonts& CInstalledFonts::ofProcess()
 {
     static CInstalledFonts& fonts = *std::make_unique<CInstalledFonts>().release();
     return fonts;
+}
+
+void CInstalledFonts::load()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_isLoaded)
+        return;
+    const CStderrSilencer silencer;
+    static_cast<void>(qt::hasFamily(QString()));
+    m_isLoaded = true;
 }
 
 bool CInstalledFonts::hasFamily(const QString& name)

@@ -21,6 +21,10 @@ public:
     /// Those of this process.
     [[nodiscard]] static CInstalledFonts& ofProcess();
 
+    /// Has Qt read fontconfig's settings and caches, unless that is done. What fontconfig has to
+    /// say about them is discarded.
+    void load();
+
     /// Whether the machine knows the name: as a family, as another name of one, or as one for which
     /// its configuration has a family.
     ///
@@ -35,6 +39,7 @@ private:
 
     std::mutex m_mutex;
     std::map<QString, bool> m_families;
+    bool m_isLoaded = false;
     bool m_isAnyThere = false;
 };
 

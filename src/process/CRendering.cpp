@@ -2,6 +2,7 @@
 // What surrounds every rendering of a facade.
 #include "process/CRendering.h"
 
+#include "process/CInstalledFonts.h"
 #include "process/offscreen_application.h"
 #include "process/process_end.h"
 
@@ -11,7 +12,10 @@ Problem findObstacle()
 {
     if (isProcessEnding())
         return Problem::ProcessEnding;
-    return ensureApplication() ? Problem::None : Problem::NoPlatformPlugin;
+    if (!ensureApplication())
+        return Problem::NoPlatformPlugin;
+    CInstalledFonts::ofProcess().load();
+    return Problem::None;
 }
 
 CRendering::CRendering()
