@@ -14,11 +14,11 @@
 
 namespace {
 
-constexpr int kChildren = 20; // of each kind
+constexpr int kChildren = 10; // of each kind
 constexpr int kThreads = 4;
 constexpr unsigned kPatience = 30; // seconds
 
-constexpr int kManyPictures = 100;
+constexpr int kManyPictures = 20;
 
 std::atomic<int> pictures{0}; // of all threads
 
@@ -158,7 +158,7 @@ bool succeedsInChild(const Run& run)
 int main(int, char** arguments)
 {
     for (int child = 0; child < kChildren; ++child) {
-        if (!succeedsInChild([child] { endAtFirstPictures(child); }) ||
+        if (!succeedsInChild([child] { endAtFirstPictures(2 * child); }) ||
             !succeedsInChild(endInMainThread) || !succeedsInChild(endInAnotherThread))
             return 1;
     }
