@@ -14,13 +14,13 @@ from typing import List
 
 from tovangl import Setting, settings
 
-# A function with all the keywords would go through them in every call.
+# A function with the keywords of all settings would go through them in every call.
 CODE_HEADER = '''\
 # SPDX-License-Identifier: MIT
 # Written by write_kinds.py from the table of settings; _kinds.pyi has the keywords.
 """The functions that make charts."""
 
-from tovangl._chart import Chart
+from tovangl._chart import DEFAULT_HEIGHT, DEFAULT_WIDTH, make_chart
 '''
 
 TYPES_HEADER = """\
@@ -99,9 +99,9 @@ def code_of(kind: str) -> str:
     paragraphs = "\n".join([COMMON_PARAMETERS, *map(documentation_of, table_of(kind))])
     documentation = textwrap.indent(f'"""{PURPOSES[kind]}\n\n{paragraphs}\n"""', INDENT)
     return f"""\
-def {kind}(items, **settings):
+def {kind}(items, *, id=None, width=DEFAULT_WIDTH, height=DEFAULT_HEIGHT, print=None, **settings):
 {documentation}
-    return Chart("{kind}", items, **settings)
+    return make_chart("{kind}", items, id, width, height, print, settings)
 """
 
 

@@ -63,24 +63,7 @@ class Chart:
 
         :param settings: by their names; None leaves one at its default
         """
-        if kind not in KINDS:
-            raise ValueError(f"{kind!r} is not pie, bars or hbars")
-        # The usual sizes need no call: after a drawing, each function that runs is far from the
-        # processor.
-        if not (
-            type(width) is type(height) is int
-            and 1 <= width <= GREATEST_SIDE
-            and 1 <= height <= GREATEST_SIDE
-            and print is None
-        ):
-            _check_sizes(width, height, print)
-        if id is not None:
-            _check_id(id)
-        columns = Items.of(items)
-        if kind == "pie" and columns.has_outlines:
-            raise ValueError("slices have no outlines of their own; set outline_color")
-        given = checked_settings(kind, settings) if settings else settings
-        self._fields: _Fields = (kind, columns, id, width, height, print, given)
+        self._fields = _checked_fields(kind, items, id, width, height, print, settings)
 
     @property
     def kind(self) -> str:
@@ -222,8 +205,52 @@ class Chart:
         return self.render()._repr_mimebundle_(include, exclude)
 
 
+def make_chart(
+    kind: str,
+    items: ItemsLike,
+    id: Optional[str],
+    width: int,
+    height: int,
+    print: Optional[int],
+    settings: Dict[str, Any],
+) -> Chart:
+    """The same as Chart(), without going through the keywords again."""
+    chart = Chart.__new__(Chart)
+    chart._fields = _checked_fields(kind, items, id, width, height, print, settings)
+    return chart
+
+
 def _make_chart(arguments: Dict[str, Any]) -> Chart:
     return Chart(**arguments)
+
+
+def _checked_fields(
+    kind: str,
+    items: ItemsLike,
+    id: Optional[str],
+    width: int,
+    height: int,
+    print: Optional[int],
+    settings: Dict[str, Any],
+) -> _Fields:
+    if kind not in KINDS:
+        raise ValueError(f"{kind!r} is not pie, bars or hbars")
+    # The usual sizes need no call: after a drawing, each function that runs is far from the
+    # processor.
+    if not (
+        type(width) is type(height) is int
+        and 1 <= width <= GREATEST_SIDE
+        and 1 <= height <= GREATEST_SIDE
+        and print is None
+    ):
+        _check_sizes(width, height, print)
+    if id is not None:
+        _check_id(id)
+    columns = Items.of(items)
+    if kind == "pie" and columns.has_outlines:
+        raise ValueError("slices have no outlines of their own; set outline_color")
+    given = checked_settings(kind, settings) if settings else settings
+    return kind, columns, id, width, height, print, given
 
 
 def _links_with_others(items: Items, settings: Dict[str, Value]) -> Optional[Links]:

@@ -124,26 +124,38 @@ class Items(Sequence[Item]):
 
     @classmethod
     def _of_rows(cls, rows: List[Any]) -> Items:
+        captions: List[str] = []
+        values: List[Any] = []
+        try:
+            for caption, value in rows:
+                captions.append(caption)
+                values.append(value)
+            packed = array(_VALUE_TYPE, values)
+            text = "\0".join(captions)
+        except (TypeError, ValueError, OverflowError):
+            pass
+        else:
+            # Without the constructor: after a drawing, each function that runs is far from the
+            # processor.
+            items = cls.__new__(cls)
+            items._values = packed
+            items._captions = tuple(captions)
+            items._text = text
+            items._colors = items._outlines = items._links = None
+            return items
+        return cls._of_long_rows(rows)
+
+    @classmethod
+    def _of_long_rows(cls, rows: List[Any]) -> Items:
+        """Rows of which some have colours, or some are wrong."""
         try:
             columns = tuple(zip(*rows, strict=True))
         except ValueError:
             columns = tuple(zip(*map(_full_row, rows)))
         if rows and not _LEAST_FIELDS <= len(columns) <= _MOST_FIELDS:
             raise TypeError(f"{rows[0]!r} is not {_ROW}")
-        if len(columns) == _LEAST_FIELDS:
-            return cls._of_pairs(*columns)
         captions, values, *others = columns or ((), ())
         return cls(values, captions, *others)
-
-    @classmethod
-    def _of_pairs(cls, captions: Tuple[str, ...], values: Tuple[Any, ...]) -> Items:
-        """The most common items, with fewer steps."""
-        items = cls.__new__(cls)
-        items._values = _packed_values(values)
-        items._captions = captions
-        items._text = _joined(captions)
-        items._colors = items._outlines = items._links = None
-        return items
 
     @property
     def has_outlines(self) -> bool:

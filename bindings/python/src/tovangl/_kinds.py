@@ -2,10 +2,10 @@
 # Written by write_kinds.py from the table of settings; _kinds.pyi has the keywords.
 """The functions that make charts."""
 
-from tovangl._chart import Chart
+from tovangl._chart import DEFAULT_HEIGHT, DEFAULT_WIDTH, make_chart
 
 
-def pie(items, **settings):
+def pie(items, *, id=None, width=DEFAULT_WIDTH, height=DEFAULT_HEIGHT, print=None, **settings):
     """A pie with a caption beside each slice. Slices are drawn for values above 0.
 
     :param items: pairs of caption and value, a dict, a Series, or Items
@@ -54,10 +54,10 @@ def pie(items, **settings):
     :param line_color: The colour of the lines that lead to the captions. ``#rrggbb`` or
         ``default``. Default: #000000.
     """
-    return Chart("pie", items, **settings)
+    return make_chart("pie", items, id, width, height, print, settings)
 
 
-def bars(items, **settings):
+def bars(items, *, id=None, width=DEFAULT_WIDTH, height=DEFAULT_HEIGHT, print=None, **settings):
     """Standing bars, with the value scale at the left.
 
     :param items: pairs of caption and value, a dict, a Series, or Items
@@ -115,10 +115,10 @@ def bars(items, **settings):
         default.
     :param grid_color: The colour of the grid lines. ``#rrggbb`` or ``default``. Default: default.
     """
-    return Chart("bars", items, **settings)
+    return make_chart("bars", items, id, width, height, print, settings)
 
 
-def hbars(items, **settings):
+def hbars(items, *, id=None, width=DEFAULT_WIDTH, height=DEFAULT_HEIGHT, print=None, **settings):
     """Lying bars, one below the other, each with its value beside it.
 
     :param items: pairs of caption and value, a dict, a Series, or Items
@@ -173,4 +173,4 @@ def hbars(items, **settings):
     :param value_color: The colour of the values beside the bars. ``#rrggbb`` or ``default``.
         Default: default.
     """
-    return Chart("hbars", items, **settings)
+    return make_chart("hbars", items, id, width, height, print, settings)

@@ -25,14 +25,19 @@ def table_of(kind: str) -> Dict[str, Setting]:
     return {setting.name: setting for setting in settings() if kind in setting.charts}
 
 
-@lru_cache(maxsize=None)
-def _plain_types(kind: str) -> Dict[str, type]:
-    """The types whose values need no check, but for real numbers, which may be infinite."""
-    return {
-        name: _PLAIN_TYPES.get(setting.type, str)
-        for name, setting in table_of(kind).items()
-        if setting.type != "real"
-    }
+class _PlainTypes(Dict[str, Dict[str, type]]):
+    """For each kind: the types whose values need no check. Real numbers do, being perhaps infinite."""
+
+    def __missing__(self, kind: str) -> Dict[str, type]:
+        types = self[kind] = {
+            name: _PLAIN_TYPES.get(setting.type, str)
+            for name, setting in table_of(kind).items()
+            if setting.type != "real"
+        }
+        return types
+
+
+_plain_types = _PlainTypes()
 
 
 def checked_settings(kind: str, given: Mapping[str, Any]) -> Dict[str, Value]:
@@ -40,7 +45,7 @@ def checked_settings(kind: str, given: Mapping[str, Any]) -> Dict[str, Value]:
 
     A list of colours, of axis properties or of two numbers becomes a text with commas.
     """
-    plain_types = _plain_types(kind)
+    plain_types = _plain_types[kind]
     checked: Dict[str, Value] = {}
     for name, value in given.items():
         if type(value) is plain_types.get(name):
