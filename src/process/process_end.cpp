@@ -9,10 +9,12 @@
 #include <QLocale>
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <new>
 #include <thread>
+#include <unistd.h>
 
 namespace tovangl {
 
@@ -20,6 +22,12 @@ namespace {
 
 std::atomic<bool> isEnd{false};
 std::atomic<std::thread::id> endingThread; // has called exit()
+
+// The end of the main thread is nearly always exit(), whose handlers are about to run: what a
+// picture registers now would be destroyed before they do. Should this thread alone end, the
+// pictures of others are late once.
+std::atomic<std::thread::id> endingMainThread;
+constexpr std::chrono::milliseconds kLongestWait{100};
 
 // Threads that go on making charts ask Qt for the process's locale. Qt gives it up, but does not
 // notice if it is asked once more, which is harmless while somebody else has the locale too.
@@ -29,20 +37,29 @@ void keepLocale()
     [[maybe_unused]] static const auto* const locale = new (place) QLocale;
 }
 
-// A thread that ends the process while it draws itself, as a handler of signals may, cannot wait
-// for its own picture.
-void finishPictures()
+bool isMainThread()
 {
-    if (!isSilenced())
-        const CFontChange pictures;
+    return gettid() == getpid();
 }
 
-// Other threads finish their pictures. Qt 5 complains about each that ends after Qt's tables.
+// Waits until no other thread draws.
+void finishPictures()
+{
+    const CFontChange pictures;
+    // Those that begin from here on wait themselves.
+    if (isMainThread())
+        endingMainThread = std::this_thread::get_id();
+}
+
+// Other threads finish their pictures. Qt 5 complains about each that ends after Qt's tables. A
+// thread that ends the process while it draws itself, as a handler of signals may, cannot wait for
+// its own picture.
 void settleOtherThreads()
 {
-    finishPictures();
-    if (!isSilenced())
+    if (!isSilenced()) {
+        finishPictures();
         CMessageSilencer::silenceOtherThreads();
+    }
     keepLocale();
 }
 
@@ -66,11 +83,25 @@ public:
     CThreadEnd() = default;
     ~CThreadEnd()
     {
-        finishPictures(); // with all that they register
+        if (!isSilenced())
+            finishPictures(); // with all that they register
         static_cast<void>(std::atexit(endOtherThreads));
     }
     Q_DISABLE_COPY(CThreadEnd)
 };
+
+// Lets an exit() that has begun in the main thread get to its handlers.
+void awaitHandlers()
+{
+    const std::thread::id main = endingMainThread;
+    if (main == std::thread::id() || main == std::this_thread::get_id())
+        return;
+    const auto begin = std::chrono::steady_clock::now();
+    while (endingThread == std::thread::id() &&
+           std::chrono::steady_clock::now() - begin < kLongestWait)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    endingMainThread = std::thread::id();
+}
 
 bool watchThisThread()
 {
@@ -84,6 +115,7 @@ bool watchThisThread()
 
 bool isProcessEnding()
 {
+    awaitHandlers();
     const std::thread::id ending = endingThread;
     return isEnd || (ending != std::thread::id() && ending != std::this_thread::get_id());
 }

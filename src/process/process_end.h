@@ -7,8 +7,9 @@
 /// handlers let pictures be finished, and refuse further ones, before that:
 ///
 /// - One is registered when exit() has just begun, where the thread that loaded the library calls
-///   it, which is the main thread of most hosts. It runs before all others. From then on this
-///   thread alone may draw, for handlers of the host's.
+///   it, which is the main thread of most hosts. It runs before all others: pictures that other
+///   threads begin meanwhile wait for it. From then on this thread alone may draw, for handlers of
+///   the host's.
 /// - The same is registered again after the second, fourth, eighth picture and so on, for other
 ///   threads that call exit(). It is older than what Qt has created since. A process that ends so
 ///   during its first pictures can crash.
@@ -18,7 +19,9 @@
 
 namespace tovangl {
 
-/// Whether the end of the process has come so far that the calling thread may not draw.
+/// Whether the end of the process has come so far that the calling thread may not draw. To be
+/// called in a picture's scope. Where the main thread has just ended without exit(), the answer
+/// takes up to a tenth of a second, once.
 [[nodiscard]] bool isProcessEnding();
 
 /// To be called at the end of each picture, in its scope.

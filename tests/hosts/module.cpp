@@ -7,3 +7,8 @@ extern "C" __attribute__((visibility("default"))) bool drawPieInModule(const cha
 {
     return drawPie(folder, name);
 }
+
+extern "C" __attribute__((visibility("default"))) bool drawsPieInModule()
+{
+    return !exportPie().bytes.empty();
+}
