@@ -128,9 +128,8 @@ void Graph::setPalette(const std::vector<Color>& colors)
 
 void Graph::setPictureColor(const Color& color)
 {
-    const QColor picture = toQColor(color);
     if (m_graph)
-        m_graph->input().settings.colors.picture = picture.isValid() ? picture : QColor(Qt::white);
+        m_graph->input().settings.colors.picture = orElse(toQColor(color), Qt::white);
 }
 
 void Graph::setPictureTransparent()

@@ -26,6 +26,12 @@ struct CChartColors
     std::vector<QColor> palette;  ///< of items without a colour of their own; empty: the default
 };
 
+/// The colour where it is set, and the other one where it is not.
+[[nodiscard]] inline QColor orElse(const QColor& color, const QColor& other)
+{
+    return color.isValid() ? color : other;
+}
+
 } // namespace tovangl
 
 #endif

@@ -40,11 +40,6 @@ struct CBarTask
     }
 };
 
-QColor orElse(const QColor& color, const QColor& fallback)
-{
-    return color.isValid() ? color : fallback;
-}
-
 QColor textColor(const CBarTask& task)
 {
     return orElse(task.colors().text, Qt::black);

@@ -35,9 +35,9 @@ std::optional<CChartTitle> placeTitle(const CGraph1dSettings& settings, const CR
     if (size.isEmpty())
         return std::nullopt;
     const QRect rect(QPoint((request.width - size.width()) / 2, margin), size);
-    const QColor color = settings.colors.text.isValid() ? settings.colors.text : QColor(Qt::black);
-    return CChartTitle{{title.getText(), toRoom(rect), Qt::AlignHCenter, color, kTitleStyle.isBold,
-                        false, QPointF(), measurer.slack(rect.width())},
+    return CChartTitle{{title.getText(), toRoom(rect), Qt::AlignHCenter,
+                        orElse(settings.colors.text, Qt::black), kTitleStyle.isBold, false,
+                        QPointF(), measurer.slack(rect.width())},
                        rect};
 }
 

@@ -37,10 +37,9 @@ CPieFrame frameOf(const CRequest& request, int top)
 // The colour set, or else one that suits the device.
 QColor getPieOutlineColor(const CPieInput& input, OutputDevice device)
 {
-    const QColor& ofHost = input.settings.colors.outline;
-    if (ofHost.isValid())
-        return ofHost;
-    return device == OutputDevice::Printer ? QColor(64, 64, 64) : QColor(255, 255, 255);
+    const bool isOnScreen = device == OutputDevice::Screen;
+    return orElse(input.settings.colors.outline,
+                  isOnScreen ? QColor(255, 255, 255) : QColor(64, 64, 64));
 }
 
 CPieBackground createBackground(const CChartColors& colors)
@@ -62,8 +61,7 @@ CPieLayout initLook(const CPieInput& input, const CRequest& request)
     }
     layout.outlineColor = getPieOutlineColor(input, request.device);
     layout.outlineWidth = request.scale;
-    const QColor& line = input.settings.colors.labelLine;
-    layout.labelLineColor = line.isValid() ? line : layout.outlineColor;
+    layout.labelLineColor = orElse(input.settings.colors.labelLine, layout.outlineColor);
     layout.beamWidth = kBeamWidth * request.scale;
     layout.textLineWidth = kTextLineWidth * request.scale;
     return layout;
@@ -231,13 +229,11 @@ std::vector<CPlacedPieLabel> placeLabels(const Labels& labels, const QColor& col
 {
     const QPointF center = layout.shift + layout.center();
     const QPoint origin(truncateToInt(center.x()), truncateToInt(center.y()));
-    const QColor textColor = color.isValid() ? color : QColor(Qt::black);
     std::vector<CPlacedPieLabel> placed;
     placed.reserve(labels.size());
     for (const CPieTextLabel& label : labels) {
-        placed.push_back(layout.fits()
-                             ? label.withTexts(layout.sizesShown, textColor, origin, measurer)
-                             : label.lines());
+        placed.push_back(layout.fits() ? label.withTexts(layout.sizesShown, color, origin, measurer)
+                                       : label.lines());
     }
     return placed;
 }
@@ -264,7 +260,8 @@ CPieLayout layOutPie(const CPieInput& input, const std::vector<std::size_t>& dra
     const bool isSpread = input.options.testFlag(CPieInput::RemoveLabelOverlaps);
     if (layout.fits() && isSpread && isLabelOverlap(labels))
         removeLabelOverlap(labels, layout);
-    layout.labels = placeLabels(labels, input.settings.colors.text, layout, measurer);
+    const QColor textColor = orElse(input.settings.colors.text, Qt::black);
+    layout.labels = placeLabels(labels, textColor, layout, measurer);
     return layout;
 }
 
