@@ -52,7 +52,6 @@ public:
     [[nodiscard]] bool isFull() const { return m_isFull; }
 
 private:
-    static constexpr std::size_t kBitsPerByte = 8;
     static constexpr std::size_t kWordBytes = sizeof(std::uint64_t);
 
     void putWord(std::uint64_t value, int count)

@@ -8,6 +8,8 @@
 
 namespace tovangl {
 
+inline constexpr std::size_t kBitsPerByte = 8;
+
 /// Bytes to be read.
 struct CByteRange
 {

@@ -12,7 +12,6 @@ namespace tovangl {
 
 namespace {
 
-constexpr std::size_t kBitsPerByte = 8;
 constexpr int kLargestWindowAndNoHeader = -15;
 constexpr std::size_t kScratchBytes = 4096;
 

@@ -14,8 +14,6 @@ namespace {
 // change files by about a thousandth.
 constexpr std::size_t kTokensOfBlock = 16 * 1024;
 
-constexpr std::size_t kBitsPerByte = 8;
-
 // Takes the tokens of the next block.
 void findTokens(CMatchFinder& finder, std::size_t& position, std::size_t end,
                 std::vector<CToken>& tokens)

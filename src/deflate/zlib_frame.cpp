@@ -14,7 +14,6 @@ void beginZlibStream(CBitWriter& out)
 
 std::size_t endZlibStream(CBitWriter& out, CByteRange bytes)
 {
-    constexpr std::size_t kBitsPerByte = 8;
     constexpr std::uint32_t kNothingBefore = 1;
     out.align();
     const std::uint32_t checksum = libdeflate_adler32(kNothingBefore, bytes.data, bytes.size);

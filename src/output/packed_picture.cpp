@@ -19,7 +19,7 @@ namespace {
 
 using Byte = unsigned char;
 
-constexpr int kBitsPerByte = 8;
+constexpr int kDeepestPalette = 8; // bits of an index
 constexpr std::size_t kFilterBytes = 1;
 constexpr std::size_t kChannels = 3; // red, green and blue
 constexpr std::size_t kChannelsWithAlpha = 4;
@@ -305,7 +305,7 @@ RowFilter chooseFilter(std::size_t rowBytes, int repeated, int others)
 int paletteDepth(int colors)
 {
     int depth = 1;
-    while (depth < kBitsPerByte && 1 << depth < colors)
+    while (depth < kDeepestPalette && 1 << depth < colors)
         depth *= 2;
     return depth;
 }

@@ -13,8 +13,6 @@ namespace tovangl {
 
 namespace {
 
-constexpr std::size_t kBitsPerByte = 8;
-
 // Pieces from a compressor begin with a byte. A stored block of nothing leads there from any bit.
 void putEmptyBlock(CBitWriter& out)
 {
