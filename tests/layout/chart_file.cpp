@@ -39,18 +39,6 @@ QString restOf(Line& line)
     return QString::fromStdString(value).replace(QLatin1String("\\n"), QLatin1String("\n"));
 }
 
-QColor color(Line& line)
-{
-    const QString name = word(line);
-    return name == QLatin1String("-") ? QColor() : QColor(name);
-}
-
-CChartFile::CAxisSetting axis(Line& line)
-{
-    const int properties = number<int>(line);
-    return {properties, restOf(line)};
-}
-
 void appendRepeated(CChartFile& chart, Line& line)
 {
     const int count = number<int>(line);
@@ -71,35 +59,6 @@ const std::map<std::string, Setter>& setters()
          }},
         {"background", [](CChartFile& chart, Line&) { chart.background = true; }},
         {"print", [](CChartFile& chart, Line& line) { chart.printFactor = number<int>(line); }},
-        {"font",
-         [](CChartFile& chart, Line& line) {
-             const int pixelSize = number<int>(line);
-             chart.font = CChartFile::CFont{restOf(line), pixelSize};
-         }},
-        {"locale",
-         [](CChartFile& chart, Line& line) {
-             const QString language = word(line);
-             chart.locale = CChartFile::CLocale{language, word(line)};
-         }},
-        {"threshold",
-         [](CChartFile& chart, Line& line) { chart.threshold = number<double>(line); }},
-        {"options",
-         [](CChartFile& chart, Line& line) { chart.options = word(line).toInt(nullptr, 0); }},
-        {"colors",
-         [](CChartFile& chart, Line& line) {
-             chart.colors.emplace();
-             for (int i = 0; i < 3; ++i)
-                 chart.colors->push_back(color(line));
-         }},
-        {"across", [](CChartFile& chart, Line& line) { chart.across = axis(line); }},
-        {"upright", [](CChartFile& chart, Line& line) { chart.upright = axis(line); }},
-        {"position",
-         [](CChartFile& chart, Line& line) {
-             const int x = number<int>(line);
-             chart.position = QPoint(x, number<int>(line));
-         }},
-        {"barwidth", [](CChartFile& chart, Line& line) { chart.barWidth = number<int>(line); }},
-        {"textcolor", [](CChartFile& chart, Line& line) { chart.textColor = color(line); }},
         {"item",
          [](CChartFile& chart, Line& line) {
              const auto value = number<long long>(line);
@@ -108,7 +67,7 @@ const std::map<std::string, Setter>& setters()
         {"painted",
          [](CChartFile& chart, Line& line) {
              const auto value = number<long long>(line);
-             const QColor fill = color(line);
+             const QColor fill(word(line));
              chart.items.push_back({value, restOf(line), fill});
          }},
         {"repeat", appendRepeated},

@@ -5,7 +5,6 @@
 #define TOVANGL_LAYOUT_CHART_FILE_H
 
 #include <QColor>
-#include <QPoint>
 #include <QSize>
 #include <QString>
 
@@ -21,16 +20,6 @@ namespace tovangl {
 ///     size WIDTH HEIGHT              (required)
 ///     background
 ///     print FACTOR                   draws for print
-///     font PIXELS FAMILY
-///     locale LANGUAGE COUNTRY
-///     threshold PERCENT
-///     options NUMBER                 pies: the option word
-///     colors OUTLINE TEXT LINE       pies: each #rrggbb or -
-///     across PROPERTIES [TITLE]      bars: the horizontal axis
-///     upright PROPERTIES [TITLE]     bars, lying bars: the vertical axis
-///     position X Y                   bars, lying bars, as all below
-///     barwidth PIXELS
-///     textcolor #rrggbb
 ///     set NAME VALUE                 a setting by its name in the library's table
 ///     item VALUE [CAPTION]           \n in a caption is a line break
 ///     painted VALUE COLOR CAPTION    an item in a colour of its own
@@ -43,22 +32,6 @@ struct CChartFile
         QString text;
         QColor color;
     };
-    struct CAxisSetting
-    {
-        int properties = 0;
-        QString title;
-    };
-    struct CFont
-    {
-        QString family;
-        int pixelSize = 0;
-    };
-    struct CLocale
-    {
-        QString language;
-        QString country;
-    };
-
     struct CSetting
     {
         std::string name;
@@ -69,17 +42,7 @@ struct CChartFile
     QSize size;
     bool background = false;
     std::optional<int> printFactor;
-    std::optional<CFont> font;
-    std::optional<CLocale> locale;
-    std::optional<double> threshold;
-    std::optional<int> options;
-    std::optional<std::vector<QColor>> colors;
-    std::optional<CAxisSetting> across;
-    std::optional<CAxisSetting> upright;
-    std::optional<QPoint> position;
-    std::optional<int> barWidth;
-    QColor textColor;
-    std::vector<CSetting> settings; ///< set by name, after all else
+    std::vector<CSetting> settings; ///< by name, in the order in which they are set
     std::vector<CItem> items;
 };
 

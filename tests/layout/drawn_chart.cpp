@@ -2,7 +2,6 @@
 // Draws a described chart and tells its layout.
 #include "layout/drawn_chart.h"
 
-#include "api/bar_facade.h"
 #include "chart/CBarBase.h"
 #include "chart/CPieGraph.h"
 #include "layout/CDump.h"
@@ -15,45 +14,6 @@
 namespace tovangl {
 
 namespace {
-
-CAxisSettings settingsOf(const CChartFile::CAxisSetting& axis)
-{
-    return {CAxisSettings::Properties(QFlag(axis.properties)), axis.title};
-}
-
-void applyCommonSettings(CGraph1dInput& input, const CChartFile& file)
-{
-    if (file.font)
-        input.settings.setFont(file.font->family, file.font->pixelSize);
-    if (file.locale)
-        input.settings.setLocale(file.locale->language, file.locale->country);
-    for (const CChartFile::CItem& item : file.items)
-        input.addItem(item.value, item.text, item.color, QColor());
-}
-
-void applySettings(CPieInput& input, const CChartFile& file)
-{
-    if (file.options)
-        input.options = CPieInput::Options(QFlag(*file.options));
-    if (file.colors) {
-        input.settings.colors.outline = file.colors->at(0);
-        input.settings.colors.text = file.colors->at(1);
-        input.settings.colors.labelLine = file.colors->at(2);
-    }
-}
-
-void applySettings(CBarInput& input, const CChartFile& file)
-{
-    if (file.across)
-        input.horizontalAxis = settingsOf(*file.across);
-    if (file.upright)
-        input.verticalAxis = settingsOf(*file.upright);
-    if (file.position)
-        input.setPosition(file.position->x(), file.position->y());
-    if (file.barWidth)
-        input.setBarWidth(*file.barWidth);
-    input.settings.colors.text = file.textColor;
-}
 
 CItemSelection selectItems(const CPieInput& input)
 {
@@ -96,10 +56,8 @@ template <typename Chart>
 CDrawnChart drawAs(const CChartFile& file)
 {
     Chart chart(file.background);
-    applySettings(chart.input(), file);
-    applyCommonSettings(chart.input(), file);
-    if (file.threshold)
-        chart.setThreshold(*file.threshold);
+    for (const CChartFile::CItem& item : file.items)
+        chart.input().addItem(item.value, item.text, item.color, QColor());
     for (const CChartFile::CSetting& setting : file.settings) {
         const std::string problem = chart.setByName(setting.name, setting.value);
         if (!problem.empty())

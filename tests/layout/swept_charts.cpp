@@ -14,13 +14,11 @@ constexpr std::array<const char*, 3> kKinds = {"pie", "bars", "lying"};
 constexpr int kWidth = 200;
 constexpr int kHeight = 150;
 
-// Every property of an axis that is one bit.
-constexpr std::array<int, 8> kAxisProperties = {1, 2, 4, 8, 16, 32, 128, 4096};
-// Line, labels, title, unit prefixes and hidden overlaps.
-constexpr int kUsualAxis = 167;
-constexpr int kUnitPrefixes = 32;
-// Bold labels, shortened from the left, overlaps removed, sizes.
-constexpr std::array<int, 4> kPieOptions = {8, 64, 128, 256};
+constexpr std::array kAxisProperties = {"line",       "labels",   "title",           "bold-labels",
+                                        "bold-title", "prefixes", "hide-overlapped", "shift-last"};
+constexpr const char* kUsualAxis = "line,labels,title,prefixes,hide-overlapped";
+constexpr const char* kAxisOfWholeNumbers = "line,labels,title,hide-overlapped";
+constexpr std::array kPieOptions = {"bold", "shorten_left", "keep_overlaps", "without_sizes"};
 
 struct CPlace
 {
@@ -110,7 +108,7 @@ void sweepFontSizes(CSweep& sweep)
     chart.size *= 2;
     for (int size = kLeast; size <= kGreatest; ++size) {
         for (std::size_t family = 0; family < kFamilies.size(); ++family) {
-            chart.font = CChartFile::CFont{QLatin1String(kFamilies[family]), size};
+            chart.settings = {{"font", kFamilies[family]}, {"font_size", std::to_string(size)}};
             chart.printFactor.reset();
             const std::string name = numbered("font", size) + '_' + std::to_string(family);
             sweep.addKinds(name, chart);
@@ -130,25 +128,23 @@ void sweepLocales(CSweep& sweep)
             chart.items.push_back({value, QString::fromUtf8(place.caption), {}});
         if (place.hasNegatives)
             chart.items.push_back({-1234567, QString::fromUtf8(place.caption), {}});
-        chart.locale = CChartFile::CLocale{place.language, place.country};
-        const std::string name = std::string("locale_") + place.language + '_' + place.country;
-        sweep.addKinds(name, chart);
+        const std::string locale = std::string(place.language) + '_' + place.country;
+        chart.settings = {{"locale", locale}};
+        sweep.addKinds("locale_" + locale, chart);
         // Whole numbers, where a unit is used by default.
-        chart.across = chart.upright = CChartFile::CAxisSetting{kUsualAxis - kUnitPrefixes, ""};
-        sweep.addKinds(name + "_whole", chart);
+        chart.kind = "bars";
+        chart.settings.push_back({"value_axis", kAxisOfWholeNumbers});
+        sweep.add("locale_" + locale + "_whole_bars", chart);
     }
 }
 
-// The sum of those options whose bit is set in number.
-template <std::size_t N>
-int sumOf(const std::array<int, N>& options, unsigned number)
+// Each option is set where its bit in number is.
+std::vector<CChartFile::CSetting> pieOptions(unsigned number)
 {
-    int sum = 0;
-    for (std::size_t i = 0; i < N; ++i) {
-        if (number >> i & 1)
-            sum += options[i];
-    }
-    return sum;
+    std::vector<CChartFile::CSetting> settings;
+    for (std::size_t i = 0; i < kPieOptions.size(); ++i)
+        settings.push_back({kPieOptions[i], (number >> i & 1) != 0 ? "true" : "false"});
+    return settings;
 }
 
 void sweepPieOptions(CSweep& sweep)
@@ -156,27 +152,42 @@ void sweepPieOptions(CSweep& sweep)
     CChartFile chart = chartOfFour();
     chart.kind = "pie";
     for (unsigned number = 0; number < 1u << kPieOptions.size(); ++number) {
-        chart.options = sumOf(kPieOptions, number);
-        sweep.add(numbered("options", *chart.options), chart);
+        chart.settings = pieOptions(number);
+        sweep.add(numbered("options", static_cast<int>(number)), chart);
     }
+}
+
+// Those properties whose bit in number is set.
+std::string axisProperties(unsigned number)
+{
+    std::string names;
+    for (std::size_t i = 0; i < kAxisProperties.size(); ++i) {
+        if ((number >> i & 1) != 0)
+            names += (names.empty() ? "" : ",") + std::string(kAxisProperties[i]);
+    }
+    return names.empty() ? "none" : names;
 }
 
 void sweepAxisProperties(CSweep& sweep)
 {
-    const CChartFile::CAxisSetting usual{kUsualAxis, "Pieces sold"};
+    // A title is set first, because it would show itself.
+    const std::vector<CChartFile::CSetting> bars = {{"category_title", "Pieces sold"},
+                                                    {"category_axis", kUsualAxis},
+                                                    {"value_title", "Pieces sold"},
+                                                    {"value_axis", kUsualAxis}};
+    const std::vector<CChartFile::CSetting> lying = {{"category_title", "Pieces sold"}};
     CChartFile chart = chartOfFour();
-    for (unsigned number = 0; number < 1u << kAxisProperties.size(); ++number) {
-        const CChartFile::CAxisSetting swept{sumOf(kAxisProperties, number), "A title"};
-        chart.across = swept;
-        chart.upright = usual;
-        chart.kind = "bars";
-        sweep.add(numbered("across", swept.properties), chart);
-        chart.across = usual;
-        chart.upright = swept;
-        sweep.add(numbered("upright", swept.properties), chart);
-        chart.across.reset();
-        chart.kind = "lying";
-        sweep.add(numbered("lying_upright", swept.properties), chart);
+    const auto add = [&](const char* name, int number, const char* kind,
+                         std::vector<CChartFile::CSetting> settings, const char* axis) {
+        chart.kind = kind;
+        chart.settings = std::move(settings);
+        chart.settings.push_back({axis, axisProperties(static_cast<unsigned>(number))});
+        sweep.add(numbered(name, number), chart);
+    };
+    for (int number = 0; number < 1 << kAxisProperties.size(); ++number) {
+        add("across", number, "bars", bars, "category_axis");
+        add("upright", number, "bars", bars, "value_axis");
+        add("lying_upright", number, "lying", lying, "category_axis");
     }
 }
 
@@ -200,9 +211,12 @@ void sweepLongCaptions(CSweep& sweep)
         chart.items.push_back({10 + 7 * i, longCaption(i), {}});
     for (int width = kLeast; width <= kGreatest; width += kStep) {
         chart.size = QSize(width, 300);
-        for (const int options : {0, 64, 128, 256, 384}) {
-            chart.options = options;
-            sweep.addKinds(numbered("long", width) + '_' + std::to_string(options), chart);
+        chart.settings.clear();
+        sweep.addKinds(numbered("long", width), chart);
+        chart.kind = "pie";
+        for (const unsigned options : {4u, 8u, 12u, 14u}) {
+            chart.settings = pieOptions(options);
+            sweep.add(numbered("long", width) + "_pie_" + std::to_string(options), chart);
         }
     }
 }
