@@ -20,11 +20,6 @@ TEST(CGlobal, AKiloIs1024ByDefault)
     EXPECT_EQ(getGlobal()->oneKilo(), 1024);
 }
 
-TEST(CGlobal, ThereIsOneObject)
-{
-    EXPECT_EQ(getGlobal(), getGlobal());
-}
-
 TEST(CGlobal, BaseZeroMakesAKilo1024)
 {
     CGlobal global;
