@@ -19,6 +19,8 @@
 #include <mutex>
 #include <pthread.h>
 #include <string>
+#include <sys/auxv.h>
+#include <unistd.h>
 
 namespace tovangl {
 
@@ -49,6 +51,35 @@ bool hasPluginsBesideExecutable()
     return std::any_of(names.begin(), names.end(),
                        [&folder](const char* name) { return folder.exists(QLatin1String(name)); });
 }
+
+bool actsForAnotherUser()
+{
+    return geteuid() != getuid();
+}
+
+// Whether the user who started the program has fewer rights than it. Qt would load plugins from
+// where the environment says, and the environment is that user's.
+bool isEnvironmentForeign()
+{
+    return actsForAnotherUser() && getauxval(AT_SECURE) != 0;
+}
+
+// Qt ends a process that acts for another user, for fear of its environment. A daemon that took
+// another user's rights by itself has nothing to fear.
+class CUserPermit
+{
+public:
+    CUserPermit()
+        : m_wasAllowed(QCoreApplication::isSetuidAllowed())
+    {
+        QCoreApplication::setSetuidAllowed(m_wasAllowed || actsForAnotherUser());
+    }
+    ~CUserPermit() { QCoreApplication::setSetuidAllowed(m_wasAllowed); }
+    Q_DISABLE_COPY(CUserPermit)
+
+private:
+    bool m_wasAllowed;
+};
 
 QStringList libraryPathsOfAnApplication()
 {
@@ -120,8 +151,11 @@ bool ensureApplication()
     const std::lock_guard<std::mutex> lock(applicationMutex);
     if (canPaint())
         return true;
+    if (isEnvironmentForeign())
+        return false;
     const CMessageSilencer silencer;
     const CLocaleKeeper keeper;
+    const CUserPermit permit;
     if (!canLoadOffscreenPlugin())
         return false;
     makeApplication();
