@@ -12,7 +12,7 @@ enum class Problem
 {
     None = 0,             ///< the chart was drawn, or nothing has been rendered yet
     SizeOutOfRange = 1,   ///< no picture: the size is out of range
-    NoMemory = 2,         ///< no picture: there was not enough memory for it
+    NoMemory = 2,         ///< no picture: no memory, file descriptor or thread was left for it
     NoPlatformPlugin = 3, ///< no picture: Qt's offscreen platform plugin cannot be loaded
     ProcessEnding = 4,    ///< no picture: the process has begun to end
     TooSmallForChart = 5, ///< a white picture: it has no room for the chart

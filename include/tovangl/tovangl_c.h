@@ -57,7 +57,7 @@ typedef enum tovangl_problem
 {
     TOVANGL_PROBLEM_NONE = 0,                ///< the chart was drawn, or nothing was rendered yet
     TOVANGL_PROBLEM_SIZE_OUT_OF_RANGE = 1,   ///< no picture: the size is out of range
-    TOVANGL_PROBLEM_NO_MEMORY = 2,           ///< no picture: there was not enough memory for it
+    TOVANGL_PROBLEM_NO_MEMORY = 2,           ///< no picture: no memory, file or thread was left
     TOVANGL_PROBLEM_NO_PLATFORM_PLUGIN = 3,  ///< no picture: Qt's offscreen plugin cannot be loaded
     TOVANGL_PROBLEM_PROCESS_ENDING = 4,      ///< no picture: the process has begun to end
     TOVANGL_PROBLEM_TOO_SMALL_FOR_CHART = 5, ///< a picture without the chart: no room for it

@@ -13,7 +13,7 @@ const char* problemSentence(Problem problem)
         return "A picture measures 1 to 1,000,000 pixels a side, and has at most 2,147,483,647 "
                "bytes at four bytes a pixel.";
     case Problem::NoMemory:
-        return "There is not enough memory for the picture.";
+        return "There is not enough memory for the picture, or no free file descriptor or thread.";
     case Problem::NoPlatformPlugin:
         return "Qt's offscreen platform plugin is not installed, or cannot be loaded.";
     case Problem::ProcessEnding:

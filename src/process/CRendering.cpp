@@ -3,8 +3,10 @@
 #include "process/CRendering.h"
 
 #include "process/CInstalledFonts.h"
+#include "process/free_descriptors.h"
 #include "process/offscreen_application.h"
 #include "process/process_end.h"
+#include "process/qt_threads.h"
 
 namespace tovangl {
 
@@ -12,6 +14,8 @@ Problem findObstacle()
 {
     if (isProcessEnding())
         return Problem::ProcessEnding;
+    if (!areDescriptorsFree() || !qt::canStartPaintThreads())
+        return Problem::NoMemory;
     if (!ensureApplication())
         return Problem::NoPlatformPlugin;
     CInstalledFonts::ofProcess().load();

@@ -4,6 +4,7 @@
 
 #include "process/CMessageSilencer.h"
 #include "process/font_gate.h"
+#include "process/free_descriptors.h"
 #include "process/message_filter.h"
 #include "process/qt_threads.h"
 
@@ -151,7 +152,7 @@ bool ensureApplication()
     const std::lock_guard<std::mutex> lock(applicationMutex);
     if (canPaint())
         return true;
-    if (isEnvironmentForeign())
+    if (isEnvironmentForeign() || !areDescriptorsFree())
         return false;
     const CMessageSilencer silencer;
     const CLocaleKeeper keeper;

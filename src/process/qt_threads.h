@@ -9,6 +9,9 @@
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 #include <QThreadPool>
+
+#include <system_error>
+#include <thread>
 #endif
 
 namespace tovangl {
@@ -22,6 +25,11 @@ inline const char* runningVersion()
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 inline void endPaintThreads() {}
+
+inline bool canStartPaintThreads()
+{
+    return true;
+}
 #else
 /// Ends the idle threads of the pool that does antialiased fills; the next fill starts new ones. It
 /// waits long enough for a thread that is just finishing a fill, even where every processor has
@@ -31,6 +39,18 @@ inline void endPaintThreads()
     constexpr int kTimeToBecomeIdle = 1000; // milliseconds
     if (QThreadPool* pool = QThreadPool::globalInstance())
         pool->waitForDone(kTimeToBecomeIdle);
+}
+
+/// Whether the process can have one more thread. A fill waits for ever for a thread of the pool
+/// that cannot be started.
+inline bool canStartPaintThreads()
+{
+    try {
+        std::thread([] {}).join();
+    } catch (const std::system_error&) {
+        return false;
+    }
+    return true;
 }
 #endif
 
