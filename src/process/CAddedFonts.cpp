@@ -31,20 +31,6 @@ QString keyOf(const QString& family)
     return family.trimmed().toLower();
 }
 
-// Whether Qt takes the file, with all of its families by these names. The parts of a broken file
-// can overlap, so that writing these names into it has made another file of it.
-bool registerFile(const QByteArray& file, const std::vector<QString>& names)
-{
-    if (familiesInFile(viewOf(file)) != names)
-        return false;
-    const int id = QFontDatabase::addApplicationFontFromData(file);
-    if (id < 0)
-        return false;
-    const QStringList taken = QFontDatabase::applicationFontFamilies(id);
-    return std::all_of(names.begin(), names.end(),
-                       [&taken](const QString& name) { return taken.contains(name); });
-}
-
 } // namespace
 
 CAddedFonts& CAddedFonts::ofProcess()
@@ -73,12 +59,25 @@ bool CAddedFonts::add(std::string_view file, const std::vector<QString>& familie
     for (const QString& family : families)
         names.push_back(nameFamily(family, addition.families));
     addition.files.push_back({renamedFile(file, names), families});
-    if (!registerFile(addition.files.front().bytes, names))
+    addition.registrations.push_back({addition.files.front().bytes, names});
+    if (!registerFile(addition.registrations.front()))
         return false;
     for (const CFile& older : m_content.files)
-        registerAgain(older, addition.families);
+        registerAgain(older, addition);
     take(std::move(addition));
     return true;
+}
+
+// The last one is the last to come back.
+bool CAddedFonts::areLost() const
+{
+    return !m_content.registrations.empty() && !hasFile(m_content.registrations.back());
+}
+
+void CAddedFonts::restore()
+{
+    for (CRegistration& registration : m_content.registrations)
+        static_cast<void>(registerFile(registration));
 }
 
 QString CAddedFonts::qtFamily(const QString& setting) const
@@ -117,19 +116,40 @@ const QString& CAddedFonts::nameFamily(const QString& family, Families& renamed)
 
 // Qt gets the file once more if some of its families have new names. Its other families keep the
 // names that they have, and are passed over by names that nobody asks for.
-void CAddedFonts::registerAgain(const CFile& file, const Families& renamed)
+void CAddedFonts::registerAgain(const CFile& file, CContent& addition)
 {
     bool isAffected = false;
     std::vector<QString> names;
     for (const QString& family : file.families) {
-        const auto entry = renamed.find(keyOf(family));
-        isAffected |= entry != renamed.end();
-        names.push_back(entry != renamed.end() ? entry->second.qtName : newName());
+        const auto entry = addition.families.find(keyOf(family));
+        const bool isRenamed = entry != addition.families.end();
+        isAffected |= isRenamed;
+        names.push_back(isRenamed ? entry->second.qtName : newName());
     }
     const std::string_view bytes = viewOf(file.bytes);
     // The parts of a broken file can overlap, and new names destroy its old ones.
-    if (isAffected && familiesInFile(bytes).size() == names.size())
-        static_cast<void>(registerFile(renamedFile(bytes, names), names));
+    if (!isAffected || familiesInFile(bytes).size() != names.size())
+        return;
+    addition.registrations.push_back({renamedFile(bytes, names), names});
+    if (!registerFile(addition.registrations.back()))
+        addition.registrations.pop_back();
+}
+
+bool CAddedFonts::hasFile(const CRegistration& registration)
+{
+    const QStringList taken = QFontDatabase::applicationFontFamilies(registration.id);
+    return std::all_of(registration.names.begin(), registration.names.end(),
+                       [&taken](const QString& name) { return taken.contains(name); });
+}
+
+// Whether Qt takes the file, with all of its families by these names. The parts of a broken file
+// can overlap, so that writing these names into it has made another file of it.
+bool CAddedFonts::registerFile(CRegistration& registration)
+{
+    if (familiesInFile(viewOf(registration.bytes)) != registration.names)
+        return false;
+    registration.id = QFontDatabase::addApplicationFontFromData(registration.bytes);
+    return registration.id >= 0 && hasFile(registration);
 }
 
 // Needs no memory, so that a file is added whole or not at all.
@@ -142,6 +162,7 @@ void CAddedFonts::take(CContent&& addition)
     }
     m_content.families.merge(addition.families);
     m_content.digests.merge(addition.digests);
+    m_content.registrations.splice(m_content.registrations.end(), addition.registrations);
     m_content.files.splice(m_content.files.end(), addition.files);
 }
 

@@ -34,6 +34,13 @@ public:
     /// @return false if Qt takes it for no font file; as if memory runs out, nothing changes then
     [[nodiscard]] bool add(std::string_view file, const std::vector<QString>& families);
 
+    /// Whether Qt has lost the files, with an application object of the host's that ended. In the
+    /// scope of a CFontUse.
+    [[nodiscard]] bool areLost() const;
+    /// Gives Qt the files again, by the same names and in the same order, in the scope of a
+    /// CFontChange. The application object must exist.
+    void restore();
+
     /// Qt's name for the first added family that a chart's setting names, in the scope of a
     /// CFontUse.
     ///
@@ -50,6 +57,13 @@ private:
         QByteArray bytes;
         std::vector<QString> families;
     };
+    // What Qt got: a file whose families have these names. The bytes are shared with Qt.
+    struct CRegistration
+    {
+        QByteArray bytes;
+        std::vector<QString> names;
+        int id = -1; // Qt's
+    };
     struct CFamily
     {
         QString name;
@@ -62,13 +76,16 @@ private:
     struct CContent
     {
         std::list<CFile> files;
+        std::list<CRegistration> registrations;
         std::set<QByteArray> digests; // of all files
         Families families;
     };
 
     [[nodiscard]] QString newName();
     [[nodiscard]] const QString& nameFamily(const QString& family, Families& renamed);
-    void registerAgain(const CFile& file, const Families& renamed);
+    void registerAgain(const CFile& file, CContent& addition);
+    [[nodiscard]] static bool hasFile(const CRegistration& registration);
+    [[nodiscard]] static bool registerFile(CRegistration& registration);
     void take(CContent&& addition);
 
     CContent m_content;

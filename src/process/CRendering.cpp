@@ -2,6 +2,7 @@
 // What surrounds every rendering of a facade.
 #include "process/CRendering.h"
 
+#include "process/CAddedFonts.h"
 #include "process/CInstalledFonts.h"
 #include "process/free_descriptors.h"
 #include "process/offscreen_application.h"
@@ -9,6 +10,32 @@
 #include "process/qt_threads.h"
 
 namespace tovangl {
+
+namespace {
+
+bool areAddedFontsLost()
+{
+    const CFontUse use;
+    return CAddedFonts::ofProcess().areLost();
+}
+
+void restoreAddedFonts()
+{
+    if (isProcessEnding() || !areAddedFontsLost())
+        return;
+    const CFontChange change;
+    const CMessageSilencer silencer;
+    if (ensureApplication() && CAddedFonts::ofProcess().areLost())
+        CAddedFonts::ofProcess().restore();
+}
+
+CFontUse useFonts()
+{
+    restoreAddedFonts();
+    return CFontUse();
+}
+
+} // namespace
 
 Problem findObstacle()
 {
@@ -23,7 +50,8 @@ Problem findObstacle()
 }
 
 CRendering::CRendering()
-    : m_obstacle(findObstacle())
+    : m_fontUse(useFonts())
+    , m_obstacle(findObstacle())
 {}
 
 CRendering::~CRendering()
