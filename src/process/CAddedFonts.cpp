@@ -3,6 +3,7 @@
 #include "process/CAddedFonts.h"
 
 #include "text/font_file.h"
+#include "text/qt_text.h"
 
 #include <QCryptographicHash>
 #include <QFontDatabase>
@@ -96,9 +97,14 @@ QString CAddedFonts::qtFamily(const QString& setting) const
     return QString();
 }
 
+// Another copy of the library in the process can have taken the name.
 QString CAddedFonts::newName()
 {
-    return QLatin1String("tovangl ") + QString::number(++m_nameCount);
+    QString name;
+    do
+        name = QLatin1String("tovangl ") + QString::number(++m_nameCount);
+    while (qt::listsFamily(name));
+    return name;
 }
 
 // The name that the family has already, or a new one, which goes to the renamed families.

@@ -39,6 +39,12 @@ inline bool hasFamily(const QString& name)
 {
     return QFontDatabase().hasFamily(name);
 }
+
+/// Whether Qt lists a family of exactly that name.
+inline bool listsFamily(const QString& name)
+{
+    return QFontDatabase().families().contains(name);
+}
 #else
 /// Qt 5 reads a name with commas as a list of families, Qt 6 as one family, which nobody has.
 inline void setFamily(QFont& font, const QString& family)
@@ -63,6 +69,11 @@ inline void setDefaultSize(QFont& font, const QPaintDevice& device)
 inline bool hasFamily(const QString& name)
 {
     return QFontDatabase::hasFamily(name);
+}
+
+inline bool listsFamily(const QString& name)
+{
+    return QFontDatabase::families().contains(name);
 }
 #endif
 
