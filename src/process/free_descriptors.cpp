@@ -2,6 +2,8 @@
 // Tells whether the process can open files.
 #include "process/free_descriptors.h"
 
+#include "process/qt_threads.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -13,8 +15,9 @@ namespace tovangl {
 
 namespace {
 
-// Files that fontconfig includes in each other, a font file, and what Qt's threads wait on.
-constexpr std::size_t kNeeded = 8;
+// A file of fonts or of their settings, and one that such a file names.
+constexpr std::size_t kFiles = 2;
+constexpr std::size_t kNeeded = kFiles + qt::kMostThreadsOfAPicture;
 
 } // namespace
 

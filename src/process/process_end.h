@@ -19,9 +19,8 @@
 
 namespace tovangl {
 
-/// Whether the end of the process has come so far that the calling thread may not draw. To be
-/// called in a picture's scope. Where the main thread has just ended without exit(), the answer
-/// takes up to a tenth of a second, once.
+/// Whether the end of the process has come so far that the calling thread may not draw. Where the
+/// main thread has just ended without exit(), the answer takes a tenth of a second, once.
 [[nodiscard]] bool isProcessEnding();
 
 /// To be called at the end of each picture, in its scope.

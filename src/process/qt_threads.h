@@ -14,6 +14,8 @@
 #include <thread>
 #endif
 
+#include <cstddef>
+
 namespace tovangl {
 namespace qt {
 
@@ -24,6 +26,8 @@ inline const char* runningVersion()
 }
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+inline constexpr std::size_t kMostThreadsOfAPicture = 0; // beside the caller's
+
 inline void endPaintThreads() {}
 
 inline bool canStartPaintThreads()
@@ -31,6 +35,10 @@ inline bool canStartPaintThreads()
     return true;
 }
 #else
+/// Each of them waits on a descriptor of its own. There can be one for each processor; more than
+/// these are not worth refusing a picture for.
+inline constexpr std::size_t kMostThreadsOfAPicture = 4;
+
 /// Ends the idle threads of the pool that does antialiased fills; the next fill starts new ones. It
 /// waits long enough for a thread that is just finishing a fill, even where every processor has
 /// other things to do, but no longer for one that works for the host.
