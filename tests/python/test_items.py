@@ -227,3 +227,20 @@ def test_items_can_be_taken_apart_and_pickled():
     assert items != [1, 2, 3]
     with pytest.raises(IndexError):
         items[3]
+
+
+class ChangesItsMind:
+    """A value that is no number when it is read for the first time."""
+
+    def __init__(self):
+        self.reads = 0
+
+    def __index__(self):
+        self.reads += 1
+        if self.reads == 1:
+            raise TypeError("not yet")
+        return 7
+
+
+def test_a_value_that_is_a_number_only_when_read_again_is_that_number():
+    assert [item.value for item in Items.of([("a", 1), ("b", ChangesItsMind())])] == [1, 7]

@@ -276,7 +276,8 @@ def _packed_values(values: Sequence[Any]) -> array[int]:
             raise OverflowError(f"item {place}: {value} does not fit into 64 bits") from None
         except TypeError:
             raise TypeError(f"item {place}: the value {value!r} is not a whole number") from None
-    return array(_VALUE_TYPE)
+    # Each was read this time: the column must still be as long as the captions beside it.
+    return array(_VALUE_TYPE, values)
 
 
 def _joined(captions: Sequence[str]) -> str:
