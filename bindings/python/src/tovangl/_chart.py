@@ -63,7 +63,7 @@ class Chart:
 
         :param settings: by their names; None leaves one at its default
         """
-        self._fields = _checked_fields(kind, items, id, width, height, print, settings)
+        self._fields: _Fields = make_chart(kind, items, id, width, height, print, settings)._fields
 
     @property
     def kind(self) -> str:
@@ -215,24 +215,6 @@ def make_chart(
     settings: Dict[str, Any],
 ) -> Chart:
     """The same as Chart(), without going through the keywords again."""
-    chart = Chart.__new__(Chart)
-    chart._fields = _checked_fields(kind, items, id, width, height, print, settings)
-    return chart
-
-
-def _make_chart(arguments: Dict[str, Any]) -> Chart:
-    return Chart(**arguments)
-
-
-def _checked_fields(
-    kind: str,
-    items: ItemsLike,
-    id: Optional[str],
-    width: int,
-    height: int,
-    print: Optional[int],
-    settings: Dict[str, Any],
-) -> _Fields:
     if kind not in KINDS:
         raise ValueError(f"{kind!r} is not pie, bars or hbars")
     # The usual sizes need no call: after a drawing, each function that runs is far from the
@@ -250,7 +232,13 @@ def _checked_fields(
     if kind == "pie" and columns.has_outlines:
         raise ValueError("slices have no outlines of their own; set outline_color")
     given = checked_settings(kind, settings) if settings else settings
-    return kind, columns, id, width, height, print, given
+    chart = Chart.__new__(Chart)
+    chart._fields = (kind, columns, id, width, height, print, given)
+    return chart
+
+
+def _make_chart(arguments: Dict[str, Any]) -> Chart:
+    return Chart(**arguments)
 
 
 def _links_with_others(items: Items, settings: Dict[str, Value]) -> Optional[Links]:
