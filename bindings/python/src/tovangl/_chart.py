@@ -63,6 +63,8 @@ class Chart:
 
         :param settings: by their names; None leaves one at its default
         """
+        if kind not in KINDS:
+            raise ValueError(f"{kind!r} is not pie, bars or hbars")
         self._fields: _Fields = make_chart(kind, items, id, width, height, print, settings)._fields
 
     @property
@@ -214,9 +216,7 @@ def make_chart(
     print: Optional[int],
     settings: Dict[str, Any],
 ) -> Chart:
-    """The same as Chart(), without going through the keywords again."""
-    if kind not in KINDS:
-        raise ValueError(f"{kind!r} is not pie, bars or hbars")
+    """The same as Chart(), of a kind that there is, without going through the keywords again."""
     # The usual sizes need no call: after a drawing, each function that runs is far from the
     # processor.
     if not (

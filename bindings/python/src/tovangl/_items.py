@@ -106,10 +106,27 @@ class Items(Sequence[Item]):
     @classmethod
     def of(cls, items: ItemsLike) -> Items:
         """Items from anything that a chart takes them as."""
-        # The most common form comes first: to ask for an abstract type, such as Items is one, takes
-        # longer.
+        # The most common form comes first, and without the constructor: after a drawing, each
+        # function that runs is far from the processor.
         if isinstance(items, list):
-            return cls._of_rows(items)
+            captions: List[str] = []
+            values: List[Any] = []
+            try:
+                for caption, value in items:
+                    captions.append(caption)
+                    values.append(value)
+                packed = array(_VALUE_TYPE, values)
+                text = "\0".join(captions)
+            except (TypeError, ValueError, OverflowError):
+                pass
+            else:
+                pairs = cls.__new__(cls)
+                pairs._values = packed
+                pairs._captions = tuple(captions)
+                pairs._text = text
+                pairs._colors = pairs._outlines = pairs._links = None
+                return pairs
+            return cls._of_long_rows(items)
         if isinstance(items, Items):
             return items
         if isinstance(items, Mapping):
@@ -120,30 +137,8 @@ class Items(Sequence[Item]):
             raise TypeError(
                 f"items are pairs, a dict, a Series or Items, not {type(items).__name__}"
             )
-        return cls._of_rows(list(items))
-
-    @classmethod
-    def _of_rows(cls, rows: List[Any]) -> Items:
-        captions: List[str] = []
-        values: List[Any] = []
-        try:
-            for caption, value in rows:
-                captions.append(caption)
-                values.append(value)
-            packed = array(_VALUE_TYPE, values)
-            text = "\0".join(captions)
-        except (TypeError, ValueError, OverflowError):
-            pass
-        else:
-            # Without the constructor: after a drawing, each function that runs is far from the
-            # processor.
-            items = cls.__new__(cls)
-            items._values = packed
-            items._captions = tuple(captions)
-            items._text = text
-            items._colors = items._outlines = items._links = None
-            return items
-        return cls._of_long_rows(rows)
+        rows: Iterable[Any] = items
+        return cls.of(list(rows))
 
     @classmethod
     def _of_long_rows(cls, rows: List[Any]) -> Items:
