@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Fonts that the host brings along.
 #include "process/CAddedFonts.h"
+#include "process/CDefaultArithmetic.h"
 #include "process/CMessageSilencer.h"
 #include "process/CRendering.h"
 #include "process/font_gate.h"
@@ -33,6 +34,7 @@ std::vector<std::string> addFont(const unsigned char* bytes, std::size_t size)
 {
     if (!bytes)
         return {};
+    const CDefaultArithmetic arithmetic;
     const std::string_view file(reinterpret_cast<const char*>(bytes), size);
     const std::vector<QString> families = familiesInFile(file);
     if (families.empty())

@@ -15,6 +15,7 @@
 #include "paint/CCanvas.h"
 #include "pdf/CPdfSurface.h"
 #include "process/CAddedFonts.h"
+#include "process/CDefaultArithmetic.h"
 #include "svg/CSvgFrame.h"
 #include "svg/CSvgOutput.h"
 #include "text/one_line.h"
@@ -44,6 +45,7 @@ void CGraph1dBase::setThreshold(double percent)
 
 std::string CGraph1dBase::setByName(std::string_view name, std::string_view value)
 {
+    const CDefaultArithmetic arithmetic;
     std::string problem = applySetting(settingTarget(), name, value);
     if (problem.empty() && name == "threshold")
         m_actingThreshold.reset();
@@ -96,6 +98,7 @@ std::optional<std::size_t> CGraph1dBase::recordOf(std::size_t item) const
 
 std::string CGraph1dBase::describe() const
 {
+    const CDefaultArithmetic arithmetic;
     const std::optional<CLeftOut> others =
         m_others ? std::optional(m_others->leftOut) : std::nullopt;
     return describeChart(kindName(), input(), drawnItems(), others);

@@ -5,6 +5,7 @@
 #include "base/circle_geometry.h"
 #include "chart/CPieGraph.h"
 #include "layout/slice_outline.h"
+#include "process/CDefaultArithmetic.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -42,6 +43,7 @@ Slice toSlice(const CSliceAngles& slice, const QRectF& pie)
 
 std::vector<Slice> sliceRecords(const CPieGraph& graph)
 {
+    const CDefaultArithmetic arithmetic;
     std::vector<Slice> records(graph.recordCount(), kNoSlice);
     if (graph.isDrawn()) {
         for (const CPieSlice& slice : graph.layout().slices) {
@@ -61,6 +63,7 @@ void assignSlices(std::list<Slice>& list, const CPieGraph& graph)
 
 std::vector<Point> getPolygon(const Slice& slice)
 {
+    const CDefaultArithmetic arithmetic;
     const QRectF pie(slice.x, slice.y, slice.width, slice.height);
     std::vector<Point> points;
     for (const QPointF& corner : cdraw::outlineSlice(pie, slice.start, slice.span))

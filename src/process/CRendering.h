@@ -4,6 +4,7 @@
 #ifndef TOVANGL_PROCESS_CRENDERING_H
 #define TOVANGL_PROCESS_CRENDERING_H
 
+#include "process/CDefaultArithmetic.h"
 #include "process/CMessageSilencer.h"
 #include "process/font_gate.h"
 #include <tovangl/Problem.h>
@@ -13,8 +14,8 @@ namespace tovangl {
 /// Why nothing can be painted, if so. The application object is made if there is none.
 [[nodiscard]] Problem findObstacle();
 
-/// The scope of one rendering: the application object exists, Qt's messages are discarded, and the
-/// fonts stay as they are.
+/// The scope of one rendering: the application object exists, Qt's messages are discarded, the
+/// fonts stay as they are, and so does how numbers are rounded.
 class CRendering
 {
 public:
@@ -26,6 +27,7 @@ public:
     [[nodiscard]] Problem obstacle() const { return m_obstacle; }
 
 private:
+    const CDefaultArithmetic m_arithmetic;
     const CFontUse m_fontUse; // around all else: what is inside is in no thread's hands in a fork
     const CMessageSilencer m_silencer;
     Problem m_obstacle;

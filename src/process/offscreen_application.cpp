@@ -2,6 +2,7 @@
 // The application object that fonts and painting need in a host without a display.
 #include "process/offscreen_application.h"
 
+#include "process/CDefaultArithmetic.h"
 #include "process/CMessageSilencer.h"
 #include "process/font_gate.h"
 #include "process/free_descriptors.h"
@@ -154,6 +155,7 @@ bool ensureApplication()
         return true;
     if (isEnvironmentForeign() || !areDescriptorsFree())
         return false;
+    const CDefaultArithmetic arithmetic;
     const CMessageSilencer silencer;
     const CLocaleKeeper keeper;
     const CUserPermit permit;

@@ -26,6 +26,7 @@ struct CState
     std::string folder;
     mode_t mask;
     int rounding;
+    int traps;
     std::size_t threads;
     int inherited;
 };
@@ -99,6 +100,7 @@ CState currentState()
     state.folder = getcwd(folder, sizeof folder) ? folder : "";
     state.mask = currentMask();
     state.rounding = std::fegetround();
+    state.traps = fegetexcept();
     state.threads = entriesOf("/proc/self/task");
     state.inherited = inheritedFiles();
     return state;
@@ -124,6 +126,7 @@ void compare(const CState& before, const CState& after)
     expect(before.folder == after.folder, "the working directory");
     expect(before.mask == after.mask, "the umask");
     expect(before.rounding == after.rounding, "the rounding mode");
+    expect(before.traps == after.traps, "the traps of floating-point numbers");
     expect(before.threads == after.threads, "the number of threads");
     expect(before.inherited == after.inherited, "the files that a child inherits");
 }
@@ -140,6 +143,7 @@ void takeUncommonState()
     sigprocmask(SIG_BLOCK, &blocked, nullptr);
     umask(0123);
     std::fesetround(FE_TOWARDZERO);
+    feenableexcept(FE_ALL_EXCEPT);
 }
 
 } // namespace
