@@ -2,6 +2,8 @@
 // Keeps fontconfig's complaints out of the host's output.
 #include "process/CStderrSilencer.h"
 
+#include <QMetaType>
+
 #include <atomic>
 #include <cstddef>
 #include <thread>
@@ -9,6 +11,35 @@
 namespace tovangl {
 
 namespace {
+
+std::mutex mutexOfThisCopy;
+
+} // namespace
+
+/// The mutex of the copy of the library that made this object. All copies in a process must agree
+/// on its name and its layout, so a new layout needs a new name.
+struct CStderrMutex1
+{
+    std::mutex* mutex = &mutexOfThisCopy;
+};
+
+} // namespace tovangl
+
+Q_DECLARE_METATYPE(tovangl::CStderrMutex1)
+
+namespace tovangl {
+
+namespace {
+
+// Static copies of the library in one process share it: each would take the other's stream for the
+// host's, and restore it after its end. Qt registers types by name, and has the first copy make an
+// object of this one.
+std::mutex& sharedMutex()
+{
+    CStderrMutex1 shared;
+    QMetaType(qRegisterMetaType<CStderrMutex1>()).construct(&shared);
+    return *shared.mutex;
+}
 
 std::atomic<std::thread::id> silentThread;
 
@@ -38,7 +69,8 @@ void setStderr(std::FILE* stream)
 } // namespace
 
 CStderrSilencer::CStderrSilencer()
-    : m_hostStream(stderr)
+    : m_lock(sharedMutex())
+    , m_hostStream(stderr)
     , m_stream(openStream(m_hostStream))
 {
     silentThread = std::this_thread::get_id();

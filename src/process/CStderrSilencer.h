@@ -7,11 +7,12 @@
 #include <QtGlobal>
 
 #include <cstdio>
+#include <mutex>
 
 namespace tovangl {
 
 /// Discards what the calling thread writes to the C stream stderr while this object lives. What
-/// other threads write goes where it went before. The process can have one such object at a time.
+/// other threads write goes where it went before. A second object waits for the end of the first.
 ///
 /// Meanwhile the variable stderr is another stream, without a descriptor. It is never closed,
 /// because other threads may still be writing to it.
@@ -23,6 +24,7 @@ public:
     Q_DISABLE_COPY(CStderrSilencer)
 
 private:
+    const std::lock_guard<std::mutex> m_lock; // one object at a time
     std::FILE* m_hostStream;
     std::FILE* m_stream; // null if there is no memory for it
 };
