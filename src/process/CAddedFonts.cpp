@@ -124,17 +124,21 @@ const QString& CAddedFonts::nameFamily(const QString& family, Families& renamed)
 // names that they have, and are passed over by names that nobody asks for.
 void CAddedFonts::registerAgain(const CFile& file, CContent& addition)
 {
-    bool isAffected = false;
+    const auto renamed = [&addition](const QString& family) {
+        return addition.families.find(keyOf(family));
+    };
+    const auto isRenamed = [&](const QString& family) {
+        return renamed(family) != addition.families.end();
+    };
+    // A new name takes longer the more fonts there are.
+    if (std::none_of(file.families.begin(), file.families.end(), isRenamed))
+        return;
     std::vector<QString> names;
-    for (const QString& family : file.families) {
-        const auto entry = addition.families.find(keyOf(family));
-        const bool isRenamed = entry != addition.families.end();
-        isAffected |= isRenamed;
-        names.push_back(isRenamed ? entry->second.qtName : newName());
-    }
+    for (const QString& family : file.families)
+        names.push_back(isRenamed(family) ? renamed(family)->second.qtName : newName());
     const std::string_view bytes = viewOf(file.bytes);
     // The parts of a broken file can overlap, and new names destroy its old ones.
-    if (!isAffected || familiesInFile(bytes).size() != names.size())
+    if (familiesInFile(bytes).size() != names.size())
         return;
     addition.registrations.push_back({renamedFile(bytes, names), names});
     if (!registerFile(addition.registrations.back()))
