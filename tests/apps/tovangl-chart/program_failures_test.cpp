@@ -84,6 +84,8 @@ INSTANTIATE_TEST_SUITE_P(
         FailingCommand{"UnknownOption", "tovangl-chart pie --loud items -o x.png", "--loud"},
         FailingCommand{"OptionOfAnotherChart", "tovangl-chart pie --bar-width 3 items -o x.png",
                        "--bar-width"},
+        FailingCommand{"NoNameOfAFile", "tovangl-chart pie --output= --bold items",
+                       "--output: the file has no name"},
         FailingCommand{"Size", "tovangl-chart pie --size 100 items -o x.png",
                        "--size: \"100\" is not a size such as 800x600"},
         FailingCommand{"NoSize", "tovangl-chart pie --size 0x100 items -o x.png",

@@ -79,6 +79,25 @@ TEST_F(Pictures, StandardOutputGetsWhatAFileGets)
         EXPECT_EQ(folder.read(name), folder.read("a.png")) << name;
 }
 
+TEST_F(Pictures, AnOptionWithNothingBehindItsEqualsSignTakesNoOtherForItsValue)
+{
+    folder.write("items", kItems);
+    runWell("tovangl-chart pie --title \"\" --threshold 20 items -o a.png");
+    runWell("title=; tovangl-chart pie --title=$title --threshold 20 items -o b.png");
+    runWell("tovangl-chart pie --threshold 20 items -o c.png --title=");
+    EXPECT_EQ(folder.read("b.png"), folder.read("a.png"));
+    EXPECT_EQ(folder.read("c.png"), folder.read("a.png"));
+}
+
+TEST_F(Pictures, AFileCanHaveTheNameOfAnOptionBehindTwoHyphens)
+{
+    folder.write("items", kItems);
+    folder.write("--title=", kItems);
+    runWell("tovangl-chart pie -o a.png items");
+    runWell("tovangl-chart pie -o b.png -- --title=");
+    EXPECT_EQ(folder.read("b.png"), folder.read("a.png"));
+}
+
 class EveryChart : public Pictures, public ::testing::WithParamInterface<const char*>
 {
 protected:
