@@ -4,7 +4,7 @@
 
 #include "common/CFailure.h"
 
-#include <chrono>
+#include <cerrno>
 #include <filesystem>
 #include <limits>
 #include <optional>
@@ -40,16 +40,6 @@ std::optional<dev_t> fileSystemOf(const fs::path& path)
 {
     struct stat status = {};
     return ::stat(path.c_str(), &status) == 0 ? std::optional(status.st_dev) : std::nullopt;
-}
-
-// The file clock has its own epoch, a whole number of seconds away from the system clock's.
-std::int64_t secondsSince1970(fs::file_time_type time)
-{
-    using std::chrono::seconds;
-    static const seconds offset =
-        std::chrono::round<seconds>(std::chrono::system_clock::now().time_since_epoch() -
-                                    fs::file_time_type::clock::now().time_since_epoch());
-    return (std::chrono::floor<seconds>(time.time_since_epoch()) + offset).count();
 }
 
 long toBytes(std::uintmax_t size)
@@ -112,7 +102,7 @@ private:
         if (!error && entry.is_directory(error))
             enterFolder(entry.path());
         else if (!error && entry.is_regular_file(error))
-            takeFile(entry);
+            takeFile(entry.path());
         if (error)
             note(entry.path(), error);
     }
@@ -127,23 +117,22 @@ private:
         }
     }
 
-    void takeFile(const fs::directory_entry& entry)
+    // The system's own record, because the standard library tells no time after the year 2261.
+    void takeFile(const fs::path& path)
     {
-        std::error_code error;
-        const std::uintmax_t size = entry.file_size(error);
-        const fs::file_time_type time = error ? fs::file_time_type() : entry.last_write_time(error);
-        if (error) {
-            note(entry.path(), error);
+        struct stat status = {};
+        if (::lstat(path.c_str(), &status) != 0) {
+            note(path, std::error_code(errno, std::generic_category()));
             return;
         }
         FolderSummary& folder = *m_open.back().summary;
-        const long bytes = toBytes(size);
-        const std::string name = entry.path().filename();
+        const long bytes = toBytes(static_cast<std::uintmax_t>(status.st_size));
+        const std::string name = path.filename();
         ++folder.files;
         ++m_files;
         m_bytes = addBytes(m_bytes, bytes);
         folder.bytes = addBytes(folder.bytes, bytes);
-        folder.months.add(monthOf(secondsSince1970(time)), bytes);
+        folder.months.add(monthOf(status.st_mtim.tv_sec), bytes);
         folder.children.add({name, bytes, 0});
         if (bytes > 0)
             folder.largestFiles.add({name, bytes});

@@ -153,6 +153,20 @@ TEST_F(FolderWalk, SortsBytesByMonthOfLastChange)
     EXPECT_EQ(rows[1].name, "2024-03");
 }
 
+// Such times come from clocks that were wrong and from damaged archives.
+TEST_F(FolderWalk, CountsFilesWhoseTimeNoClockCouldTell)
+{
+    constexpr std::int64_t kYear2400 = 13569465600;
+    makeFile("far", 5);
+    const timespec times[] = {{0, 0}, {kYear2400, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, m_tree.pathOf("far").c_str(), times, 0), 0);
+    walk();
+    EXPECT_EQ(root().bytes, 5);
+    EXPECT_EQ(root().unreadable, 0U);
+    ASSERT_THAT(root().months.rows(), SizeIs(1));
+    EXPECT_EQ(root().months.rows()[0].name, "later");
+}
+
 TEST_F(FolderWalk, TakesNamesOfAnyBytes)
 {
     makeFile("\xff\xfe\n\x1b\"><script>", 5);
