@@ -105,14 +105,14 @@ def page_faults(draw, fast):
 
 
 def overhead(fast):
-    """The lowest and the median time of a chart by plain calls, and in Python; in turn."""
+    """The times of a chart by plain calls, and in Python; in turn."""
     plain_calls = PlainCalls()
     plain, python = [], []
     for _ in range(ROUNDS):
         plain.append(processor_time(plain_calls.draw, fast))
         python.append(processor_time(python_chart, fast))
     faults = [page_faults(draw, fast) for draw in (plain_calls.draw, python_chart)]
-    return [(min(times), statistics.median(times)) for times in (plain, python)], faults
+    return plain, python, faults
 
 
 def seconds_in_threads(jobs):
@@ -180,11 +180,13 @@ def print_threads():
 
 def print_overhead(name, fast):
     """One line for one way of saving."""
-    ((plain_low, plain_median), (python_low, python_median)), faults = overhead(fast)
+    plain, python, faults = overhead(fast)
+    plain_median = statistics.median(plain)
+    added = statistics.median(map(float.__sub__, python, plain))
     print(
-        f"{name}: {plain_low:.0f} ({plain_median:.0f}) us by plain calls, "
-        f"{python_low:.0f} ({python_median:.0f}) us in Python: "
-        f"{100 * (python_low / plain_low - 1):.1f} ({100 * (python_median / plain_median - 1):.1f}) %; "
+        f"{name}: {min(plain):.0f} ({plain_median:.0f}) us by plain calls, "
+        f"{min(python):.0f} ({statistics.median(python):.0f}) us in Python, which adds "
+        f"{added:.0f} us to the chart before it, in the median: {100 * added / plain_median:.1f} %; "
         f"page faults {faults[0]:.2f} and {faults[1]:.2f}"
     )
 
