@@ -5,11 +5,11 @@ from __future__ import annotations
 
 import re
 from types import MappingProxyType
-from typing import TYPE_CHECKING, Any, Dict, Mapping, Optional, Tuple, Union
+from typing import TYPE_CHECKING, Any, Dict, Mapping, Optional, Tuple, Type, Union
 
 from tovangl._items import Items
 from tovangl._library import KINDS
-from tovangl._picture import PNG, SVG, Links, PdfPicture, Picture, SvgPicture, check
+from tovangl._picture import PNG, SVG, Links, PdfPicture, Picture, Rendering, SvgPicture, check
 from tovangl._settings import Value, checked_settings, setting_text, settings_column
 from tovangl._tovangl import ffi, lib
 
@@ -29,6 +29,7 @@ _free_picture = lib.tovangl_chart_free_picture
 _destroy = lib.tovangl_chart_destroy
 _when_gone = ffi.gc
 _unpack = ffi.unpack
+_NO_LINKS = (ffi.NULL, 0, ffi.NULL)
 _RENDER_PNG = ffi.addressof(lib, "tovangl_chart_render")
 _RENDER_SVG = ffi.addressof(lib, "tovangl_chart_render_svg")
 _RENDER_PDF = ffi.addressof(lib, "tovangl_chart_render_pdf")
@@ -108,7 +109,7 @@ class Chart:
         Other threads of Python run meanwhile. Raises SettingError where a setting does not accept
         its value, PictureError where the picture cannot be made, and MemoryError.
         """
-        return Picture(*self._rendered(_RENDER_PNG, self._fields[5] or 0))
+        return self._rendered(Picture, _RENDER_PNG, self._fields[5] or 0)
 
     def render_svg(self) -> SvgPicture:
         """Draws the chart as SVG: shapes and texts instead of pixels, with nothing for ``print``.
@@ -118,7 +119,7 @@ class Chart:
         >>> Chart("pie", {"Rent": 1200}).render_svg().svg.startswith("<svg ")
         True
         """
-        return SvgPicture(*self._rendered(_RENDER_SVG))
+        return self._rendered(SvgPicture, _RENDER_SVG)
 
     def render_pdf(self) -> PdfPicture:
         """Draws the chart as a PDF page for paper, whose size is ``width`` and ``height`` in points.
@@ -128,16 +129,17 @@ class Chart:
         >>> Chart("pie", {"Rent": 1200}).render_pdf().pdf.startswith(b"%PDF-")
         True
         """
-        return PdfPicture(*self._rendered(_RENDER_PDF))
+        return self._rendered(PdfPicture, _RENDER_PDF)
 
-    def _rendered(self, render: Any, factor: int = 0) -> Tuple[Any, ...]:
-        """What a picture is made of, by one of the library's functions, or for print."""
+    def _rendered(self, picture: Type[Rendering], render: Any, factor: int = 0) -> Rendering:
+        """A picture by one of the library's functions, or for print."""
         kind, items, _, width, height, _, settings = self._fields
+        links = items.links
         drawing = _draw_chart(
             KINDS[kind],
             *settings_column(settings),
             *items.columns(),
-            *items.link_columns(),
+            *(_NO_LINKS if links is None else items.link_columns()),
             render,
             width,
             height,
@@ -148,8 +150,9 @@ class Chart:
             _fail(chart, drawing, settings)
         data: bytes = _unpack(drawing.data, drawing.size)
         _free_picture(chart)
-        links = _links_with_others(items, settings) if "others_link" in settings else items.links
-        return data, width, height, chart, links
+        if "others_link" in settings:
+            links = _links_with_others(items, settings)
+        return picture(data, width, height, chart, links)
 
     def to_json(self) -> str:
         """The chart as one line of JSON.

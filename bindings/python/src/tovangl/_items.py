@@ -36,7 +36,6 @@ if TYPE_CHECKING:
 
 _from_buffer = ffi.from_buffer
 _NULL = ffi.NULL
-_NO_LINKS = (_NULL, 0, _NULL)
 _VALUES = ffi.typeof("int64_t[]")
 _VALUE_TYPE = "q"  # 64 bits with a sign
 _VALUE_FORMATS = ("q", "l")
@@ -202,9 +201,12 @@ class Items(Sequence[Item]):
         return values, self._captions, self._colors, self._outlines, self._links
 
     def columns(self) -> Tuple[Any, ...]:
-        """The items as the library takes them."""
+        """The items as the library takes them, without their links."""
         count = len(self._captions)
-        text, offsets = _column_text(self._captions, self._text)
+        if self._text.count("\0") < count:
+            text, offsets = self._text.encode("utf-8", "surrogatepass"), _NULL
+        else:
+            text, offsets = _text_with_offsets(self._captions)
         return (
             count,
             _from_buffer(_VALUES, self._values),
@@ -216,11 +218,8 @@ class Items(Sequence[Item]):
         )
 
     def link_columns(self) -> Tuple[Any, ...]:
-        """The links likewise, with a null pointer where there are none."""
-        if self._links is None:
-            return _NO_LINKS
-        links = [link or "" for link in self._links]
-        text, offsets = _column_text(links, "\0".join(links))
+        """The links likewise."""
+        text, offsets = _text_with_offsets([link or "" for link in self._links or ()])
         return text, len(text), offsets
 
     def add_to(self, chart: Any) -> None:
@@ -333,10 +332,8 @@ def checked_color(color: Optional[str], name: str, place: int) -> Optional[str]:
     return color.lower()
 
 
-def _column_text(texts: Sequence[str], joined: str) -> Tuple[bytes, Any]:
-    """The texts as the library takes them: with offsets only where a text has a NUL itself."""
-    if joined.count("\0") < len(texts):
-        return joined.encode("utf-8", "surrogatepass"), _NULL
+def _text_with_offsets(texts: Sequence[str]) -> Tuple[bytes, Any]:
+    """The texts as the library takes them where one can have a NUL itself."""
     encoded = [text.encode("utf-8", "surrogatepass") for text in texts]
     return b"".join(encoded), [0, *accumulate(map(len, encoded))]
 

@@ -14,6 +14,7 @@ if TYPE_CHECKING:
     from collections.abc import Callable
 
 Record = TypeVar("Record")
+Rendering = TypeVar("Rendering", bound="_Rendering")
 Links = Tuple[Optional[str], ...]
 
 PNG = "image/png"
