@@ -70,6 +70,12 @@ def test_lines_can_be_bytes_and_have_every_character():
     assert Chart.from_json(json.dumps(json.loads(chart.to_json()))) == chart
 
 
+def test_the_first_line_of_a_file_can_begin_with_a_byte_order_mark():
+    chart = pie({"a": 1})
+    assert Chart.from_json("\ufeff" + chart.to_json()) == chart
+    assert Chart.from_json(b"\xef\xbb\xbf" + chart.to_json().encode()) == chart
+
+
 def test_an_item_needs_no_caption():
     assert Chart.from_json('{"chart": "pie", "items": [{"value": 1}]}') == pie({"": 1})
 

@@ -15,6 +15,7 @@ from tovangl._settings import checked_value, table_of
 
 _CHART_KEYS = ("chart", "id", "width", "height", "print", "items")
 _ITEM_KEYS = ("value", "caption", "color", "outline", "link")
+_BYTE_ORDER_MARK = "\ufeff"
 
 
 class _Object(Dict[str, Any]):
@@ -70,6 +71,7 @@ def _item_object(item: Item) -> Dict[str, Any]:
 def _parse(line: Union[str, bytes]) -> Any:
     try:
         text = line if isinstance(line, str) else line.decode()
+        text = text.removeprefix(_BYTE_ORDER_MARK)  # as the program does
         parsed = json.loads(text, object_pairs_hook=_make_object, parse_constant=_refuse_constant)
         _require_characters(text, parsed)
     except (ValueError, RecursionError) as error:
