@@ -3,8 +3,9 @@
 #include "chart/CGraph1dBase.h"
 
 #include "base/CGlobal.h"
-#include "base/host_text.h"
+#include "chart/CDrawnChart.h"
 #include "chart/description.h"
+#include "chart/document_texts.h"
 #include "chart/font_problem.h"
 #include "chart/problem_text.h"
 #include "input/CGraph1dInput.h"
@@ -18,7 +19,6 @@
 #include "process/CDefaultArithmetic.h"
 #include "svg/CSvgFrame.h"
 #include "svg/CSvgOutput.h"
-#include "text/one_line.h"
 
 #include <algorithm>
 
@@ -99,9 +99,13 @@ std::optional<std::size_t> CGraph1dBase::recordOf(std::size_t item) const
 std::string CGraph1dBase::describe() const
 {
     const CDefaultArithmetic arithmetic;
-    const std::optional<CLeftOut> others =
-        m_others ? std::optional(m_others->leftOut) : std::nullopt;
-    return describeChart(kindName(), input(), drawnItems(), others);
+    return describeChart(drawnChart());
+}
+
+CDrawnChart CGraph1dBase::drawnChart() const
+{
+    const auto others = m_others ? std::optional(m_others->leftOut) : std::nullopt;
+    return {kindName(), input(), drawnItems(), others};
 }
 
 void CGraph1dBase::forgetDrawing()
@@ -135,7 +139,7 @@ CPictureFile CGraph1dBase::getSvg(int width, int height)
 
 CPictureFile CGraph1dBase::writeSvg(CCanvas& canvas, const CRequest& request) const
 {
-    CSvgFrame frame = svgFrame(request, canvas.font());
+    CSvgFrame frame = svgFrame(drawnChart(), request, canvas.font());
     if (frame.isOneOfTwo)
         frame.darkColors = darkColors(frame, canvas, request);
     CSvgOutput output(frame);
@@ -169,7 +173,7 @@ CPictureFile CGraph1dBase::getPdf(int width, int height)
     CPdfSurface page(width, height);
     const Problem found =
         paintOn(page, {width * kScale, height * kScale, kScale, OutputDevice::Printer, kilo()});
-    CPictureFile file = page.file(pdfProperties());
+    CPictureFile file = page.file(pdfProperties(drawnChart()));
     m_problem = found;
     return file;
 }
@@ -263,32 +267,6 @@ Problem CGraph1dBase::findProblem(const CCanvas& canvas) const
                            : addedFontProblem(canvas.usedFamily(), added);
 }
 
-CSvgFrame CGraph1dBase::svgFrame(const CRequest& request, const QFont& font) const
-{
-    CSvgFrame frame{request.width, request.height, font};
-    const CGraph1dSettings& settings = input().settings;
-    frame.fontFamily = settings.fontFamily;
-    frame.picture = settings.colors.picture;
-    frame.title = settings.title.isEmpty() ? QString::fromLatin1(kindName()) : settings.title;
-    frame.description = toQString(describe());
-    frame.items = svgItems();
-    frame.isOneOfTwo = settings.followsDisplay;
-    return frame;
-}
-
-std::vector<CSvgItem> CGraph1dBase::svgItems() const
-{
-    std::vector<CSvgItem> items;
-    const auto add = [&](std::size_t position, const CGraph1dItem& item) {
-        items.push_back({position, itemTitle(item, input().settings.locale), item.link});
-    };
-    for (const std::size_t position : drawnItems())
-        add(position, input().items[position]);
-    if (const auto others = gatheredItem())
-        add(m_others->item, *others);
-    return items;
-}
-
 std::optional<CGraph1dItem> CGraph1dBase::gatheredItem() const
 {
     return m_others ? input().gatherOthers(m_others->leftOut) : std::nullopt;
@@ -297,16 +275,6 @@ std::optional<CGraph1dItem> CGraph1dBase::gatheredItem() const
 QString CGraph1dBase::addedFamily() const
 {
     return CAddedFonts::ofProcess().qtFamily(input().settings.fontFamily);
-}
-
-CPdfProperties CGraph1dBase::pdfProperties() const
-{
-    const CGraph1dSettings& settings = input().settings;
-    const QString description = toQString(describe());
-    const QString title = oneLine(settings.title);
-    const bool hasLanguage = settings.locale.language() != QLocale::C;
-    return {title.isEmpty() ? description : title, description,
-            hasLanguage ? settings.locale.bcp47Name() : QStringLiteral("en")};
 }
 
 void CGraph1dBase::recordCaptions(const std::vector<QRect>& captions)

@@ -23,10 +23,9 @@ namespace tovangl {
 class CCanvas;
 class CChartOutput;
 class CTextMeasurer;
+struct CDrawnChart;
 struct CGraph1dInput;
-struct CPdfProperties;
 struct CSvgFrame;
-struct CSvgItem;
 
 /// What the texts of a drawn chart cover.
 struct CDrawnTexts
@@ -133,7 +132,7 @@ private:
     [[nodiscard]] bool wantsOthers() const;
     [[nodiscard]] CKilo kilo() const;
     [[nodiscard]] CRequest screenRequest(int width, int height) const;
-    [[nodiscard]] std::vector<CSvgItem> svgItems() const;
+    [[nodiscard]] CDrawnChart drawnChart() const;
     // The item that the last rendering gathered, as far as the host still wants it.
     [[nodiscard]] std::optional<CGraph1dItem> gatheredItem() const;
     // Begins a rendering; whether a picture of that size can be made.
@@ -146,13 +145,11 @@ private:
     [[nodiscard]] QString addedFamily() const;
     // Lays out and paints; returns what was wrong with that.
     [[nodiscard]] Problem paintOn(QPaintDevice& device, const CRequest& request);
-    [[nodiscard]] CPdfProperties pdfProperties() const;
     // The chart as laid out, as an SVG file.
     [[nodiscard]] CPictureFile writeSvg(CCanvas& canvas, const CRequest& request) const;
     // The colours of a picture in the dark theme, in the order in which they are written.
     [[nodiscard]] std::vector<QColor> darkColors(CSvgFrame frame, CCanvas& canvas,
                                                  const CRequest& request) const;
-    [[nodiscard]] CSvgFrame svgFrame(const CRequest& request, const QFont& font) const;
     void recordCaptions(const std::vector<QRect>& captions);
 
     // Apart from the last layout, only these outlive a rendering: an item that a rendering leaves

@@ -2,6 +2,7 @@
 // A chart in one sentence.
 #include "chart/description.h"
 
+#include "chart/CDrawnChart.h"
 #include "input/CGraph1dInput.h"
 #include "text/number_text.h"
 #include "text/one_line.h"
@@ -81,23 +82,22 @@ QString gathered(const CLeftOut& others, const QLocale& locale)
 
 } // namespace
 
-std::string describeChart(const char* kind, const CGraph1dInput& input,
-                          const std::vector<std::size_t>& drawn,
-                          const std::optional<CLeftOut>& others)
+std::string describeChart(const CDrawnChart& chart)
 {
+    const CGraph1dInput& input = chart.input;
     const QLocale& locale = input.settings.locale;
     std::vector<const CGraph1dItem*> items;
-    items.reserve(drawn.size());
-    for (const std::size_t position : drawn)
+    items.reserve(chart.items.size());
+    for (const std::size_t position : chart.items)
         items.push_back(&input.items[position]);
     const auto count = [&locale](std::size_t number) {
         return numberOf(static_cast<long long>(number), locale);
     };
-    const QString text = introduction(input.settings.title) + QLatin1String(kind) +
-                         QLatin1String(", ") + count(items.size()) + QLatin1String(" of ") +
-                         count(input.items.size()) + QLatin1String(" items drawn") +
-                         extremes(items, locale) +
-                         (others ? gathered(*others, locale) : QString()) + QLatin1Char('.');
+    const QString text =
+        introduction(input.settings.title) + QLatin1String(chart.kind) + QLatin1String(", ") +
+        count(items.size()) + QLatin1String(" of ") + count(input.items.size()) +
+        QLatin1String(" items drawn") + extremes(items, locale) +
+        (chart.others ? gathered(*chart.others, locale) : QString()) + QLatin1Char('.');
     const QByteArray bytes = text.toUtf8();
     return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }

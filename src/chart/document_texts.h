@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// What SVG and PDF files say of a chart besides showing it.
+#ifndef TOVANGL_CHART_DOCUMENT_TEXTS_H
+#define TOVANGL_CHART_DOCUMENT_TEXTS_H
+
+class QFont;
+
+namespace tovangl {
+
+struct CDrawnChart;
+struct CPdfProperties;
+struct CRequest;
+struct CSvgFrame;
+
+/// @param font  that the layout was measured with
+[[nodiscard]] CSvgFrame svgFrame(const CDrawnChart& chart, const CRequest& request,
+                                 const QFont& font);
+[[nodiscard]] CPdfProperties pdfProperties(const CDrawnChart& chart);
+
+} // namespace tovangl
+
+#endif
