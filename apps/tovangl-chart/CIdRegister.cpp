@@ -76,15 +76,13 @@ bool CIdRegister::add(const std::string& id)
 {
     const std::string text = id + '\n';
     const std::uint64_t hash = std::hash<std::string>()(m_salt + text);
-    for (std::uint64_t index = hash;; ++index) {
-        const Slot slot = slotAt(index);
-        if (slot.end == 0)
-            break;
+    std::uint64_t index = hash;
+    for (Slot slot = slotAt(index); slot.end != 0; slot = slotAt(++index)) {
         if (slot.hash == hash && isTextAt(slot.end, text))
             return false;
     }
     appendText(text);
-    insert({hash, m_textEnd});
+    setSlot(index, {hash, m_textEnd});
     if (++m_usedSlots * kSlotsPerText > m_slotCount)
         grow();
     return true;

@@ -12,21 +12,22 @@ namespace tovangl::program {
 
 namespace {
 
-std::string mapOf(const ChartDescription& chart, const DrawnChart& drawn, MapForm form)
+std::string mapOf(const ChartDescription& chart, const ChartRegions& regions, MapForm form)
 {
-    if (form == MapForm::None)
-        return {};
-    return form == MapForm::File ? regionMapJson(chart.items, drawn.regions)
-                                 : regionMapLine(chart.items, drawn.regions);
+    return form == MapForm::File ? regionMapJson(chart.items, regions)
+                                 : regionMapLine(chart.items, regions);
 }
 
 void draw(const ChartDescription& chart, const AnswerRules& rules, BatchAnswer& answer)
 {
-    DrawnChart drawn = drawDescription(chart, rules.format, rules.family);
-    answer.map = mapOf(chart, drawn, rules.map);
+    DrawnChart drawn =
+        drawDescription(chart, {rules.format, rules.family, rules.map != MapForm::None});
     answer.picture = std::move(drawn.picture);
-    answer.description = std::move(drawn.regions.description);
     answer.problem = std::move(drawn.problem);
+    if (!drawn.regions)
+        return;
+    answer.map = mapOf(chart, *drawn.regions, rules.map);
+    answer.description = std::move(drawn.regions->description);
 }
 
 void fill(BatchAnswer& answer, const NumberedLine& line, const AnswerRules& rules)

@@ -42,7 +42,7 @@ struct BatchAnswer
     std::string failure;    ///< empty, or why there is no picture
     bool isThere = false;   ///< passed over, because its files are there
     std::string picture;
-    std::string map;
+    std::string map; ///< empty, like the next one: not wanted
     std::string description;
     std::string problem; ///< of the picture; empty where all is well
 };

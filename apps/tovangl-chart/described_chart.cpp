@@ -75,34 +75,40 @@ void addShapes(BarChart& chart, ChartRegions& regions)
 }
 
 template <typename Chart>
-DrawnChart draw(const ChartDescription& description, PictureFormat format,
-                const std::string& family)
+ChartRegions regionsOf(Chart& chart, const ChartDescription& description, PictureFormat format)
+{
+    ChartRegions regions = captionRegions(chart, description.kind.name,
+                                          regionSize(description, format), description.settings);
+    addShapes(chart, regions);
+    return regions;
+}
+
+template <typename Chart>
+DrawnChart draw(const ChartDescription& description, const DrawingRules& rules)
 {
     Chart chart(false);
-    if (!family.empty())
-        chart.setByName("font", family);
+    if (!rules.family.empty())
+        chart.setByName("font", rules.family);
     applyDescribed(chart, description.settings);
     addItems(chart, description.items);
     setLinks(chart, description.items);
     DrawnChart drawn;
-    drawn.picture = render(chart, description, format);
-    drawn.regions = captionRegions(chart, description.kind.name, regionSize(description, format),
-                                   description.settings);
-    addShapes(chart, drawn.regions);
+    drawn.picture = render(chart, description, rules.format);
+    if (rules.wantsRegions)
+        drawn.regions = regionsOf(chart, description, rules.format);
     drawn.problem = chart.problemText();
     return drawn;
 }
 
 } // namespace
 
-DrawnChart drawDescription(const ChartDescription& description, PictureFormat format,
-                           const std::string& family)
+DrawnChart drawDescription(const ChartDescription& description, const DrawingRules& rules)
 {
     if (description.kind.bit == Setting::VerticalBars)
-        return draw<VerticalBarGraph>(description, format, family);
+        return draw<VerticalBarGraph>(description, rules);
     if (description.kind.bit == Setting::HorizontalBars)
-        return draw<HorizontalBarGraph>(description, format, family);
-    return draw<PieGraph>(description, format, family);
+        return draw<HorizontalBarGraph>(description, rules);
+    return draw<PieGraph>(description, rules);
 }
 
 } // namespace tovangl::program

@@ -8,24 +8,30 @@
 #include "tovangl-chart/picture_format.h"
 #include "tovangl-chart/region_map.h"
 
+#include <optional>
 #include <string>
 
 namespace tovangl::program {
 
+/// What is wanted of every chart.
+struct DrawingRules
+{
+    PictureFormat format = PictureFormat::Png; ///< a factor for print is for PNG alone
+    std::string family = {}; ///< the font's, where a description names none; empty for the default
+    bool wantsRegions = true;
+};
+
 struct DrawnChart
 {
     std::string picture;
-    ChartRegions regions;
+    std::optional<ChartRegions> regions; ///< where they are wanted
     std::string problem; ///< one sentence about the picture; empty where all is well
 };
 
 /// Throws CFailure with the place and the reason if a setting or a link is refused, or there is no
 /// picture. Different threads can draw at once.
-///
-/// @param format  of the picture; a factor for print is for PNG alone
-/// @param family  the font's family where the description names none; empty for the default
-[[nodiscard]] DrawnChart drawDescription(const ChartDescription& description, PictureFormat format,
-                                         const std::string& family);
+[[nodiscard]] DrawnChart drawDescription(const ChartDescription& description,
+                                         const DrawingRules& rules);
 
 } // namespace tovangl::program
 

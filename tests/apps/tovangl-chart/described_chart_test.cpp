@@ -18,7 +18,7 @@ using ::testing::ThrowsMessage;
 
 DrawnChart drawn(const std::string& json, PictureFormat format = PictureFormat::Png)
 {
-    return drawDescription(parseDescription(json), format, "");
+    return drawDescription(parseDescription(json), {format});
 }
 
 TEST(DescribedChart, IsThePictureOfTheLibrary)
@@ -42,31 +42,39 @@ TEST(DescribedChart, IsThePictureOfTheLibrary)
 TEST(DescribedChart, TellsTheRegionsOfItsKind)
 {
     const DrawnChart pie = drawn(R"({"chart": "pie", "items": [{"value": 1}]})");
-    ASSERT_TRUE(pie.regions.slices && !pie.regions.bars);
-    EXPECT_THAT(*pie.regions.slices, SizeIs(1));
+    ASSERT_TRUE(pie.regions->slices && !pie.regions->bars);
+    EXPECT_THAT(*pie.regions->slices, SizeIs(1));
     const DrawnChart bars = drawn(R"({"chart": "hbars", "items": [{"value": 1}, {"value": 2}]})");
-    ASSERT_TRUE(bars.regions.bars && !bars.regions.slices);
-    EXPECT_THAT(*bars.regions.bars, SizeIs(2));
-    EXPECT_THAT(bars.regions.description, StartsWith("Horizontal bar chart, 2 of 2"));
+    ASSERT_TRUE(bars.regions->bars && !bars.regions->slices);
+    EXPECT_THAT(*bars.regions->bars, SizeIs(2));
+    EXPECT_THAT(bars.regions->description, StartsWith("Horizontal bar chart, 2 of 2"));
+}
+
+TEST(DescribedChart, TellsRegionsWhereTheyAreWanted)
+{
+    const ChartDescription pie = parseDescription(R"({"chart": "pie", "items": [{"value": 1}]})");
+    const DrawnChart bare = drawDescription(pie, {PictureFormat::Png, "", false});
+    EXPECT_FALSE(bare.regions);
+    EXPECT_EQ(bare.picture, drawDescription(pie, {}).picture);
 }
 
 TEST(DescribedChart, IsMeasuredInPixelsOfThePicture)
 {
     const DrawnChart scaled =
         drawn(R"({"chart": "bars", "width": 300, "height": 200, "scale": 2, "items": []})");
-    EXPECT_EQ(scaled.regions.size.width, 600);
+    EXPECT_EQ(scaled.regions->size.width, 600);
     const DrawnChart printed = drawn(
         R"({"chart": "bars", "width": 300, "height": 200, "scale": 2, "print": 3, "items": []})");
-    EXPECT_EQ(printed.regions.size.height, 600);
+    EXPECT_EQ(printed.regions->size.height, 600);
 }
 
 TEST(DescribedChart, IsMeasuredInPixelsOfItsFormat)
 {
     constexpr const char* kChart = R"({"chart": "bars", "width": 300, "height": 200, "scale": 2,
                                        "print": 3, "items": []})";
-    EXPECT_EQ(drawn(kChart, PictureFormat::Png).regions.size.width, 900);
-    EXPECT_EQ(drawn(kChart, PictureFormat::Svg).regions.size.width, 600);
-    EXPECT_EQ(drawn(kChart, PictureFormat::Pdf).regions.size.width, 1200);
+    EXPECT_EQ(drawn(kChart, PictureFormat::Png).regions->size.width, 900);
+    EXPECT_EQ(drawn(kChart, PictureFormat::Svg).regions->size.width, 600);
+    EXPECT_EQ(drawn(kChart, PictureFormat::Pdf).regions->size.width, 1200);
 }
 
 TEST(DescribedChart, HasTheFormatThatIsAskedFor)
@@ -96,7 +104,7 @@ TEST(DescribedChart, LeadsFromItsOthersToTheirLink)
         "others_link": "rest.html?a&b", "items": [{"value": 3}, {"value": 1}]})",
                                  PictureFormat::Svg);
     EXPECT_THAT(pie.picture, HasSubstr("href=\"rest.html?a&amp;b\""));
-    EXPECT_EQ(pie.regions.others->link, "rest.html?a&b");
+    EXPECT_EQ(pie.regions->others->link, "rest.html?a&b");
 }
 
 TEST(DescribedChart, NamesTheItemWhoseLinkIsRefused)
@@ -127,7 +135,7 @@ TEST(DescribedChart, IsInTheFamilyGivenUnlessItNamesOne)
     constexpr const char* kNamed = R"({"chart": "pie", "font": "DejaVu Serif",
                                        "items": [{"value": 1, "caption": "x"}]})";
     const auto inFamily = [](const char* json, const char* family) {
-        return drawDescription(parseDescription(json), PictureFormat::Png, family).picture;
+        return drawDescription(parseDescription(json), {PictureFormat::Png, family}).picture;
     };
     EXPECT_EQ(inFamily(kUnnamed, "DejaVu Serif"), drawn(kNamed).picture);
     EXPECT_EQ(inFamily(kNamed, "DejaVu Sans Mono"), drawn(kNamed).picture);

@@ -29,7 +29,7 @@ const Json& schema()
 
 DrawnChart drawn(const std::string& json)
 {
-    return drawDescription(parseDescription(json), PictureFormat::Png, "");
+    return drawDescription(parseDescription(json), {});
 }
 
 TEST(DescriptionSchema, HasEverySettingAndNoOtherKeyThanTheChartsOwn)
