@@ -53,7 +53,7 @@ void drawSmall(ChartDescription chart, PictureFormat format)
     chart.size = kSize;
     chart.printFactor.reset();
     try {
-        require(!drawDescription(chart, format, "").picture.empty(), "what is drawn has bytes");
+        require(!drawDescription(chart, {format}).picture.empty(), "what is drawn has bytes");
     } catch (const CFailure& failure) {
         require(makePrintable(failure.what()) == failure.what(), "a refusal is safe to print");
     }

@@ -3,7 +3,7 @@
 #include "chart/CGraph1dBase.h"
 
 #include "base/CGlobal.h"
-#include "chart/CDrawnChart.h"
+#include "chart/CChartSummary.h"
 #include "chart/description.h"
 #include "chart/document_texts.h"
 #include "chart/font_problem.h"
@@ -99,10 +99,10 @@ std::optional<std::size_t> CGraph1dBase::recordOf(std::size_t item) const
 std::string CGraph1dBase::describe() const
 {
     const CDefaultArithmetic arithmetic;
-    return describeChart(drawnChart());
+    return describeChart(summary());
 }
 
-CDrawnChart CGraph1dBase::drawnChart() const
+CChartSummary CGraph1dBase::summary() const
 {
     const auto others = m_others ? std::optional(m_others->leftOut) : std::nullopt;
     return {kindName(), input(), drawnItems(), others};
@@ -139,7 +139,7 @@ CPictureFile CGraph1dBase::getSvg(int width, int height)
 
 CPictureFile CGraph1dBase::writeSvg(CCanvas& canvas, const CRequest& request) const
 {
-    CSvgFrame frame = svgFrame(drawnChart(), request, canvas.font());
+    CSvgFrame frame = svgFrame(summary(), request, canvas.font());
     if (frame.isOneOfTwo)
         frame.darkColors = darkColors(frame, canvas, request);
     CSvgOutput output(frame);
@@ -173,7 +173,7 @@ CPictureFile CGraph1dBase::getPdf(int width, int height)
     CPdfSurface page(width, height);
     const Problem found =
         paintOn(page, {width * kScale, height * kScale, kScale, OutputDevice::Printer, kilo()});
-    CPictureFile file = page.file(pdfProperties(drawnChart()));
+    CPictureFile file = page.file(pdfProperties(summary()));
     m_problem = found;
     return file;
 }

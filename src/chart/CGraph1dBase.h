@@ -23,7 +23,7 @@ namespace tovangl {
 class CCanvas;
 class CChartOutput;
 class CTextMeasurer;
-struct CDrawnChart;
+struct CChartSummary;
 struct CGraph1dInput;
 struct CSvgFrame;
 
@@ -132,7 +132,7 @@ private:
     [[nodiscard]] bool wantsOthers() const;
     [[nodiscard]] CKilo kilo() const;
     [[nodiscard]] CRequest screenRequest(int width, int height) const;
-    [[nodiscard]] CDrawnChart drawnChart() const;
+    [[nodiscard]] CChartSummary summary() const;
     // The item that the last rendering gathered, as far as the host still wants it.
     [[nodiscard]] std::optional<CGraph1dItem> gatheredItem() const;
     // Begins a rendering; whether a picture of that size can be made.

@@ -2,7 +2,7 @@
 // A chart in one sentence.
 #include "chart/description.h"
 
-#include "chart/CDrawnChart.h"
+#include "chart/CChartSummary.h"
 #include "input/CGraph1dInput.h"
 #include "text/number_text.h"
 #include "text/one_line.h"
@@ -82,7 +82,7 @@ QString gathered(const CLeftOut& others, const QLocale& locale)
 
 } // namespace
 
-std::string describeChart(const CDrawnChart& chart)
+std::string describeChart(const CChartSummary& chart)
 {
     const CGraph1dInput& input = chart.input;
     const QLocale& locale = input.settings.locale;

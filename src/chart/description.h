@@ -12,12 +12,12 @@ class QLocale;
 
 namespace tovangl {
 
-struct CDrawnChart;
+struct CChartSummary;
 struct CGraph1dItem;
 
 /// Says how many items were drawn, and names the greatest and the least of them, for a picture's
 /// alternative text. UTF-8.
-[[nodiscard]] std::string describeChart(const CDrawnChart& chart);
+[[nodiscard]] std::string describeChart(const CChartSummary& chart);
 
 /// An item in a few words, such as: Rent: 1,200. For what is shown while a pointer rests on it.
 [[nodiscard]] QString itemTitle(const CGraph1dItem& item, const QLocale& locale);

@@ -3,7 +3,7 @@
 #include "chart/document_texts.h"
 
 #include "base/host_text.h"
-#include "chart/CDrawnChart.h"
+#include "chart/CChartSummary.h"
 #include "chart/description.h"
 #include "input/CGraph1dInput.h"
 #include "layout/CRequest.h"
@@ -15,7 +15,7 @@ namespace tovangl {
 
 namespace {
 
-std::vector<CSvgItem> svgItems(const CDrawnChart& chart)
+std::vector<CSvgItem> svgItems(const CChartSummary& chart)
 {
     const CGraph1dInput& input = chart.input;
     std::vector<CSvgItem> items;
@@ -32,7 +32,7 @@ std::vector<CSvgItem> svgItems(const CDrawnChart& chart)
 
 } // namespace
 
-CSvgFrame svgFrame(const CDrawnChart& chart, const CRequest& request, const QFont& font)
+CSvgFrame svgFrame(const CChartSummary& chart, const CRequest& request, const QFont& font)
 {
     CSvgFrame frame{request.width, request.height, font};
     const CGraph1dSettings& settings = chart.input.settings;
@@ -45,7 +45,7 @@ CSvgFrame svgFrame(const CDrawnChart& chart, const CRequest& request, const QFon
     return frame;
 }
 
-CPdfProperties pdfProperties(const CDrawnChart& chart)
+CPdfProperties pdfProperties(const CChartSummary& chart)
 {
     const CGraph1dSettings& settings = chart.input.settings;
     const QString description = toQString(describeChart(chart));

@@ -8,15 +8,15 @@ class QFont;
 
 namespace tovangl {
 
-struct CDrawnChart;
+struct CChartSummary;
 struct CPdfProperties;
 struct CRequest;
 struct CSvgFrame;
 
 /// @param font  that the layout was measured with
-[[nodiscard]] CSvgFrame svgFrame(const CDrawnChart& chart, const CRequest& request,
+[[nodiscard]] CSvgFrame svgFrame(const CChartSummary& chart, const CRequest& request,
                                  const QFont& font);
-[[nodiscard]] CPdfProperties pdfProperties(const CDrawnChart& chart);
+[[nodiscard]] CPdfProperties pdfProperties(const CChartSummary& chart);
 
 } // namespace tovangl
 

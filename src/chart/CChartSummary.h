@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 /// @file
 /// What the last rendering of a chart drew.
-#ifndef TOVANGL_CHART_CDRAWNCHART_H
-#define TOVANGL_CHART_CDRAWNCHART_H
+#ifndef TOVANGL_CHART_CCHARTSUMMARY_H
+#define TOVANGL_CHART_CCHARTSUMMARY_H
 
 #include "input/CLeftOut.h"
 
@@ -15,7 +15,7 @@ namespace tovangl {
 struct CGraph1dInput;
 
 /// For the texts that tell of it.
-struct CDrawnChart
+struct CChartSummary
 {
     const char* kind; ///< in words, such as: Pie chart
     const CGraph1dInput& input;
